@@ -1,0 +1,412 @@
+#pragma once
+
+#include "log/log.h"
+#include "package.h"
+#include "python/python.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+
+#include <atomic>
+#include <csignal>
+
+class HProgressBar;
+class QEventLoop;
+class QThread;
+class QWidget;
+class YumIOCapturers;
+class YumIODialogs;
+
+namespace Progress
+{
+class Object;
+}
+
+// The package engine: owns the interpreter session, the log and the table of entries; collects
+// packages and groups, answers detail queries and runs transactions through the script.
+//
+// Operations are called on the GUI thread; those named ...Real and the callbacks run on the one
+// worker thread, with the interpreter lock held. While a job runs the GUI thread needs the
+// interpreter for nothing. Failures are reported to the user by the engine itself, once; the
+// callers learn them as false, null or an empty text.
+class YumIO : public QObject, private Python
+{
+    Q_OBJECT
+
+public:
+    // The gate that keeps a worker from running before the GUI thread's event loop does.
+    class Blocker
+    {
+    public:
+        void prepare() { m_mutex.lock(); }
+        void release() { m_mutex.unlock(); }
+        void block();
+
+    private:
+        QMutex m_mutex;
+    };
+
+    // Key of an entry: packages by name and architecture family, groups by name alone.
+    struct EntryKey
+    {
+        EntryKey(bool isGroup, QString name, QString arch);
+        bool operator==(const EntryKey &other) const = default;
+        bool isGroup;
+        QString name;
+        QString arch;
+    };
+
+    // Kinds of repository activity, six for each repository.
+    enum class RepoAct { MirrorList = 0, RepoMd = 1, Primary = 2, FileLists = 3, Other = 4, Groups = 5 };
+
+    // Key of one download's progress.
+    struct ThreadId
+    {
+        QString text;
+        RepoAct act;
+        operator long() const;
+    };
+
+    YumIO();
+    ~YumIO() override;
+
+    // `parent` is the parent of every dialog; the bars show the progress of jobs. Call once, before
+    // initialize.
+    void setup(QWidget *parent, HProgressBar *totalBar, HProgressBar *itemBar);
+    // Starts the interpreter and the script. May be called again after a failure.
+    bool initialize();
+
+    // Jobs: each runs on a worker thread while a local event loop serves the GUI thread.
+    bool collect(const QHash<QString, bool> &reposUsed);
+    bool collectFileLists();
+    bool collectOtherData();
+    bool apply();
+    void clearEntries();
+    void clear();
+    // Empties the store at exit without touching the interpreter.
+    void clearEntriesBeforeQuit();
+
+    // The published rows. Empty while a clear or a collection runs.
+    QList<Package::Entry *>::const_iterator begin() const;
+    QList<Package::Entry *>::const_iterator end() const;
+    Package::Entry *operator[](int row) const;
+    int count() const;
+
+    // Texts of an entry; empty when there is nothing. The first block needs no interpreter.
+    QString getName(const Package::Entry &) const;
+    QString getVerRel(const Package::Entry &) const;
+    QString getRepo(const Package::Entry &) const;
+    QString getArch(const Package::Entry &) const;
+    QString getSize(const Package::Entry &) const;
+    QString getSummary(const Package::Entry &) const;
+    QString getBuildTime(const Package::Entry &) const;
+    static QString getState(Package::State);
+    static QString getKind(Package::Kind);
+    QString getState(const Package::Entry &) const;
+    QString getKind(const Package::Entry &) const;
+
+    QString getDescription(const Package::Entry &);
+    QString getGroup(const Package::Entry &);
+    QString getVendor(const Package::Entry &);
+    QString getBuildHost(const Package::Entry &);
+    QString getInstallTime(const Package::Entry &);
+    QString getBinaryRpm(const Package::Entry &);
+    QString getSourceRpm(const Package::Entry &);
+    QString getLicense(const Package::Entry &);
+    QString getPackager(const Package::Entry &);
+    QString getUrl(const Package::Entry &);
+    QString getRelocations(const Package::Entry &);
+    QString getProvides(const Package::Entry &);
+    QString getRequires(const Package::Entry &);
+    QString getConflicts(const Package::Entry &);
+    QString getObsoletes(const Package::Entry &);
+    QString getFiles(const Package::Entry &);
+    QString getChangeLog(const Package::Entry &);
+    QString getRequiredGroups(const Package::Entry &);
+    QString getDefaultMetaPkgs(const Package::Entry &);
+    QString getOptionalMetaPkgs(const Package::Entry &);
+    QString getMandatoryPkgs(const Package::Entry &);
+    QString getDefaultPkgs(const Package::Entry &);
+    QString getOptionalPkgs(const Package::Entry &);
+    QString getConditionalPkgs(const Package::Entry &);
+    QString getYumVar(const QString &name);
+    bool hasFileLists() const { return m_fileListsLoaded; }
+    bool hasOtherData() const { return m_otherDataLoaded; }
+
+    // Library version and what it can do; the script probes are asked once and cached.
+    QString yumVersionStr();
+    long yumVersion();
+    bool hasDistribGroups();
+    bool hasTransTest();
+    bool hasPickledCache();
+    bool hasSqliteCache();
+    bool usesSqlite();
+    bool usesPresto();
+    bool hasMultiProgress();
+
+    // Cache cleaning; true on success.
+    bool cleanHeaders();
+    bool cleanPackages();
+    bool cleanXmlMetadata();
+    bool cleanPickledCache();
+    bool cleanSqliteCache();
+    bool cleanAll();
+
+    Log::EntryList &logList() { return m_log; }
+    void log(Log::Kind kind, unsigned int level, QString text);
+    void write(const QString &text, Log::Kind kind, unsigned int level, QString &tail);
+    void writeStdout(const QString &text);
+    void writeStderr(const QString &text);
+
+    // Reports: logged, then shown in a box on the GUI thread.
+    void error(const QString &text);
+    void warning(const QString &text);
+
+    // Asks the running job to stop where it honestly can. Any thread.
+    void cancel() { m_cancelled = true; }
+
+    static bool parseEnvra(const QString &envra, QString &name, QString &epoch, QString &version,
+                           QString &release, QString &arch);
+    static bool parseEnvra(const QString &envra, QString &name, QString &arch);
+
+public Q_SLOTS:
+    void blockerRelease();
+
+Q_SIGNALS:
+    // File lists or other data were loaded, or forgotten by a collection.
+    void collectedExtraData();
+    // The running job's state ("lock", "metadata", "resolve", "download", "transaction", "done")
+    // and whether it can be cancelled now.
+    void jobState(const QString &state, bool canCancel);
+
+private:
+    friend class YumIOC;
+    friend class CollectThread;
+    friend class ClearEntriesThread;
+    friend class CollectFileListsThread;
+    friend class CollectOtherDataThread;
+    friend class ApplyThread;
+    friend class YumIOCapturers;
+    friend class YumIOCapturersMinion;
+    friend class YumIODialogsUser;
+
+    using EntryHash = QHash<EntryKey, Package::Entry *>;
+    using EntryPredicate = bool (YumIO::*)(Package::Entry *);
+
+    // lifecycle.cpp
+    void execWorkThread(QEventLoop &loop, QThread &thread);
+    void clearEntriesReal();
+    void releaseEntries(bool withInterpreter);
+    bool createYumIO();
+
+    // collect.cpp
+    bool collectReal(const QHash<QString, bool> &reposUsed);
+    bool useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed);
+    QStringList collectRepos(PyObject *reposDict);
+    bool collectField(EntryHash &hash, PyObject *all, const char *field, Package::State state);
+    bool collectSet(EntryHash &hash, PyObject *iterable, Package::State state);
+    bool collectPkg(Package::Entry *&slot, Package::State state, PyObject *po);
+    bool collectGroups(EntryHash &hash, PyObject *groupInfo);
+    bool collectGroup(Package::Entry *&slot, PyObject *group, const QString &name);
+    Package::Entry *&findUpdateablePackage(const QString &name, const QString &arch);
+    bool upToDateGroup(const Package::Entry *group);
+    bool upToDateGroupGrps(const Package::Entry *group, const char *attribute);
+    bool upToDateGroupPkgs(const Package::Entry *group, const char *oldAttribute,
+                           const char *newAttribute);
+    Package::Entry *findPackage(const QString &name);
+    Package::Entry *findPackage(const QString &name, EntryPredicate predicate);
+    QString getBiArch(const QString &arch);
+    Package::Kind getPkgKind(PyObject *po);
+
+    // details.cpp and convert.cpp
+    bool collectFileListsReal();
+    bool collectOtherDataReal();
+    QString pyString(PyObject *obj);
+    QString pyStringDec(PyObject *obj);
+    QString pyStringX(PyObject *obj);
+    QString pyStringXDec(PyObject *obj);
+    qint64 pyTime(PyObject *obj);
+    qint64 pyTimeDec(PyObject *obj);
+    quint64 sizeOf(PyObject *po);
+    qint64 buildTimeOf(PyObject *po);
+    const char *pyDescribe(PyObject *obj);
+    static QString makeSorted(QStringList &list);
+    static QString makeSortedUniq(QStringList &list);
+    QString simpleString(PyObject *po, const char *key);
+    PyObject *getRpmHdrValue(PyObject *po, const char *tag);
+    QString getRpmTime(PyObject *po, const char *tag);
+    QString getRpmList(PyObject *po, const char *tag);
+    QString getPrco(PyObject *po, const char *tag, const char *key);
+    QString getGroupGrps(const Package::Entry &entry, const char *attribute);
+    QString getGroupPkgs(const Package::Entry &entry, const char *oldAttribute,
+                         const char *newAttribute);
+    PyObject *getGroupItem_22(const Package::Entry &entry, const char *attribute);
+    PyObject *getGroupItem_25(const Package::Entry &entry, const char *attribute);
+
+    // apply.cpp
+    bool applyReal();
+    bool applyLists(PyObject *installs, PyObject *updates, PyObject *removes);
+    QString getLocalPkg(PyObject *po);
+    QString getLocalHdr(PyObject *po);
+    bool hasNotStartedUpdate(Package::Entry *entry);
+    bool hasNotStartedRemove(Package::Entry *entry);
+
+    // groups.cpp
+    bool applyGroups();
+    bool applyGrpUpdate(const Package::Entry *group);
+    bool applyGrpInstall(const Package::Entry *group);
+    bool applyGrpRemove(const Package::Entry *group);
+    int applyGrpConflict(const Package::Entry *group, Package::Entry *package);
+    void applyGrpLog(const Package::Entry *group, const Package::Entry *package);
+    void applyGrpLogWas(const Package::Entry *group, const Package::Entry *package);
+    void applyGrpLogNot(const Package::Entry *group, const Package::Entry *package,
+                        Package::Action action, const QString &reason);
+    bool requiredPkgs(const Package::Entry *group, QSet<QString> &names);
+    bool allPkgs(const Package::Entry *group, QSet<QString> &names);
+    bool pkgTree(const QString &name, QStringList &names);
+
+    // transaction.cpp: resolution reports, listing, weighing
+    void dsTsInfo(const char *text);
+    Package::Entry *dsTsFindPkg(const QString &pkg);
+    void dsTsNewPkg(const QString &pkg, Package::Entry *entry, unsigned int ops, bool mayDownload);
+    QString pkgtupFormat(PyObject *pkgtup);
+    QString pkgtupRepoFormat(PyObject *pkgtup, const QString &repo);
+    bool displayTransactionPkgs(const QString &title, PyObject *list);
+    bool displayTransactionPkgsRepo(const QString &title, PyObject *list);
+    bool displayTransactionPkgsObs(const QString &title, PyObject *list);
+    void noteTransactionPkgs(Package::Action action, PyObject *list);
+    bool makeLists(PyObject *owner, PyObject *&tsInfo, PyObject *&made, PyObject *&updated,
+                   PyObject *&installed, PyObject *&removed, PyObject *&obsoleted,
+                   PyObject *&depupdated, PyObject *&depinstalled, PyObject *&depremoved);
+
+    // errors.cpp
+    void error(const char *message) override;
+    void warning(const char *message) override;
+    void pyExceptExpect(PyObject *type) override;
+    void pyExceptClear() override;
+    void exceptionExpected() override {}
+    void commExceptSetup();
+    bool commExceptRaised(PyObject *result, const QString &what);
+    void pythonException(const QString &text);
+    void pythonExceptionV(const QString &text);
+    bool reapChildren();
+    void sigchldDisable();
+    void sigchldRestore();
+
+    // clean.cpp
+    bool cleanOne(const QString &heading, const char *method);
+    bool cleanCode(const char *method);
+
+    // Callbacks of the module yumIOC; each gets the call's arguments and returns a new reference,
+    // or null with the interpreter's error set.
+    PyObject *stdoutWrite(PyObject *self, PyObject *args);
+    PyObject *stderrWrite(PyObject *self, PyObject *args);
+    PyObject *log(PyObject *self, PyObject *args);
+    PyObject *errorlog(PyObject *self, PyObject *args);
+    PyObject *collectProgress(PyObject *self, PyObject *args);
+    PyObject *collectGrabMeterStart(PyObject *self, PyObject *args);
+    PyObject *collectGrabMeterUpdate(PyObject *self, PyObject *args);
+    PyObject *collectGrabMeterEnd(PyObject *self, PyObject *args);
+    PyObject *collectGrabMeterFailure(PyObject *self, PyObject *args);
+    PyObject *collectGrabMultiMeterStart(PyObject *self, PyObject *args);
+    PyObject *collectGrabMultiMeterNew(PyObject *self, PyObject *args);
+    PyObject *collectGrabMultiMeterRemove(PyObject *self, PyObject *args);
+    PyObject *collectGrabMultiMeterEnd(PyObject *self, PyObject *args);
+    PyObject *applyGrabMeterStart(PyObject *self, PyObject *args);
+    PyObject *applyGrabMeterUpdate(PyObject *self, PyObject *args);
+    PyObject *applyGrabMeterEnd(PyObject *self, PyObject *args);
+    PyObject *applyGrabMeterFailure(PyObject *self, PyObject *args);
+    PyObject *applyGrabMultiMeterStart(PyObject *self, PyObject *args);
+    PyObject *applyGrabMultiMeterNew(PyObject *self, PyObject *args);
+    PyObject *applyGrabMultiMeterRemove(PyObject *self, PyObject *args);
+    PyObject *applyGrabMultiMeterEnd(PyObject *self, PyObject *args);
+    PyObject *dsTsCheck(PyObject *self, PyObject *args);
+    PyObject *dsRestartLoop(PyObject *self, PyObject *args);
+    PyObject *userconfirm(PyObject *self, PyObject *args);
+    PyObject *reportDownloadSize(PyObject *self, PyObject *args);
+    PyObject *listTransaction(PyObject *self, PyObject *args);
+    PyObject *tsInitCallback(PyObject *self, PyObject *args);
+    PyObject *tsCallback(PyObject *self, PyObject *args);
+    PyObject *tsEvent(PyObject *self, PyObject *args);
+    PyObject *postTransactionOutput(PyObject *self, PyObject *args);
+    PyObject *gpgsigcheck(PyObject *self, PyObject *args);
+    PyObject *cancelled(PyObject *self, PyObject *args);
+    PyObject *jobState(PyObject *self, PyObject *args);
+    PyObject *lockWait(PyObject *self, PyObject *args);
+    PyObject *keyQuestion(PyObject *self, PyObject *args);
+    PyObject *transactionReport(PyObject *self, PyObject *args);
+
+    // Session
+    QWidget *m_parent = nullptr;
+    YumIODialogs *m_dialogs = nullptr;
+    HProgressBar *m_totalBar = nullptr;
+    HProgressBar *m_itemBar = nullptr;
+    Progress::Object *m_progress = nullptr; // set while a job's Progress::User lives
+    PyObject *m_yumIOClass = nullptr;
+    PyObject *m_yumIO = nullptr;
+    PyObject *m_rpmDict = nullptr;
+    enum ExceptionType {
+        BdbQuit,
+        YumBaseError,
+        RepoError,
+        SqliteOperationalError,
+        LockError,
+        GroupsError,
+        NoMoreMirrorsRepoError,
+        ExceptionTypeCount
+    };
+    PyObject *m_exceptionTypes[ExceptionTypeCount] = {};
+    bool m_locked = false;
+    bool m_versionKnown = false;
+    QString m_versionStr;
+    bool m_sqliteKnown = false, m_sqlite = false;
+    bool m_prestoKnown = false, m_presto = false;
+    bool m_multiKnown = false, m_multi = false;
+    Blocker m_blocker;
+    std::atomic<bool> m_cancelled = false;
+
+    // Store
+    Package::EntryList m_entries;
+    Package::EntryList m_noEntries;
+    EntryHash m_byKey;
+    QHash<QString, Package::Entry *> m_best;
+    QSet<QString> m_archFamilies;
+    std::atomic<bool> m_clearing = false;
+    QStringList m_enabledRepos;
+    QString m_basearch;
+    bool m_fileListsLoaded = false;
+    bool m_otherDataLoaded = false;
+
+    // Log and capture
+    Log::EntryList m_log;
+    QString m_stdoutTail;
+    QString m_stderrTail;
+    Log::Kind m_stderrKind = Log::Kind::Error;
+    unsigned int m_stderrLevel = 0;
+    YumIOCapturers *m_capturers = nullptr;
+    int m_logMark = -1;
+    struct sigaction m_savedSigchld = {};
+
+    // Apply
+    QString m_pendingText;
+    bool m_listingShown = false;
+    bool m_applied = false;
+    quint32 m_actPosition = 0;
+    quint32 m_opCount = 0;
+    quint32 m_downloadCount = 0;
+    quint32 m_passActs = 0;
+    quint32 m_resolutionActs = 0;
+    qint64 m_bytesTotal = 0;
+    qint64 m_bytesToDownload = 0;
+    qint64 m_downloadBudget = 0;
+    qint64 m_transactionWeight = 0;
+    qint64 m_lastTsElement = 0;
+    bool m_deltaRebuildShown = false;
+    bool m_eventsStarted = false;
+    bool m_multiMeterActive = false;
+};
+
+size_t qHash(const YumIO::EntryKey &key, size_t seed = 0);
