@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+// The text with every password in a URL of it replaced by the same number of asterisks: credentials
+// that Repo::Kivvet recognises, and the "user:password@" of any URL. Any thread.
+QString maskPasswords(const QString &text);
