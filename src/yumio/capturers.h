@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QSemaphore>
 #include <QStringDecoder>
 
@@ -41,7 +42,7 @@ private:
     void read(Stream &stream, qsizetype limit);
     void drain(Stream &stream);
 
-    YumIO *m_engine;
+    QPointer<YumIO> m_engine;
     bool m_initialized = false;
     Stream m_stdout;
     Stream m_stderr;
@@ -61,11 +62,15 @@ public:
 private:
     bool openPipes();
     bool redirect();
+    bool restore();
 
     YumIO *m_engine;
     int m_saved[2] = {-1, -1};
     int m_readEnds[2] = {-1, -1};
     int m_writeEnds[2] = {-1, -1};
+    bool m_redirected[2] = {false, false};
+    QtMessageHandler m_outerHandler = nullptr;
+    bool m_handlerInstalled = false;
     YumIOCapturersMinion *m_minion = nullptr;
 };
 

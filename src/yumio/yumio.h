@@ -20,8 +20,7 @@ class QWidget;
 class YumIOCapturers;
 class YumIODialogs;
 
-namespace Progress
-{
+namespace Progress {
 class Object;
 }
 
@@ -60,7 +59,14 @@ public:
     };
 
     // Kinds of repository activity, six for each repository.
-    enum class RepoAct { MirrorList = 0, RepoMd = 1, Primary = 2, FileLists = 3, Other = 4, Groups = 5 };
+    enum class RepoAct {
+        MirrorList = 0,
+        RepoMd = 1,
+        Primary = 2,
+        FileLists = 3,
+        Other = 4,
+        Groups = 5
+    };
 
     // Key of one download's progress.
     struct ThreadId
@@ -160,6 +166,8 @@ public:
     void write(const QString &text, Log::Kind kind, unsigned int level, QString &tail);
     void writeStdout(const QString &text);
     void writeStderr(const QString &text);
+    // Logs the unfinished last lines of both streams as they stand.
+    void flushTails();
 
     // Reports: logged, then shown in a box on the GUI thread.
     void error(const QString &text);
@@ -290,11 +298,16 @@ private:
     void exceptionExpected() override {}
     void commExceptSetup();
     bool commExceptRaised(PyObject *result, const QString &what);
+    QString exceptionText();
+    void walkback();
+    QString errorLinesSince(qsizetype start);
     void pythonException(const QString &text);
     void pythonExceptionV(const QString &text);
     bool reapChildren();
     void sigchldDisable();
     void sigchldRestore();
+    // Shows once what the script knows of a transaction that was cut off before this run.
+    void reportInterrupted();
 
     // clean.cpp
     bool cleanOne(const QString &heading, const char *method);

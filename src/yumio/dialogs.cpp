@@ -1,0 +1,187 @@
+#include "dialogs.h"
+
+#include "mask.h"
+#include "widgets/messagebox.h"
+#include "widgets/scrollabledialogs.h"
+
+#include <QApplication>
+#include <QThread>
+
+namespace {
+
+// A box that grows with its text cannot show a text beyond this; the log has it whole.
+constexpr qsizetype boxTextLimit = 8000;
+
+bool isDisruptive(QChar c)
+{
+    const ushort u = c.unicode();
+    const bool control = u < 0x20 && u != '\n' && u != '\t';
+    const bool direction = (u >= 0x202a && u <= 0x202e) || (u >= 0x2066 && u <= 0x2069);
+    return control || u == 0x7f || direction;
+}
+
+// What comes from packages and servers must not reorder, hide or cut the text around it.
+QString showable(const QString &text)
+{
+    QString result = maskPasswords(text);
+    for (QChar &c : result) {
+        if (isDisruptive(c))
+            c = QChar::ReplacementCharacter;
+    }
+    return result;
+}
+
+QString boxText(const QString &text)
+{
+    QString result = showable(text);
+    if (result.size() > boxTextLimit)
+        result = result.left(boxTextLimit) + QStringLiteral(" ...");
+    return result;
+}
+
+} // namespace
+
+YumIODialogsMinion::YumIODialogsMinion(QWidget *parent) : m_parent(parent) {}
+
+// A dialog of a minimised window would stay unseen while the job waits for its answer.
+void YumIODialogsMinion::summonWindow()
+{
+    if (!m_parent)
+        return;
+    QWidget *window = m_parent->window();
+    if (window->isMinimized())
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    QApplication::alert(window);
+}
+
+void YumIODialogsMinion::confirm(const QString &title, const QString &text, const QString &yesText,
+                                 const QString &noText)
+{
+    summonWindow();
+    ScrollableConfirmDialog dialog(showable(text), yesText, noText, m_parent);
+    dialog.setWindowTitle(title);
+    Q_EMIT setResult(dialog.exec());
+}
+
+void YumIODialogsMinion::warning(const QString &title, const QString &text, const QString &button0,
+                                 const QString &button1, const QString &button2, int defaultButton,
+                                 int escapeButton)
+{
+    summonWindow();
+    Q_EMIT setResult(showMessageBox(QMessageBox::Warning, m_parent, title, boxText(text), button0,
+                                    button1, button2, defaultButton, escapeButton));
+}
+
+void YumIODialogsMinion::critical(const QString &title, const QString &text, const QString &button0,
+                                  const QString &button1, const QString &button2, int defaultButton,
+                                  int escapeButton)
+{
+    summonWindow();
+    Q_EMIT setResult(showMessageBox(QMessageBox::Critical, m_parent, title, boxText(text), button0,
+                                    button1, button2, defaultButton, escapeButton));
+}
+
+void YumIODialogsMinion::scrollable(const QString &title, const QString &text)
+{
+    summonWindow();
+    ScrollableErrorDialog dialog(showable(text), m_parent);
+    dialog.setWindowTitle(title);
+    dialog.exec();
+    Q_EMIT setResult(0);
+}
+
+YumIODialogs::YumIODialogs(QWidget *parent)
+    : m_parent(parent), m_minion(new YumIODialogsMinion(parent))
+{
+    m_minion->moveToThread(QCoreApplication::instance()->thread());
+    connect(m_minion, &YumIODialogsMinion::setResult, this, &YumIODialogs::setResult);
+    connect(this, &YumIODialogs::confirmSig, m_minion, &YumIODialogsMinion::confirm);
+    connect(this, &YumIODialogs::warningSig, m_minion, &YumIODialogsMinion::warning);
+    connect(this, &YumIODialogs::criticalSig, m_minion, &YumIODialogsMinion::critical);
+    connect(this, &YumIODialogs::scrollableSig, m_minion, &YumIODialogsMinion::scrollable);
+}
+
+YumIODialogs::~YumIODialogs()
+{
+    m_minion->deleteLater();
+}
+
+bool YumIODialogs::isForeign() const
+{
+    return QThread::currentThread() != thread();
+}
+
+int YumIODialogs::confirm(const QString &title, const QString &text, const QString &yesText,
+                          const QString &noText)
+{
+    if (isForeign())
+        return YumIODialogs(m_parent).confirm(title, text, yesText, noText);
+    m_ready = false;
+    Q_EMIT confirmSig(title, text, yesText, noText);
+    waitForResult();
+    return m_result;
+}
+
+int YumIODialogs::warning(const QString &title, const QString &text, const QString &button0,
+                          const QString &button1, const QString &button2, int defaultButton,
+                          int escapeButton)
+{
+    if (isForeign()) {
+        return YumIODialogs(m_parent).warning(title, text, button0, button1, button2, defaultButton,
+                                              escapeButton);
+    }
+    m_ready = false;
+    Q_EMIT warningSig(title, text, button0, button1, button2, defaultButton, escapeButton);
+    waitForResult();
+    return m_result;
+}
+
+int YumIODialogs::critical(const QString &title, const QString &text, const QString &button0,
+                           const QString &button1, const QString &button2, int defaultButton,
+                           int escapeButton)
+{
+    if (isForeign()) {
+        return YumIODialogs(m_parent).critical(title, text, button0, button1, button2,
+                                               defaultButton, escapeButton);
+    }
+    m_ready = false;
+    Q_EMIT criticalSig(title, text, button0, button1, button2, defaultButton, escapeButton);
+    waitForResult();
+    return m_result;
+}
+
+void YumIODialogs::scrollable(const QString &title, const QString &text)
+{
+    if (isForeign()) {
+        YumIODialogs(m_parent).scrollable(title, text);
+        return;
+    }
+    m_ready = false;
+    Q_EMIT scrollableSig(title, text);
+    waitForResult();
+}
+
+void YumIODialogs::waitForResult()
+{
+    if (!m_ready)
+        m_loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void YumIODialogs::setResult(int result)
+{
+    m_ready = true;
+    m_result = result;
+    m_loop.quit();
+}
+
+YumIODialogsUser::YumIODialogsUser(YumIODialogs *&slot, QWidget *parent)
+    : m_slot(slot), m_outer(slot)
+{
+    m_slot = new YumIODialogs(parent);
+}
+
+YumIODialogsUser::~YumIODialogsUser()
+{
+    delete m_slot;
+    m_slot = m_outer;
+}

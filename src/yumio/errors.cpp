@@ -1,0 +1,229 @@
+#include "python/pyref.h"
+
+#include "dialogs.h"
+#include "mask.h"
+#include "yumio.h"
+
+#include <QMutexLocker>
+
+#include <cerrno>
+#include <cstring>
+#include <sys/wait.h>
+
+void YumIO::error(const QString &text)
+{
+    log(Log::Kind::Error, 0, text);
+    if (m_dialogs)
+        m_dialogs->critical(tr("VOK Yum Error"), text, QString(), QString(), QString(), 0, -1);
+}
+
+void YumIO::warning(const QString &text)
+{
+    log(Log::Kind::Warning, 0, text);
+    if (m_dialogs)
+        m_dialogs->warning(tr("VOK Yum Warning"), text, QString(), QString(), QString(), 0, -1);
+}
+
+void YumIO::error(const char *message)
+{
+    error(QString::fromUtf8(message));
+}
+
+void YumIO::warning(const char *message)
+{
+    warning(QString::fromUtf8(message));
+}
+
+void YumIO::pyExceptExpect(PyObject *type)
+{
+    {
+        QMutexLocker lock(&m_log.mutex());
+        m_logMark = int(m_log.entries().size());
+    }
+    Python::pyExceptExpect(type);
+}
+
+void YumIO::pyExceptClear()
+{
+    m_logMark = -1;
+    Python::pyExceptClear();
+}
+
+void YumIO::commExceptSetup()
+{
+    pyExceptExpect(m_exceptionTypes[BdbQuit]);
+    pyExceptExpect(m_exceptionTypes[YumBaseError]);
+    pyExceptExpect(m_exceptionTypes[RepoError]);
+    pyExceptExpect(PyExc_IOError);
+    pyExceptExpect(PyExc_KeyboardInterrupt);
+    pyExceptExpect(PyExc_AssertionError);
+    if (m_exceptionTypes[SqliteOperationalError])
+        pyExceptExpect(m_exceptionTypes[SqliteOperationalError]);
+    if (m_exceptionTypes[NoMoreMirrorsRepoError])
+        pyExceptExpect(m_exceptionTypes[NoMoreMirrorsRepoError]);
+}
+
+// The pending exception's text; it stays pending.
+QString YumIO::exceptionText()
+{
+    const PyRef value(pyExceptValuef());
+    return value ? pyStringX(value.get()) : QString();
+}
+
+// Prints the pending exception with its traceback to the interpreter's standard error, which ends
+// in the log, and clears it.
+void YumIO::walkback()
+{
+    PyObject *type, *value, *traceback;
+    PyErr_Fetch(&type, &value, &traceback);
+    PyErr_NormalizeException(&type, &value, &traceback);
+    if (type)
+        PyErr_Display(type, value, traceback);
+    Py_XDECREF(type);
+    Py_XDECREF(value);
+    Py_XDECREF(traceback);
+}
+
+bool YumIO::commExceptRaised(PyObject *result, const QString &what)
+{
+    const auto raised = [&](PyObject *type) { return type && pyExceptMatches(result, type); };
+
+    if (raised(PyExc_IOError)) {
+        const QString value = exceptionText();
+        walkback();
+        error(tr("Unable to %1: I/O Error: %2\n\nEmitting a walkback to the Log window.")
+                  .arg(what, value));
+    } else if (raised(PyExc_KeyboardInterrupt)) {
+        walkback();
+        error(tr("Unable to %1: KeyboardInterrupt\n\n"
+                 "This usually means VOK was sent signal SIGINT, SIGTERM, or similar.\n\n"
+                 "But urlgrabber also can raise this error for several situations where it is "
+                 "just guessing.\n"
+                 "So, emitting a walkback to the Log window.")
+                  .arg(what));
+    } else if (raised(PyExc_AssertionError)) {
+        walkback();
+        error(tr("Internal error: python assertion failed\n"
+                 "When reporting this issue, please include the contents of the\n"
+                 "Log window, which should contain a walkback."));
+    } else if (raised(m_exceptionTypes[NoMoreMirrorsRepoError])) {
+        error(tr("Unable to %1: metadata unavailable from all repo mirrors:\n%2")
+                  .arg(what, exceptionText()));
+    } else if (raised(m_exceptionTypes[RepoError]) ||
+               raised(m_exceptionTypes[SqliteOperationalError])) {
+        if (exceptionText().contains(QLatin1String("database is locked"))) {
+            pythonException(
+                tr("Unable to %1: a repository's sqlite database was locked unexpectedly\n"
+                   "On some distributions, PackageKit has been known to cause this.")
+                    .arg(what));
+        } else {
+            exceptionError();
+        }
+    } else if (raised(m_exceptionTypes[BdbQuit]) || raised(m_exceptionTypes[YumBaseError])) {
+        pythonExceptionV(tr("Unable to %1").arg(what));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// What failed calls wrote: the important error lines from `start` on, oldest first.
+QString YumIO::errorLinesSince(qsizetype start)
+{
+    QStringList lines;
+    QMutexLocker lock(&m_log.mutex());
+    const auto &entries = m_log.entries();
+    for (qsizetype i = start; i < entries.size(); ++i) {
+        if (entries[i].kind == Log::Kind::Error && entries[i].level < 3)
+            lines.append(entries[i].text);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void YumIO::pythonException(const QString &text)
+{
+    qsizetype start = m_logMark;
+    if (start == -1) {
+        QMutexLocker lock(&m_log.mutex());
+        start = m_log.entries().size();
+    }
+    log(Log::Kind::Error, 0, text);
+    if (m_dialogs)
+        m_dialogs->scrollable(tr("VOK Yum Error"), errorLinesSince(start));
+}
+
+void YumIO::pythonExceptionV(const QString &text)
+{
+    // Both lines belong to the report, so the mark is set before the first when there is none.
+    const int outerMark = m_logMark;
+    if (m_logMark == -1) {
+        QMutexLocker lock(&m_log.mutex());
+        m_logMark = int(m_log.entries().size());
+    }
+    log(Log::Kind::Error, 0, exceptionText());
+    pythonException(text);
+    m_logMark = outerMark;
+}
+
+bool YumIO::reapChildren()
+{
+    for (;;) {
+        const pid_t pid = ::waitpid(-1, nullptr, WNOHANG);
+        if (pid == 0 || (pid == -1 && errno == ECHILD))
+            return true;
+        if (pid == -1) {
+            const int cause = errno;
+            error(tr("Unable to reap children; errno=%1 (%2)")
+                      .arg(cause)
+                      .arg(QString::fromLocal8Bit(std::strerror(cause))));
+            return false;
+        }
+        log(Log::Kind::Warning, 0, tr("Reaped zombie child %1").arg(pid));
+    }
+}
+
+void YumIO::sigchldDisable()
+{
+    struct sigaction action = {};
+    action.sa_handler = SIG_DFL;
+    sigemptyset(&action.sa_mask);
+    if (::sigaction(SIGCHLD, &action, &m_savedSigchld) == -1) {
+        const int cause = errno;
+        error(tr("Unable to disable SIGCHLD signal handler; errno=%1 (%2)")
+                  .arg(cause)
+                  .arg(QString::fromLocal8Bit(std::strerror(cause))));
+    }
+}
+
+void YumIO::sigchldRestore()
+{
+    if (::sigaction(SIGCHLD, &m_savedSigchld, nullptr) == -1) {
+        const int cause = errno;
+        error(tr("Unable to restore SIGCHLD signal handler; errno=%1 (%2)")
+                  .arg(cause)
+                  .arg(QString::fromLocal8Bit(std::strerror(cause))));
+    }
+}
+
+void YumIO::reportInterrupted()
+{
+    if (!m_yumIO || !PyObject_HasAttrString(m_yumIO, "interrupted"))
+        return;
+    const PyRef result(pyMethodCall(m_yumIO, "interrupted", "()"));
+    const PyRef iterator(result && result.get() != Py_None ? PyObject_GetIter(result.get())
+                                                           : nullptr);
+    QStringList lines;
+    while (iterator) {
+        const PyRef line(PyIter_Next(iterator.get()));
+        if (!line)
+            break;
+        lines.append(pyString(line.get()));
+    }
+    PyErr_Clear();
+    if (lines.isEmpty())
+        return;
+    const QString text = lines.join(QLatin1Char('\n'));
+    log(Log::Kind::Warning, 0, text);
+    if (m_dialogs)
+        m_dialogs->scrollable(tr("VOK Interrupted Transaction"), text);
+}

@@ -1,0 +1,133 @@
+#include "python/pyref.h"
+
+#include "mask.h"
+#include "yumio.h"
+
+#include <QMutexLocker>
+#include <QRegularExpression>
+
+namespace {
+
+// A line that does not end is logged in pieces of this many characters.
+constexpr qsizetype tailLimit = 1024 * 1024;
+
+} // namespace
+
+// The list's mutex guards the tails too: the interpreter writes on the worker thread, the reader of
+// a capture on the GUI thread.
+void YumIO::write(const QString &text, Log::Kind kind, unsigned int level, QString &tail)
+{
+    bool appended = false;
+    {
+        QMutexLocker lock(&m_log.mutex());
+        const auto append = [&](const QString &line) {
+            m_log.entries().append(Log::Entry(kind, level, maskPasswords(line)));
+            appended = true;
+        };
+        qsizetype begin = 0;
+        for (;;) {
+            const qsizetype end = text.indexOf(QLatin1Char('\n'), begin);
+            if (end == -1)
+                break;
+            append(tail + QStringView(text).mid(begin, end - begin));
+            tail.clear();
+            begin = end + 1;
+        }
+        tail += QStringView(text).mid(begin);
+        if (tail.size() > tailLimit) {
+            append(tail);
+            tail.clear();
+        }
+    }
+    if (appended)
+        m_log.emitAppended();
+}
+
+void YumIO::writeStdout(const QString &text)
+{
+    write(text, Log::Kind::Ok, 0, m_stdoutTail);
+}
+
+void YumIO::writeStderr(const QString &text)
+{
+    write(text, Log::Kind::Error, 0, m_stderrTail);
+}
+
+void YumIO::flushTails()
+{
+    bool appended = false;
+    {
+        QMutexLocker lock(&m_log.mutex());
+        const auto flush = [&](QString &tail, Log::Kind kind, unsigned int level) {
+            if (tail.isEmpty())
+                return;
+            m_log.entries().append(Log::Entry(kind, level, maskPasswords(tail)));
+            tail.clear();
+            appended = true;
+        };
+        flush(m_stdoutTail, Log::Kind::Ok, 0);
+        flush(m_stderrTail, m_stderrKind, m_stderrLevel);
+    }
+    if (appended)
+        m_log.emitAppended();
+}
+
+void YumIO::log(Log::Kind kind, unsigned int level, QString text)
+{
+    static const QRegularExpression errnoDetail(QStringLiteral(": (\\[Errno [0-9]*\\] )"));
+    text.replace(errnoDetail, QStringLiteral(":\n\\1"));
+    const QStringList lines = maskPasswords(text).split(QLatin1Char('\n'));
+    {
+        QMutexLocker lock(&m_log.mutex());
+        for (const QString &line : lines)
+            m_log.entries().append(Log::Entry(kind, level, line));
+    }
+    m_log.emitAppended();
+}
+
+PyObject *YumIO::stdoutWrite(PyObject *, PyObject *args)
+{
+    const char *text;
+    if (!PyArg_ParseTuple(args, "s", &text))
+        return nullptr;
+    writeStdout(QString::fromUtf8(text));
+    Py_RETURN_NONE;
+}
+
+PyObject *YumIO::stderrWrite(PyObject *, PyObject *args)
+{
+    const char *text;
+    if (!PyArg_ParseTuple(args, "s", &text))
+        return nullptr;
+    write(QString::fromUtf8(text), m_stderrKind, m_stderrLevel, m_stderrTail);
+    Py_RETURN_NONE;
+}
+
+PyObject *YumIO::log(PyObject *, PyObject *args)
+{
+    long level;
+    const char *text;
+    if (!PyArg_ParseTuple(args, "ls", &level, &text))
+        return nullptr;
+    const QString message = QString::fromUtf8(text);
+    if (!m_listingShown)
+        m_pendingText += message + QLatin1Char('\n');
+    log(Log::Kind::Normal, static_cast<unsigned int>(level), message);
+    static constexpr char tsInfo[] = "TSINFO: ";
+    if (qstrncmp(text, tsInfo, sizeof tsInfo - 1) == 0)
+        dsTsInfo(text + sizeof tsInfo - 1);
+    Py_RETURN_NONE;
+}
+
+PyObject *YumIO::errorlog(PyObject *, PyObject *args)
+{
+    long level;
+    const char *text;
+    if (!PyArg_ParseTuple(args, "ls", &level, &text))
+        return nullptr;
+    const QString message = QString::fromUtf8(text);
+    if (!m_listingShown)
+        m_pendingText += message + QLatin1Char('\n');
+    log(Log::Kind::Error, static_cast<unsigned int>(level), message);
+    Py_RETURN_NONE;
+}
