@@ -1,0 +1,174 @@
+#pragma once
+
+#include "packagetable/packagetable.h"
+#include "repo/yumrepoenabled.h"
+
+#include <QHash>
+#include <QList>
+#include <QMainWindow>
+
+#include <functional>
+
+class HFrameLabel;
+class HMenu;
+class HProgressBar;
+class QAction;
+class QBoxLayout;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class YumConfIO;
+class YumIO;
+
+namespace Log {
+class Window;
+}
+
+namespace PackageTable {
+class Model;
+class SortFilterProxyModel;
+class View;
+} // namespace PackageTable
+
+// The program's only top-level window: owns the engine, the repository configuration and the
+// package table, and starts every job from one of its slots. One job runs at a time; while it runs
+// the controls are disabled and the slots do nothing.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow();
+    ~MainWindow() override;
+
+    // Settings of the command line, to be made before the window is shown.
+    void setMode(PackageTable::Mode mode);
+    void setRegexp(const char *regexp);
+    void setStateFilter(PackageTable::StateFilter stateFilter);
+    void setDups(bool dups);
+    void setGroups(bool groups);
+    void setStartInEditor(bool startInEditor) { m_startInEditor = startInEditor; }
+    void setShowLogAtStart(bool showLogAtStart) { m_showLogAtStart = showLogAtStart; }
+    void addRepoRequest(const YumRepoEnabled &request);
+
+    // Showing the window starts the engine and the first collection from the event loop.
+    void setVisible(bool visible) override;
+    QSize sizeHint() const override;
+
+public Q_SLOTS:
+    // Ends the program; while a job runs, as soon as it has stopped. A job that can be cancelled
+    // is.
+    void quit();
+    void displayLog();
+    void cleanHeaders();
+    void cleanPackages();
+    void cleanXmlMetadata();
+    void cleanPickledCache();
+    void cleanSqliteCache();
+    void cleanAll();
+    void refresh();
+    void resize();
+    void setSelected();
+    void setUpdateListed();
+    void clearActions();
+    void apply();
+    void cancel();
+    void about();
+    void yumConfIOChanged();
+    void collectedExtraData();
+    void filtersearch();
+    void modeChanged(int mode);
+    void stateFilterChanged(int stateFilter);
+    void dupsFilterChanged(int state);
+    void groupsFilterChanged(int state);
+    void currentChanged(int currentRow, int previousRow);
+    void stateChanged(int row);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private Q_SLOTS:
+    void initialize();
+    void jobState(const QString &state, bool canCancel);
+
+private:
+    class Job;
+
+    void createMenuBar();
+    void createCacheMenu();
+    void createCentralWidget();
+    void createMainArea();
+    QBoxLayout *createFilterRow();
+    QBoxLayout *createButtonRow();
+    QBoxLayout *createBarsRow();
+    void connectMainArea();
+    void restoreGeometryOfLastTime();
+
+    void setReady(bool ready);
+    void checkCredentials();
+    void collect();
+    void recollect();
+    void clean(bool (YumIO::*operation)());
+    bool isSearchMode() const;
+    void changeFilter(const std::function<void()> &change);
+    void prepareFilterSearch();
+    void anyFilterChanged();
+    void warnUnlistedActions();
+    void warnConfigure();
+    void showMainArea();
+    void finish();
+
+    QList<YumRepoEnabled> m_repoRequests;
+    QHash<QString, bool> m_reposUsed;
+    YumIO *m_yumIO = nullptr;
+    YumConfIO *m_yumConfIO = nullptr;
+    bool m_startInEditor = false;
+    bool m_showLogAtStart = false;
+    bool m_initializeScheduled = false;
+    bool m_engineReady = false;
+    bool m_initialized = false;
+    bool m_busy = false;          // a job runs
+    bool m_busyCursor = false;    // the busy cursor is set
+    bool m_canCancel = false;     // the running job can be cancelled now
+    bool m_inTransaction = false; // rpm is at work
+    bool m_quitAsked = false;     // quit when the job has ended
+    bool m_closeRefused = false;  // the user was told once that a transaction runs
+
+    HMenu *m_programMenu = nullptr;
+    QAction *m_quitAction = nullptr;
+    HMenu *m_repositoriesMenu = nullptr;
+    QAction *m_editConfigurationAction = nullptr;
+    HMenu *m_cacheMenu = nullptr;
+    QAction *m_cleanHeadersAction = nullptr;
+    QAction *m_cleanPackagesAction = nullptr;
+    QAction *m_cleanXmlMetadataAction = nullptr;
+    QAction *m_cleanPickledCacheAction = nullptr;
+    QAction *m_cleanSqliteCacheAction = nullptr;
+    QAction *m_cleanAllAction = nullptr;
+
+    QLabel *m_placeholder = nullptr;
+    QWidget *m_mainArea = nullptr;
+    QComboBox *m_modeCombo = nullptr;
+    QLineEdit *m_regexpEdit = nullptr;
+    QPushButton *m_filterSearchButton = nullptr;
+    QComboBox *m_stateCombo = nullptr;
+    QCheckBox *m_groupsCheck = nullptr;
+    QCheckBox *m_dupsCheck = nullptr;
+    PackageTable::Model *m_model = nullptr;
+    PackageTable::SortFilterProxyModel *m_proxy = nullptr;
+    PackageTable::View *m_view = nullptr;
+    QPushButton *m_describeButton = nullptr;
+    QPushButton *m_resizeButton = nullptr;
+    QPushButton *m_refreshButton = nullptr;
+    QPushButton *m_setSelectedButton = nullptr;
+    QPushButton *m_setUpdateListedButton = nullptr;
+    QPushButton *m_clearActionsButton = nullptr;
+    HFrameLabel *m_unlistedLabel = nullptr;
+    QPushButton *m_applyButton = nullptr;
+    HProgressBar *m_totalBar = nullptr;
+    HProgressBar *m_itemBar = nullptr;
+    QPushButton *m_cancelButton = nullptr;
+    Log::Window *m_logWindow = nullptr;
+};

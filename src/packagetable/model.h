@@ -1,0 +1,82 @@
+#pragma once
+
+#include "packagetable/packagetable.h"
+#include "widgets/habstracttablemodel.h"
+#include "yumio/package.h"
+
+#include <QColor>
+#include <QIcon>
+
+class YumConfIO;
+class YumIO;
+
+namespace PackageTable {
+
+// The engine's entries as a table, one row for each in the engine's order, and the one place where
+// the user's choice of action is written into an entry. Owns no package data: the owner calls
+// reset() whenever the engine's rows have changed.
+class Model : public HAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    Model(YumIO *yumIO, QObject *parent);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+    // What the display role shows of an entry; empty in the icon columns.
+    static QString text(const Package::Entry &entry, int column);
+    // What the user role gives of an entry in the columns that are sorted by number, converted to
+    // 32 bits as a variant converts it.
+    static int sortNumber(const Package::Entry &entry, int column);
+    static bool isNumberColumn(int column);
+
+    void setYumConfIO(YumConfIO *yumConfIO) { m_yumConfIO = yumConfIO; }
+
+    // The row must be valid.
+    Package::State getState(int row) const;
+    void setAction(const QModelIndex &index, Package::Action action);
+    // Advances the action to the next that fits the entry's state, and from the last to none.
+    void toggleAction(const QModelIndex &index);
+    void reset();
+    // Chooses the colours of an enabled or a disabled view.
+    void setEnabled(bool enabled) { m_enabled = enabled; }
+
+public Q_SLOTS:
+    // Install or Update for each row, as it fits; installed rows stay as they are.
+    void setSelected(const QModelIndexList &indices);
+    void clearActions();
+
+private:
+    const Package::Entry *entryAt(const QModelIndex &index) const;
+    QVariant icon(const Package::Entry &entry, int column) const;
+    QVariant toolTip(const Package::Entry &entry, int column) const;
+    QVariant colour(const Package::Entry &entry, int column) const;
+    static QVariant userValue(const Package::Entry &entry, int column);
+    void write(int row, Package::Action action);
+
+    YumIO *m_yumIO;
+    YumConfIO *m_yumConfIO = nullptr;
+    bool m_enabled = true;
+    QIcon m_outOfDateIcon;
+    QIcon m_upToDateIcon;
+    QIcon m_noneIcon;
+    QIcon m_updateIcon;
+    QIcon m_installIcon;
+    QIcon m_removeIcon;
+    QIcon m_suiteIcon;
+    QIcon m_groupIcon;
+    QIcon m_packageIcon;
+    QColor m_updatableColour;
+    QColor m_updatableDisabledColour;
+    QColor m_installedColour;
+    QColor m_installedDisabledColour;
+    QColor m_installableColour;
+    QColor m_installableDisabledColour;
+};
+
+} // namespace PackageTable

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "packagetable/packagetable.h"
+#include "widgets/hsortfilterproxymodel.h"
+
+#include <QByteArray>
+#include <QHash>
+
+#include <regex.h>
+
+class YumIO;
+
+namespace Package {
+class Entry;
+}
+
+namespace PackageTable {
+
+// Decides which packages are listed, by state, duplicates, groups and an extended POSIX expression,
+// and in which order. Each entry's verdict is kept until something that decides it changes.
+class SortFilterProxyModel : public HSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    SortFilterProxyModel(StateFilter stateFilter, bool dups, bool groups, YumIO *yumIO,
+                         QObject *parent);
+    ~SortFilterProxyModel() override;
+
+    void setSourceModel(HAbstractTableModel *model) override;
+
+    void setMode(Mode mode);
+    void setStateFilter(StateFilter stateFilter);
+    void setDupsFilter(bool dups);
+    void setGroupsFilter(bool groups);
+    // The master switch: off lists every row.
+    void setFilter(bool filter);
+    bool getFilter() const { return m_filter; }
+    // An expression that does not compile lists whatever the other rules let through.
+    void setFilterRegExp(const QString &pattern) override;
+
+    // Sets Update on every listed entry that is out of date.
+    void setUpdateListed();
+    // True when the expression is found in the text, and when there is no expression.
+    bool matches(const QString &text) const;
+
+public Q_SLOTS:
+    void clear() override;
+    void clearCache();
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+    bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
+
+private:
+    using HSortFilterProxyModel::setFilterRegExp;
+
+    const Package::Entry *entryAt(int sourceRow) const;
+    bool acceptRow(const Package::Entry *entry) const;
+    bool acceptFields(const Package::Entry &entry) const;
+    bool matches(const char *text) const;
+    void settingsChanged();
+    void sourceAboutToBeReset();
+    void judgeAll();
+
+    Mode m_mode = Mode::Filter;
+    bool m_filter = true;
+    StateFilter m_stateFilter;
+    bool m_dups;
+    bool m_groups;
+    YumIO *m_yumIO;
+    HAbstractTableModel *m_sourcePackageModel = nullptr;
+    mutable QHash<const Package::Entry *, bool> m_acceptCache;
+    int m_regexStatus = -1;
+    regex_t m_regex;
+    mutable QByteArray m_rowText;
+};
+
+} // namespace PackageTable

@@ -1,0 +1,10 @@
+#include "widgets/habstracttablemodel.h"
+
+#include <QScopedValueRollback>
+
+void HAbstractTableModel::forceSortColumnRediscovery()
+{
+    const QScopedValueRollback<bool> rediscovering(m_rediscovering, true);
+    beginResetModel();
+    endResetModel();
+}

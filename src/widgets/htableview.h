@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QStyleOptionViewItem>
+#include <QTableView>
+
+// A table that fits its columns to all of its rows and hints a size with room for a fixed number of
+// rows and for all columns.
+class HTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    // The size hint makes room for at least `minRows` and at most `maxRows` rows.
+    HTableView(QStyleOptionViewItem::Position decorationPosition, int minRows, int maxRows,
+               QWidget *parent);
+
+    QSize sizeHint() const override;
+    // The width that the widest cell of all rows needs; -1 without a model.
+    int sizeHintForColumn(int column) const override;
+    // Also grows the window to show the columns, up to nine tenths of the screen.
+    void resizeColumnsToContents();
+
+    // Keeps the order when the column is the sorted one already, else sorts it ascending.
+    void sortByColumn(int column);
+    void sortByColumn(int column, Qt::SortOrder order);
+
+    // One index for each selected row.
+    virtual QModelIndexList selectedRows() const;
+
+protected:
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
+    // The model whose rows decide the widths.
+    virtual const QAbstractItemModel *measuredModel() const { return model(); }
+
+private:
+    int frameOnlyAroundContentsPixels() const;
+
+    QStyleOptionViewItem::Position m_decorationPosition;
+    mutable int m_minRows;
+    mutable int m_maxRows;
+};
