@@ -3,8 +3,7 @@
 #include <QString>
 
 // The system that VOK works on: "/", or the directory that the environment variable VOKROOT names.
-namespace SysRoot
-{
+namespace SysRoot {
 
 // The root directory without a trailing slash; empty for the running system. A value of VOKROOT
 // that is not an absolute path counts as unset.

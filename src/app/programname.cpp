@@ -1,0 +1,24 @@
+#include "programname.h"
+
+#include <QFile>
+
+namespace {
+
+QString &storedName()
+{
+    static QString name;
+    return name;
+}
+
+} // namespace
+
+QString programName()
+{
+    return storedName();
+}
+
+void setProgramName(const char *argv0)
+{
+    const QString path = QFile::decodeName(argv0);
+    storedName() = path.mid(path.lastIndexOf(u'/') + 1);
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+// The name that the program was started by, without its directory. Set once, at start-up.
+QString programName();
+void setProgramName(const char *argv0);

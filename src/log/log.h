@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QList>
+#include <QMutex>
+#include <QObject>
+#include <QString>
+
+namespace Log {
+
+// What an entry is, and with it its colour. A number above the last counts as Error.
+enum class Kind { Normal = 0, Ok = 1, Warning = 2, Error = 3, Action = 4 };
+
+// One message: plain text, possibly of several lines. Level 0 is the most important; an entry is
+// shown when its level is at most the detail level that the user chose, 0 to 10.
+struct Entry
+{
+    Entry(Kind kind, unsigned int level, QString text);
+
+    Kind kind;
+    unsigned int level;
+    QString text;
+};
+
+// All messages in order of arrival. It only grows, so an index stays valid. Any thread appends,
+// holding the mutex, and then calls emitAppended() without it.
+class EntryList : public QObject
+{
+    Q_OBJECT
+
+public:
+    QMutex &mutex() { return m_mutex; }
+    // Only with the mutex held.
+    QList<Entry> &entries() { return m_entries; }
+
+    void emitAppended();
+
+Q_SIGNALS:
+    void appended();
+
+private:
+    QMutex m_mutex;
+    QList<Entry> m_entries;
+};
+
+} // namespace Log

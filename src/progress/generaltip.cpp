@@ -1,0 +1,3 @@
+#include "generaltip.h"
+
+QPointer<GeneralTip> GeneralTip::it;

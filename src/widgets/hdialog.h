@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDialog>
+
+// Base of the program's dialogs. A dialog that opens while its parent window is minimised brings
+// that window back, so that it is found.
+class HDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit HDialog(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+
+    // Whether something was changed through this dialog that its opener must react to when it
+    // hides. Only ever set and cleared by derived dialogs and by the opener.
+    bool changed() const { return m_changed; }
+    void setChanged(bool changed) { m_changed = changed; }
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    bool m_changed = false;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QMenu>
+
+// A menu that shows the tool tips of its items.
+class HMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit HMenu(QWidget *parent = nullptr);
+    explicit HMenu(const QString &title, QWidget *parent = nullptr);
+};
