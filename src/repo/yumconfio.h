@@ -1,0 +1,102 @@
+#pragma once
+
+#include "repoentry.h"
+#include "yumrepoenabled.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+#include <QStringList>
+#include <QWidget>
+
+#include <cstdio>
+
+// Reads the main configuration file and every repository definition file, keeps the definitions as
+// a list, and writes an edited list back. The only one that touches these files.
+//
+// Options that it does not know are kept as lines. Each file is written beside its target and
+// renamed over it, so that at any moment it is whole; what a file held before the first write stays
+// beside it with the suffix ".vok-orig". Paths are those inside the system root. GUI thread only:
+// failures and questions are modal boxes.
+class YumConfIO : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Both are the caller's and must outlive this object. `reposUsed` is filled by read() and never
+    // cleared: an identifier that it holds already keeps its value.
+    YumConfIO(const QList<YumRepoEnabled> &repoEnabled, QHash<QString, bool> &reposUsed);
+
+    // The main configuration file, found afresh at each call.
+    static QString fileName();
+
+    // Reads everything anew. False once a failure was shown; `repos` then holds what was read
+    // before.
+    bool read(QWidget *parent);
+    // Checks, asks, writes all files and removes those that hold no repository any more. False when
+    // the user declined or a failure was shown; what was written until then stays written.
+    bool write(QWidget *parent);
+
+    QString cachedir;
+    QStringList reposdirs;
+    bool mainEnabled = false;
+    bool mainGpgcheck = false;
+    QList<Repo::Entry> repos; // edited in place between read() and write()
+    const QList<YumRepoEnabled> &repoEnabled;
+    QHash<QString, bool> &reposUsed;
+
+    // One open file each: the parts of read() and write().
+    bool readConfFile(FILE *file);
+    bool readRepoFile(FILE *file, const QString &path);
+    bool writeRepo(FILE *file, const Repo::Entry &entry) const;
+
+    // The value of `line` if it sets `option`: the name from the first column, then blanks or tabs,
+    // then ":" or "=".
+    static bool isOption(const QString &line, const QString &option, QString &value);
+    static bool filePositionLessThan(const Repo::Entry &a, const Repo::Entry &b);
+
+Q_SIGNALS:
+    void changed(); // after a complete read()
+
+private:
+    enum LineResult { LineRead = 0, EndOfFile = 1, ReadError = 2 };
+
+    // What is known of a file that was read, by the path it was read under.
+    struct FileState
+    {
+        QByteArray digest;    // of its bytes
+        bool latin1 = false;  // not UTF-8: its bytes stand for the first 256 characters
+        bool bom = false;     // began with a byte order mark
+        QSet<QString> idents; // the repositories in it
+    };
+
+    FILE *openForReading(const QString &path, const QString &failure);
+    bool noteBytes(FILE *file, const QString &path);
+    bool readReposDir(const QString &directory);
+    int readLogicalLine(FILE *file, const QString &path, QString &line);
+    int readLine(FILE *file, const QString &path, QString &line);
+    void unreadLine(const QString &line);
+    void readMainOption(const QString &line);
+    void readOption(const QString &line, bool first, Repo::Entry &entry);
+    void finishSection(Repo::Entry &entry, bool first);
+    static void cleanupRead(Repo::Entry &entry);
+    void applyUsedOptions(const Repo::Entry &entry);
+
+    void cleanupWrite(QList<Repo::Entry> &list) const;
+    bool checkErrors();
+    bool hasEmptyId() const;
+    QString getDuplicateId() const;
+    bool checkChangedOnDisk(const QStringList &files);
+    bool writeFile(const QString &path, const QList<Repo::Entry> &entries);
+    bool removeUnusedFiles(const QSet<QString> &usedFiles);
+    void error(const QString &message);
+
+    QString m_mainText; // the main file up to its first repository section
+    QPointer<QWidget> m_parent;
+    QStringList m_pendingLines; // look-ahead and pushed-back lines
+    bool m_latin1 = false;      // how the file at hand is decoded and encoded
+    QHash<QString, FileState> m_files;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QRegularExpression>
+#include <QString>
+
+// One request of the command line to use or not to use the repositories whose identifier matches a
+// wildcard pattern as a whole.
+struct YumRepoEnabled
+{
+    // `wildcard` in the shell's syntax, case-sensitive; a slash is a character like any other.
+    YumRepoEnabled(bool enable, const QString &wildcard);
+
+    bool matches(const QString &id) const { return pattern.match(id).hasMatch(); }
+
+    bool enabled;
+    QRegularExpression pattern; // anchored at both ends
+};
