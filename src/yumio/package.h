@@ -9,8 +9,7 @@ struct _object;
 typedef struct _object PyObject;
 
 // What the package table shows and the transaction acts on.
-namespace Package
-{
+namespace Package {
 
 enum class State { Updatable = 0, Installable = 1, Installed = 2 };
 enum class Action { Update = 0, Install = 1, Remove = 2, None = 3 };
@@ -34,7 +33,7 @@ public:
     QString verRel; // epoch:version-release, the epoch only when it is not zero
     QString repo;
     QString arch;
-    QString biArch; // the family of `arch`; packages of one family share a row
+    QString biArch;  // the family of `arch`; packages of one family share a row
     qint64 size = 0; // bytes
     QString sizeText;
     QString summary;
@@ -42,11 +41,12 @@ public:
     QString buildTimeText;
     PyObject *po = nullptr; // owned reference to the script's package or group object
     bool duplicate = false; // another entry of this name is the better one
-    Entry *next = nullptr; // owned; the next installed version with the same key
+    Entry *next = nullptr;  // owned; the next installed version with the same key
 
     // Valid during an apply only.
     Action applyAction = Action::None; // copy of `action`, changed by group marks and resolution
-    Entry *markedBy = nullptr; // itself, the group that marked it, or null after a conflict answer
+    const Entry *markedBy =
+        nullptr;          // itself, the group that marked it, or null after a conflict answer
     bool started = false; // the rpm transaction has begun this element
 };
 

@@ -12,6 +12,8 @@
 
 #include <atomic>
 #include <csignal>
+#include <functional>
+#include <initializer_list>
 
 class HProgressBar;
 class QEventLoop;
@@ -19,6 +21,7 @@ class QThread;
 class QWidget;
 class YumIOCapturers;
 class YumIODialogs;
+struct TransactionLists;
 
 namespace Progress {
 class Object;
@@ -256,13 +259,50 @@ private:
 
     // apply.cpp
     bool applyReal();
+    void resetApply();
+    void callApply(PyObject *installs, PyObject *updates, PyObject *removes);
     bool applyLists(PyObject *installs, PyObject *updates, PyObject *removes);
+    bool appendUpdate(Package::Entry *entry, PyObject *updates);
+    void countDownload(const Package::Entry *entry);
+    void noteGroups();
     QString getLocalPkg(PyObject *po);
     QString getLocalHdr(PyObject *po);
     bool hasNotStartedUpdate(Package::Entry *entry);
     bool hasNotStartedRemove(Package::Entry *entry);
 
+    // elements.cpp
+    void startInstall(PyObject *key, quint64 total);
+    void startInstallElement(Package::Entry *entry, bool isUpdate, quint64 total);
+    void startErase(const QString &name, bool mayBeUpdate, quint64 total, const QString &unexpected,
+                    const QString &tooMany);
+    bool installEvent(PyObject *package, bool isUpdate, quint64 total);
+
+    // downloads.cpp
+    struct MeterStart;
+    struct Meter
+    {
+        QString text;
+        unsigned int thread = 0;
+        quint64 max = 1; // bytes, 1 while the size is unknown
+        quint64 read = 0;
+        bool sized = false;
+        bool started = false;
+        bool single = false; // has the item bar for itself
+        bool retrying = false;
+    };
+    void resetCollectMeters();
+    quint32 nextCollectAct(const QString &repo, bool isFirst);
+    QString metadataText(const MeterStart &start, bool isFirst);
+    QString packageText(const MeterStart &start);
+    void startDeltaRebuild(const MeterStart &start, Meter &meter);
+    unsigned int threadLimit(const QHash<QString, Meter> &meters) const;
+    void updateMeter(QHash<QString, Meter> &meters, PyObject *id, long long amount);
+    void endMeter(QHash<QString, Meter> &meters, PyObject *id);
+    void endMeterThread(const Meter &meter);
+    void failMeter(QHash<QString, Meter> &meters, PyObject *id, PyObject *message);
+
     // groups.cpp
+    enum MemberKind { Mandatory, Default, Optional, Conditional, ConditionalThatHolds };
     bool applyGroups();
     bool applyGrpUpdate(const Package::Entry *group);
     bool applyGrpInstall(const Package::Entry *group);
@@ -275,6 +315,13 @@ private:
     bool requiredPkgs(const Package::Entry *group, QSet<QString> &names);
     bool allPkgs(const Package::Entry *group, QSet<QString> &names);
     bool pkgTree(const QString &name, QStringList &names);
+    static QString actionName(Package::Action action);
+    void markByGroup(const Package::Entry *group, Package::Entry *package, Package::Action action);
+    bool conditionHolds(PyObject *conditional, PyObject *member, const QStringList &others);
+    bool groupMembers(const Package::Entry *group, std::initializer_list<MemberKind> kinds,
+                      QStringList &names);
+    bool groupTree(const QStringList &members, QStringList &names);
+    bool scriptNames(const char *method, const QString &name, QStringList &names);
 
     // transaction.cpp: resolution reports, listing, weighing
     void dsTsInfo(const char *text);
@@ -286,9 +333,16 @@ private:
     bool displayTransactionPkgsRepo(const QString &title, PyObject *list);
     bool displayTransactionPkgsObs(const QString &title, PyObject *list);
     void noteTransactionPkgs(Package::Action action, PyObject *list);
-    bool makeLists(PyObject *owner, PyObject *&tsInfo, PyObject *&made, PyObject *&updated,
-                   PyObject *&installed, PyObject *&removed, PyObject *&obsoleted,
-                   PyObject *&depupdated, PyObject *&depinstalled, PyObject *&depremoved);
+    bool makeLists(PyObject *owner, TransactionLists &lists);
+    bool writeListing(const TransactionLists &lists);
+    void startRunTotal();
+    bool forEachMember(PyObject *list,
+                       const std::function<bool(PyObject *member, PyObject *pkgtup)> &line);
+    QString memberVersion(PyObject *member);
+    void weighInstall(const Package::Entry *entry, Package::Action action);
+    void weighRemoval(const Package::Entry *entry, const QString &version);
+    qint64 downloadWeight(const Package::Entry *entry);
+    static PyObject *failedCallback(const char *reason);
 
     // errors.cpp
     void error(const char *message) override;
@@ -407,7 +461,7 @@ private:
     QString m_pendingText;
     bool m_listingShown = false;
     bool m_applied = false;
-    quint32 m_actPosition = 0;
+    quint64 m_actPosition = 0; // bytes of large transactions exceed 32 bits
     quint32 m_opCount = 0;
     quint32 m_downloadCount = 0;
     quint32 m_passActs = 0;
@@ -420,6 +474,17 @@ private:
     bool m_deltaRebuildShown = false;
     bool m_eventsStarted = false;
     bool m_multiMeterActive = false;
+    QHash<QString, Meter> m_multiMeterFiles;
+    unsigned int m_multiThreads = 0;
+    unsigned int m_multiNextThread = 0;
+    QHash<QString, Meter> m_collectMeters;
+    quint32 m_collectAct = 0;
+
+    // Units of the second total.
+    static constexpr qint64 runDownloadUnits = 24000;
+    static constexpr qint64 deltaRebuildUnits = 2000;
+    static constexpr qint64 transTestUnits = 2000;
+    static constexpr qint64 runUnits = 9100;
 };
 
 size_t qHash(const YumIO::EntryKey &key, size_t seed = 0);

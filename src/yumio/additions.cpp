@@ -1,0 +1,109 @@
+// Callbacks beyond the original ones: cancelling, job states, questions of lock and key, the
+// report.
+
+#include "python/pyref.h"
+
+#include "dialogs.h"
+#include "yumio.h"
+
+PyObject *YumIO::cancelled(PyObject *, PyObject *)
+{
+    return PyLong_FromLong(m_cancelled ? 1 : 0);
+}
+
+PyObject *YumIO::jobState(PyObject *, PyObject *args)
+{
+    const char *state;
+    long canCancel;
+    if (!PyArg_ParseTuple(args, "sl", &state, &canCancel))
+        return nullptr;
+    Q_EMIT jobState(QString::fromUtf8(state), canCancel != 0);
+    Py_RETURN_NONE;
+}
+
+PyObject *YumIO::lockWait(PyObject *, PyObject *args)
+{
+    long pid;
+    const char *command;
+    if (!PyArg_ParseTuple(args, "ls", &pid, &command))
+        return nullptr;
+    if (m_cancelled || !m_dialogs)
+        return PyLong_FromLong(0);
+    const QString holder = tr("%1 (process %2)").arg(QString::fromUtf8(command)).arg(pid);
+    const int button =
+        m_dialogs->warning(tr("VOK Package Lock"),
+                           tr("Another program is working on the packages of this system:\n%1\n\n"
+                              "Wait for it to finish, or give up?")
+                               .arg(holder),
+                           tr("Wait"), tr("Give Up"), QString(), 0, 1);
+    const bool wait = button == 0 && !m_cancelled;
+    log(Log::Kind::Warning, 0,
+        wait ? tr("Waiting for %1").arg(holder) : tr("Not waiting for %1").arg(holder));
+    return PyLong_FromLong(wait ? 1 : 0);
+}
+
+PyObject *YumIO::keyQuestion(PyObject *, PyObject *args)
+{
+    const char *id, *user, *fingerprint, *source;
+    if (!PyArg_ParseTuple(args, "ssss", &id, &user, &fingerprint, &source))
+        return nullptr;
+    const QString key = QString::fromUtf8(id);
+    const QString text = tr("Packages are signed with a key that this system does not know.\n\n"
+                            "Key: %1\nOwner: %2\nFingerprint: %3\nSource: %4\n\n"
+                            "Import the key, and trust packages signed with it?")
+                             .arg(key, QString::fromUtf8(user), QString::fromUtf8(fingerprint),
+                                  QString::fromUtf8(source));
+    const bool yes = m_dialogs && m_dialogs->warning(tr("VOK Key Import"), text, tr("Yes"),
+                                                     tr("No"), QString(), 1, 1) == 0;
+    log(Log::Kind::Action, 0,
+        yes ? tr("Importing key %1").arg(key) : tr("Not importing key %1").arg(key));
+    return PyLong_FromLong(yes ? 1 : 0);
+}
+
+PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
+{
+    PyObject *elements;
+    if (!PyArg_ParseTuple(args, "O", &elements))
+        return nullptr;
+    const PyRef iterator(PyObject_GetIter(elements));
+    if (!iterator)
+        return nullptr;
+    QStringList done, failed, skipped;
+    while (const PyRef element = PyRef(PyIter_Next(iterator.get()))) {
+        const char *name, *outcome, *reason;
+        if (!PyArg_ParseTuple(element.get(), "sss", &name, &outcome, &reason))
+            return nullptr;
+        QString line = QLatin1Char('\t') + QString::fromUtf8(name);
+        if (*reason)
+            line += QStringLiteral(": ") + QString::fromUtf8(reason);
+        const bool isDone = qstrcmp(outcome, "done") == 0;
+        const bool isSkipped = qstrcmp(outcome, "skipped") == 0;
+        (isDone ? done : isSkipped ? skipped : failed).append(line);
+    }
+    if (PyErr_Occurred())
+        return nullptr;
+
+    const QString summary = tr("Transaction: %1 done, %2 failed, %3 skipped")
+                                .arg(done.size())
+                                .arg(failed.size())
+                                .arg(skipped.size());
+    const bool complete = failed.isEmpty() && skipped.isEmpty();
+    log(complete ? Log::Kind::Ok : Log::Kind::Error, 0, summary);
+    if (complete)
+        Py_RETURN_NONE;
+
+    QString text = summary + QLatin1Char('\n');
+    const auto section = [&](const QString &title, const QStringList &lines, Log::Kind kind) {
+        if (lines.isEmpty())
+            return;
+        const QString part = title + QLatin1Char('\n') + lines.join(QLatin1Char('\n'));
+        log(kind, 0, part);
+        text += QLatin1Char('\n') + part + QLatin1Char('\n');
+    };
+    section(tr("Failed:"), failed, Log::Kind::Error);
+    section(tr("Skipped:"), skipped, Log::Kind::Warning);
+    section(tr("Done:"), done, Log::Kind::Ok);
+    if (m_dialogs)
+        m_dialogs->scrollable(tr("VOK Transaction Report"), text);
+    Py_RETURN_NONE;
+}

@@ -1,0 +1,234 @@
+// One transaction: from the rows' actions to the script's "apply" and back.
+
+#include "python/pyref.h"
+
+#include "capturers.h"
+#include "dialogs.h"
+#include "progress/progress.h"
+#include "yumio.h"
+
+#include <QFile>
+
+namespace {
+
+bool append(PyObject *list, PyObject *item)
+{
+    const bool appended = item && PyList_Append(list, item) == 0;
+    if (!appended)
+        PyErr_Clear();
+    return appended;
+}
+
+// The installed versions behind a row: all of its chain, save the row itself when it is an update.
+Package::Entry *firstInstalled(Package::Entry *entry)
+{
+    return entry->state == Package::State::Updatable ? entry->next : entry;
+}
+
+} // namespace
+
+bool YumIO::applyReal()
+{
+    m_blocker.block();
+    Progress::User progressUser(m_progress, m_totalBar, m_itemBar);
+    YumIODialogsUser dialogsUser(m_dialogs, m_parent);
+    log(Log::Kind::Action, 0, tr("Applying"));
+
+    PyGILStateWrapper lock(true);
+    m_progress->startTotal(tr("Checking Dependencies: Total Progress"), 10000);
+    m_progress->startItem(tr("Preparing"), 100, true);
+    resetApply();
+    const PyRef installs(PyList_New(0)), updates(PyList_New(0)), removes(PyList_New(0));
+    for (Package::Entry *entry : std::as_const(m_entries)) {
+        entry->applyAction = entry->action;
+        entry->markedBy = entry;
+        for (Package::Entry *old = entry->next; old; old = old->next)
+            old->started = false;
+    }
+    if (!applyGroups() || !applyLists(installs.get(), updates.get(), removes.get())) {
+        m_progress->reset();
+        return false;
+    }
+    m_passActs = m_resolutionActs = m_opCount;
+    m_progress->setupItemActs(9900, m_resolutionActs + 10 * m_downloadCount);
+
+    if (!reapChildren()) {
+        m_progress->reset();
+        return false;
+    }
+    callApply(installs.get(), updates.get(), removes.get());
+    PyObject *flushed = pyMethodCall(m_yumIO, "flush", "()");
+    Py_XDECREF(flushed);
+    m_progress->reset();
+    return m_applied;
+}
+
+void YumIO::resetApply()
+{
+    m_pendingText.clear();
+    m_listingShown = false;
+    m_applied = false;
+    m_actPosition = 0;
+    m_opCount = 0;
+    m_downloadCount = 0;
+    m_passActs = 0;
+    m_resolutionActs = 0;
+    m_bytesTotal = 0;
+    m_bytesToDownload = 0;
+    m_downloadBudget = 0;
+    m_transactionWeight = 0;
+    m_lastTsElement = 0;
+    m_deltaRebuildShown = false;
+    m_eventsStarted = false;
+    m_multiMeterActive = false;
+    m_multiMeterFiles.clear();
+    // Asked now, because an answer fetched in the middle of the transaction would disturb the
+    // expected exceptions.
+    usesPresto();
+    hasMultiProgress();
+}
+
+// The script's part, with the process's output in the log for its length.
+void YumIO::callApply(PyObject *installs, PyObject *updates, PyObject *removes)
+{
+    YumIOCapturersUser capturersUser(m_capturers, this);
+    sigchldDisable();
+    noteGroups();
+    pyExceptStart();
+    commExceptSetup();
+    const PyRef result(pyMethodCall(m_yumIO, "apply", "(O,O,O)", installs, updates, removes));
+    const bool raised = commExceptRaised(result.get(), tr("apply changes"));
+    pyExceptClear();
+    if (raised || !result) {
+        m_applied = false;
+        PyObject *cleaned = pyMethodCall(m_yumIO, "applyFailCleanup", "()");
+        Py_XDECREF(cleaned);
+    }
+    sigchldRestore();
+}
+
+bool YumIO::applyLists(PyObject *installs, PyObject *updates, PyObject *removes)
+{
+    for (Package::Entry *entry : std::as_const(m_entries)) {
+        if (entry->kind == Package::Kind::Group)
+            continue;
+        switch (entry->applyAction) {
+        case Package::Action::Update:
+            if (!appendUpdate(entry, updates))
+                return false;
+            break;
+        case Package::Action::Install:
+            if (!append(installs, entry->po))
+                error(tr("Unable to add package %1 to installs list").arg(entry->name));
+            ++m_opCount;
+            countDownload(entry);
+            break;
+        case Package::Action::Remove:
+            for (Package::Entry *old = firstInstalled(entry); old; old = old->next) {
+                if (!append(removes, old->po))
+                    error(tr("Unable to add package %1 to removes list").arg(entry->name));
+                ++m_opCount;
+            }
+            break;
+        case Package::Action::None:
+            break;
+        }
+    }
+    return true;
+}
+
+// One pair of new and old for each installed version that the update replaces.
+bool YumIO::appendUpdate(Package::Entry *entry, PyObject *updates)
+{
+    if (!entry->next) {
+        error(tr("Internal error: Unable to find installed version for package update %1")
+                  .arg(entry->name));
+        return false;
+    }
+    ++m_opCount;
+    for (Package::Entry *old = entry->next; old; old = old->next) {
+        const PyRef pair(PyList_New(0));
+        if (!append(pair.get(), entry->po)) {
+            error(tr("Unable to add new package to pair for updated package %1").arg(entry->name));
+        }
+        if (!append(pair.get(), old->po)) {
+            error(tr("Unable to add old package to pair for updated package %1").arg(entry->name));
+        }
+        if (!append(updates, pair.get()))
+            error(tr("Unable to add package %1 to updates list").arg(entry->name));
+        ++m_opCount;
+    }
+    countDownload(entry);
+    return true;
+}
+
+void YumIO::countDownload(const Package::Entry *entry)
+{
+    if (!QFile::exists(getLocalHdr(entry->po)))
+        ++m_downloadCount;
+}
+
+// The library keeps records of groups; they follow the transaction when the script knows which
+// groups were marked, where it takes an interest.
+void YumIO::noteGroups()
+{
+    if (!PyObject_HasAttrString(m_yumIO, "noteGroups"))
+        return;
+    const PyRef groups(PyList_New(0));
+    for (const Package::Entry *entry : std::as_const(m_entries)) {
+        if (entry->kind != Package::Kind::Group || entry->applyAction == Package::Action::None)
+            continue;
+        const PyRef item(Py_BuildValue("(Oi)", entry->po, int(entry->applyAction)));
+        if (!append(groups.get(), item.get()))
+            error(tr("Unable to add group %1 to groups list").arg(entry->name));
+    }
+    PyObject *result = pyMethodCall(m_yumIO, "noteGroups", "(O)", groups.get());
+    Py_XDECREF(result);
+}
+
+QString YumIO::getLocalPkg(PyObject *po)
+{
+    PyObject *path = pyMethodCall(po, "localPkg", "()");
+    return path ? pyStringDec(path) : QString();
+}
+
+QString YumIO::getLocalHdr(PyObject *po)
+{
+    PyObject *path = pyMethodCall(po, "localHdr", "()");
+    return path ? pyStringDec(path) : QString();
+}
+
+Package::Kind YumIO::getPkgKind(PyObject *po)
+{
+    return simpleString(po, "group") == QLatin1String("Suite") ? Package::Kind::Suite
+                                                               : Package::Kind::Package;
+}
+
+namespace {
+
+bool hasNotStarted(const Package::Entry *entry, Package::Action action)
+{
+    if (entry->applyAction != action)
+        return false;
+    while (entry && entry->started)
+        entry = entry->next;
+    return entry;
+}
+
+} // namespace
+
+bool YumIO::hasNotStartedUpdate(Package::Entry *entry)
+{
+    return hasNotStarted(entry, Package::Action::Update);
+}
+
+bool YumIO::hasNotStartedRemove(Package::Entry *entry)
+{
+    return hasNotStarted(entry, Package::Action::Remove);
+}
+
+PyObject *YumIO::gpgsigcheck(PyObject *, PyObject *)
+{
+    m_pendingText.clear();
+    Py_RETURN_NONE;
+}

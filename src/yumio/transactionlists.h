@@ -1,0 +1,20 @@
+#pragma once
+
+#include "python/pyref.h"
+
+#include <array>
+
+// The seven lists of a resolved transaction, borrowed from the objects that are held here.
+struct TransactionLists
+{
+    PyRef tsInfo;
+    PyRef made;
+    std::array<PyRef, 7> kept;
+    PyObject *updated = nullptr;
+    PyObject *installed = nullptr;
+    PyObject *removed = nullptr;
+    PyObject *obsoleted = nullptr;
+    PyObject *depupdated = nullptr;
+    PyObject *depinstalled = nullptr;
+    PyObject *depremoved = nullptr;
+};
