@@ -43,21 +43,9 @@ QString boxText(const QString &text)
 
 YumIODialogsMinion::YumIODialogsMinion(QWidget *parent) : m_parent(parent) {}
 
-// A dialog of a minimised window would stay unseen while the job waits for its answer.
-void YumIODialogsMinion::summonWindow()
-{
-    if (!m_parent)
-        return;
-    QWidget *window = m_parent->window();
-    if (window->isMinimized())
-        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    QApplication::alert(window);
-}
-
 void YumIODialogsMinion::confirm(const QString &title, const QString &text, const QString &yesText,
                                  const QString &noText)
 {
-    summonWindow();
     ScrollableConfirmDialog dialog(showable(text), yesText, noText, m_parent);
     dialog.setWindowTitle(title);
     Q_EMIT setResult(dialog.exec());
@@ -67,7 +55,6 @@ void YumIODialogsMinion::warning(const QString &title, const QString &text, cons
                                  const QString &button1, const QString &button2, int defaultButton,
                                  int escapeButton)
 {
-    summonWindow();
     Q_EMIT setResult(showMessageBox(QMessageBox::Warning, m_parent, title, boxText(text), button0,
                                     button1, button2, defaultButton, escapeButton));
 }
@@ -76,14 +63,12 @@ void YumIODialogsMinion::critical(const QString &title, const QString &text, con
                                   const QString &button1, const QString &button2, int defaultButton,
                                   int escapeButton)
 {
-    summonWindow();
     Q_EMIT setResult(showMessageBox(QMessageBox::Critical, m_parent, title, boxText(text), button0,
                                     button1, button2, defaultButton, escapeButton));
 }
 
 void YumIODialogsMinion::scrollable(const QString &title, const QString &text)
 {
-    summonWindow();
     ScrollableErrorDialog dialog(showable(text), m_parent);
     dialog.setWindowTitle(title);
     dialog.exec();

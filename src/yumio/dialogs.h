@@ -29,8 +29,6 @@ Q_SIGNALS:
     void setResult(int result);
 
 private:
-    void summonWindow();
-
     QWidget *m_parent;
 };
 

@@ -29,7 +29,8 @@ void YumIO::write(const QString &text, Log::Kind kind, unsigned int level, QStri
             const qsizetype end = text.indexOf(QLatin1Char('\n'), begin);
             if (end == -1)
                 break;
-            append(tail + QStringView(text).mid(begin, end - begin));
+            tail += QStringView(text).mid(begin, end - begin);
+            append(tail);
             tail.clear();
             begin = end + 1;
         }
