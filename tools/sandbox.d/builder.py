@@ -28,6 +28,7 @@ MACROS = """%_topdir {top}
 %_gpg_name {key}
 %_binary_payload w1.gzdio
 %_build_id_links none
+%_invalid_encoding_terminates_build 0
 %debug_package %{{nil}}
 %__os_install_post %{{nil}}
 %_buildhost build.aster.example
@@ -67,11 +68,14 @@ def run(command, **options):
 
 @contextlib.contextmanager
 def locked(path, mode):
-    """Holds a lock file; without the right to write it, a lock that others made is shared."""
+    """Holds a lock file. What another user built can be used, never changed."""
     try:
         stream = open(path, "a", encoding="utf-8")
     except PermissionError:
-        stream, mode = open(path, encoding="utf-8"), fcntl.LOCK_SH
+        if mode == fcntl.LOCK_EX:
+            raise SystemExit(f"sandbox: {path.parent} belongs to another user and is out of date: "
+                             "set VOK_SANDBOX_CACHE to a directory of your own") from None
+        stream = open(path, encoding="utf-8")
     with stream:
         fcntl.flock(stream, mode)
         yield
@@ -121,9 +125,9 @@ def build(wanted):
     (wanted / "complete").unlink(missing_ok=True)
     root.build_model(wanted)
     (wanted / "complete").write_text(fingerprint(), encoding="utf-8")
-    sets = sorted(wanted.parent.glob("*/packages"), key=lambda path: path.stat().st_mtime)
-    for old in sets[:-KEPT_SETS]:
-        shutil.rmtree(old.parent, ignore_errors=True)
+    sets = [path for path in wanted.parent.iterdir() if path.is_dir() and path.name != "keys"]
+    for old in sorted(sets, key=lambda path: path.stat().st_mtime)[:-KEPT_SETS]:
+        shutil.rmtree(old, ignore_errors=True)
     print(f"sandbox: built in {time.monotonic() - started:.1f} s", file=sys.stderr, flush=True)
 
 
@@ -182,7 +186,7 @@ class Workshop:
         content.mkdir()
         lines = model.payload(package, str(content)) if not package.siblings else []
         spec = place / "package.spec"
-        spec.write_text(model.spec(package, content, lines), encoding="utf-8")
+        spec.write_text(model.spec(package, content, lines), encoding=package.encoding)
         output = place / "rpms"
         target = [] if package.arch == "noarch" else ["--target", package.arch]
         run(["rpmbuild", "-bb", "--quiet", *target, "--define", f"_topdir {place}",
@@ -217,7 +221,7 @@ class Workshop:
         if repo in COMPS:
             (self.scratch / f"{repo}-comps.xml").write_text(comps.document(COMPS[repo]), encoding="utf-8")
             groups = ["--groupfile", str(self.scratch / f"{repo}-comps.xml")]
-        run(["createrepo_c", "--quiet", "--workers", "1", "--general-compress-type", "gz", *groups,
+        run(["createrepo_c", "--quiet", "--no-database", "--workers", "1", "--general-compress-type", "gz", *groups,
              str(place)], env=self.environment)
         owner = KEYS["foundry" if repo == "foundry" else "aster"]
         run(["gpg", "--batch", "--yes", "--armor", "--local-user", owner, "--detach-sign",

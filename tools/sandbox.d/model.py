@@ -15,7 +15,7 @@ class Package:
 
     `files` maps absolute paths to a text (a regular file), bytes, or ("link", target); what lies
     below /usr/share/NAME is owned as a whole directory. `side_by_side` keeps the files of several
-    versions apart. `scripts` maps a scriptlet's section with
+    versions apart; `encoding` is that of the texts in the header. `scripts` maps a scriptlet's section with
     its options, such as "post" or "pre -p <lua>", to its body; `triggers` is a list of (section
     with its condition, body). `key` names the signing key: "aster", "foundry", "none" for an
     unsigned package, "damaged" for one whose payload is altered after it was signed. `installed`
@@ -47,6 +47,7 @@ class Package:
     big_file: int = 0
     siblings: int = 0
     side_by_side: bool = False
+    encoding: str = "utf-8"
     key: str = "aster"
     installed: bool = False
 

@@ -69,6 +69,7 @@ def tools(table):
               configs={"/etc/weather.conf": "station=here\n"},
               conflicts=("storm < 1",), provides=("forecast = 3", "config(weather)"),
               recommends=("compass",), license="GPL-3.0-or-later and MIT")
+    table.add("twice", base="1.0-1", extras="1.0-1", summary="The same version in two repositories")
     table.add("epochal", base="5.0-1*", updates="1:1.2-1",
               summary="Its newest version is smaller and has an epoch")
     table.add("orphan", local="1.0-1*", summary="Installed by hand, in no repository")
@@ -154,6 +155,8 @@ def texts_and_sizes(table):
                          ("text-hebrew", "Hebrew"), ("text-symbols", "symbols")):
         table.add(name, extras="1.0-1", summary=texts.SCRIPTS[script],
                   description=texts.SCRIPTS[script] * 3)
+    table.add("latin-text", local="1.0-1*", extras="1.1-1", encoding="latin-1",
+              summary="Smørrebrød in Latin-1", description="Façade, naïve, Ångström.")
     table.add("markup", base="1.0-1*", summary=texts.MARKUP, description=texts.MARKUP * 3,
               license="<i>MIT</i>", url="https://aster.example/?a=1&b=<2>\"'",
               files={"/usr/share/markup/<b>&amp;": "odd\n", "/usr/share/markup/two words": "odd\n"})

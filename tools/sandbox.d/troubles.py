@@ -49,6 +49,10 @@ def failing(table):
     table.add("fail-update", updates="2.0-1", requires=("/bin/sh",),
               summary="The %pre of its update fails",
               scripts={"pre": 'echo "fail-update gives up"; exit 7'})
+    table.add("doubles", base="1.0-1*", requires=("/bin/sh",),
+              scripts={"preun": 'if [ "$1" = 1 ]; then echo "doubles gives up"; exit 7; fi'},
+              summary="The %preun of its old version fails in an update: both versions stay")
+    table.add("doubles", updates="2.0-1", summary="Its old version does not go in an update")
     table.add("needs-fail-pre", extras="1.0-1", requires=("fail-pre",),
               summary="Depends on a package whose %pre fails")
     table.add("bad-watcher", base="1.0-1*", requires=("/bin/sh",), summary="Its trigger fails",
