@@ -1,0 +1,197 @@
+"""The sandbox: what a root holds, what its packages do, and that nothing else is touched."""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+CHECKOUT = pathlib.Path(__file__).resolve().parent.parent.parent
+SANDBOX = CHECKOUT / "tools" / "sandbox"
+sys.path.insert(0, str(CHECKOUT / "tools" / "sandbox.d"))
+
+import packages  # noqa: E402
+
+
+def sandbox(*arguments, status=0, **options):
+    """Runs the tool; returns its standard output and error together."""
+    done = subprocess.run([SANDBOX, *map(str, arguments)], stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                          errors="replace", **options)
+    if status is not None and done.returncode != status:
+        raise AssertionError(f"{arguments}: status {done.returncode}\n{done.stdout}")
+    return done.stdout
+
+
+def setUpModule():
+    global PLACE, ROOT
+    PLACE = pathlib.Path(tempfile.mkdtemp(prefix="vok-sandbox-"))
+    ROOT = PLACE / "root"
+    sandbox("create", ROOT)
+
+
+def tearDownModule():
+    shutil.rmtree(PLACE)
+
+
+def installed(root):
+    return set(sandbox("rpm", root, "-qa", "--qf", "%{nevra}\n").split())
+
+
+def digest(root):
+    """Path, size and time of every file."""
+    return {path: (path.lstat().st_size, path.lstat().st_mtime_ns) for path in root.rglob("*")}
+
+
+class Contents(unittest.TestCase):
+    """A new root, seen through rpm and dnf."""
+
+    def test_database_holds_exactly_the_base_set(self):
+        wanted = {one.nevra for one in packages.table() if one.installed}
+        self.assertGreater(len(wanted), 40)
+        self.assertEqual({one for one in installed(ROOT) if not one.startswith("gpg-pubkey")}, wanted)
+        self.assertEqual(sandbox("dnf", ROOT, "-q", "check"), "")
+        self.assertRegex(sandbox("rpm", ROOT, "-qi", "office-suite"), r"Group +: Suite\n")
+
+    def test_updates_and_replacements_are_seen(self):
+        table = sandbox("dnf", ROOT, "-q", "check-update", status=100)
+        updates, _, replaced = table.partition("Obsoleting Packages")
+        found = {tuple(line.split()[:2]) for line in updates.splitlines() if line.strip()}
+        for update in (("epochal.noarch", "1:1.2-1"), ("dictionary.x86_64", "9.10-1"),
+                       ("notebook.x86_64", "3.1-1"), ("swift-data.x86_64", "2.0-1"),
+                       ("swallow-data.noarch", "2.0-1"), ("libtwin.i686", "1.1-1"),
+                       ("libtwin.x86_64", "1.1-1"), ("weather.noarch", "1.2-2"),
+                       ("kernel.x86_64", "6.1.0-9"), ("latin-text.noarch", "1.1-1")):
+            self.assertIn(update, found)
+        self.assertNotIn("calendar", updates)
+        self.assertRegex(replaced, r"newname\S+ .*\n +oldname")
+        self.assertRegex(replaced, r"merged\S+ .*\n +oldtwin")
+
+    def test_groups_are_known_to_dnf(self):
+        def listed(*options):
+            """Heading to names."""
+            result = {}
+            for line in sandbox("dnf", ROOT, "-q", "group", "list", *options).splitlines():
+                if line.startswith(" "):
+                    result[heading].add(line.strip())
+                else:
+                    heading = line.strip()
+                    result[heading] = set()
+            return result
+
+        every = listed("--hidden")
+        self.assertEqual(every["Installed Groups:"], {"Office", "Outdoors"})
+        self.assertLessEqual({"Core", "Science", "Messages", "Empty", "Broken"},
+                             every["Available Groups:"])
+        self.assertNotIn("Core", listed()["Available Groups:"])
+
+    def test_texts_arrive_unharmed(self):
+        import texts
+        self.assertEqual(sandbox("rpm", ROOT, "-q", "--qf", "%{description}", "polyglot"),
+                         texts.all_scripts())
+        self.assertEqual(sandbox("rpm", ROOT, "-q", "--qf", "%{summary}", "markup"), texts.MARKUP)
+        entries = sandbox("rpm", ROOT, "-q", "--qf", "[%{changelogtime}\n]", "chronicle").split()
+        self.assertEqual(len(entries), 400)
+
+    def test_every_package_is_documented(self):
+        readme = (CHECKOUT / "tools" / "sandbox.d" / "README.md").read_text(encoding="utf-8")
+        documented = re.findall(r"^\| `([\w-]+)` \| (?:noarch|x86_64)", readme, re.MULTILINE)
+        self.assertEqual(documented, list(dict.fromkeys(one.name for one in packages.table())))
+
+
+class Trouble(unittest.TestCase):
+    """Packages that fail do so in their own way, and leave what they should."""
+
+    # what dnf is asked, its status, what it says, what is there afterwards, what is not
+    CASES = (
+        ("install unsigned", 1, "not signed", "", "unsigned-1.0-1.noarch"),
+        ("install damaged", 1, "GPG check FAILED", "", "damaged-1.0-1.noarch"),
+        ("install needs-foreign", 0, "Importing GPG key", "foreign-key-1.0-1.noarch", ""),
+        ("install fail-pre", 1, "fail-pre gives up|PREIN", "", "fail-pre-1.0-1.noarch"),
+        ("install fail-post", 0, "POSTIN", "fail-post-1.0-1.noarch", ""),
+        ("remove fail-preun", 1, "PREUN", "fail-preun-1.0-1.noarch", ""),
+        ("install badwire", 0, "Error in .* scriptlet", "badwire-1.0-1.noarch", ""),
+        ("upgrade doubles", 1, "PREUN", "doubles-1.0-1.noarch doubles-2.0-1.noarch", ""),
+        ("install clash-calendar", 1, "conflicts with file from package calendar", "",
+         "clash-calendar-1.0-1.noarch"),
+        ("install needs-broken", 1, "nothing provides no-such-thing", "", "needs-broken-1.0-1.noarch"),
+        ("install needs-shunned", 1, "filtered out by exclude", "", "shunned-1.0-1.noarch"),
+        ("remove vital-libs", 1, "protected packages: vital", "vital-1.0-1.noarch", ""),
+        ("install pins-old", 0, "Downgraded", "libpin-1.0-1.x86_64", "libpin-2.0-1.x86_64"),
+        ("upgrade kernel", 0, "kernel", "kernel-6.1.0-5.x86_64 kernel-6.1.0-9.x86_64", ""),
+        ("install chain-one", 0, "Installed", "chain-four-1.0-1.noarch", ""),
+        ("install lua-hello", 0, "lua-hello posttrans", "lua-hello-1.0-1.noarch", ""),
+        ("--repo=foundry install hammer", 0, "Importing GPG key", "anvil-2.0-1.x86_64", ""),
+    )
+
+    def test_each_in_its_way(self):
+        sandbox("dnf", ROOT, "-q", "makecache")
+        for arguments, status, said, there, gone in self.CASES:
+            with self.subTest(arguments):
+                copy = PLACE / "trouble"
+                sandbox("copy", ROOT, copy)
+                text = sandbox("dnf", copy, "-y", *arguments.split(), status=status)
+                self.assertRegex(text, said)
+                now = installed(copy)
+                self.assertLessEqual(set(there.split()), now)
+                self.assertFalse(set(gone.split()) & now)
+
+
+class Copies(unittest.TestCase):
+    """Roots are independent of one another and of what is not theirs."""
+
+    def test_copy_is_independent(self):
+        copy = PLACE / "copy"
+        before = digest(ROOT)
+        sandbox("copy", ROOT, copy)
+        for path in copy.rglob("*"):
+            if path.is_file() and not path.is_symlink() and path.suffix in (".conf", ".repo"):
+                self.assertNotIn(f"{ROOT}/", path.read_text(encoding="utf-8"))
+        for package in copy.glob("srv/repos/*/*/extras/Packages/poster-*"):
+            package.write_bytes(b"")
+        shutil.rmtree(copy / "srv" / "repos" / "9" / "x86_64" / "updates")
+        sandbox("rpm", copy, "-e", "orphan-notes")
+        self.assertNotIn("orphan-notes-1.0-1.noarch", installed(copy))
+        self.assertIn("Unable to find a match", sandbox(
+            "dnf", copy, "-y", "--disablerepo=updates", "install", "airpipe", status=1))
+        self.assertEqual({path: one for path, one in digest(ROOT).items() if "var" not in path.parts},
+                         {path: one for path, one in before.items() if "var" not in path.parts})
+        self.assertIn("orphan-notes-1.0-1.noarch", installed(ROOT))
+        sandbox("create", copy)
+        self.assertIn("orphan-notes-1.0-1.noarch", installed(copy))
+
+    def test_foreign_directories_are_refused(self):
+        foreign = PLACE / "foreign"
+        foreign.mkdir()
+        (foreign / "precious").write_text("keep\n", encoding="utf-8")
+        link = PLACE / "link"
+        link.symlink_to(ROOT)
+        for arguments in (("create", foreign), ("create", link), ("copy", ROOT, foreign),
+                          ("copy", foreign, PLACE / "new"), ("copy", ROOT, ROOT / "inside"),
+                          ("rpm", foreign, "-qa"), ("run", foreign, "--", "true")):
+            with self.subTest(arguments):
+                self.assertRegex(sandbox(*arguments, status=1), r"^sandbox: .+\n$")
+        self.assertEqual([path.name for path in foreign.iterdir()], ["precious"])
+        self.assertFalse((PLACE / "new").exists())
+        self.assertTrue((ROOT / "etc" / "yum.conf").exists())
+        for arguments in ((), ("create",), ("run", ROOT, "true"), ("remove", ROOT)):
+            self.assertIn("usage:", sandbox(*arguments, status=2))
+
+    def test_run_gives_the_environment_and_the_status(self):
+        given = dict(os.environ, DISPLAY=":77", XDG_CONFIG_HOME="/elsewhere")
+        given.pop("VOKSHARE", None)
+        text = sandbox("run", ROOT, "--", "env", env=given)
+        variables = dict(line.split("=", 1) for line in text.splitlines() if "=" in line)
+        self.assertEqual(variables["VOKROOT"], str(ROOT))
+        self.assertTrue(variables["HOME"].startswith(f"{ROOT}/"))
+        self.assertTrue(variables["VOKSHARE"].endswith("share/vok"))
+        self.assertEqual(variables["DISPLAY"], ":77")
+        self.assertNotIn("XDG_CONFIG_HOME", variables)
+        sandbox("run", ROOT, "--", "sh", "-c", "exit 41", status=41)
+
+
+if __name__ == "__main__":
+    unittest.main()
