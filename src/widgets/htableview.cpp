@@ -1,0 +1,127 @@
+#include "widgets/htableview.h"
+
+#include "widgets/cellmeter.h"
+#include "widgets/hitemdelegate.h"
+
+#include <QHeaderView>
+#include <QScreen>
+#include <QScrollBar>
+
+#include <algorithm>
+
+HTableView::HTableView(QStyleOptionViewItem::Position decorationPosition, int minRows, int maxRows,
+                       QWidget *parent)
+    : QTableView(parent), m_decorationPosition(decorationPosition), m_minRows(minRows),
+      m_maxRows(maxRows)
+{
+    setItemDelegate(new HItemDelegate(this));
+    setWordWrap(false);
+}
+
+void HTableView::initViewItemOption(QStyleOptionViewItem *option) const
+{
+    QTableView::initViewItemOption(option);
+    option->decorationPosition = m_decorationPosition;
+    option->showDecorationSelected = false;
+}
+
+void HTableView::sortByColumn(int column)
+{
+    if (!model())
+        return;
+    const QHeaderView *header = horizontalHeader();
+    const bool sorted = header->sortIndicatorSection() == column;
+    sortByColumn(column, sorted ? header->sortIndicatorOrder() : Qt::AscendingOrder);
+}
+
+void HTableView::sortByColumn(int column, Qt::SortOrder order)
+{
+    horizontalHeader()->setSortIndicator(column, order);
+    if (model())
+        model()->sort(column, order);
+}
+
+int HTableView::frameOnlyAroundContentsPixels() const
+{
+    if (!style()->styleHint(QStyle::SH_ScrollView_FrameOnlyAroundContents, nullptr, this))
+        return 0;
+    return 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
+}
+
+// Positions are taken as they are when nothing is scrolled, so that scrolling changes no hint.
+QSize HTableView::sizeHint() const
+{
+    if (m_minRows != m_maxRows) {
+        const int rows = model() ? model()->rowCount() : 0;
+        m_minRows = m_maxRows = std::clamp(rows, m_minRows, m_maxRows);
+    }
+    const QHeaderView *columns = horizontalHeader();
+    const QHeaderView *rows = verticalHeader();
+
+    int width = 2 * frameWidth() + frameOnlyAroundContentsPixels() +
+                verticalScrollBar()->sizeHint().width() + columns->length();
+    if (!rows->isHidden())
+        width += rows->sizeHint().width();
+
+    const bool anyRow = model() && model()->rowCount() > 0;
+    const int rowHeight = anyRow ? rows->sectionSize(0) : rows->defaultSectionSize();
+    int height = 2 * frameWidth() + rowHeight * m_minRows;
+    if (!columns->isHidden())
+        height += columns->sizeHint().height();
+    return {width, height};
+}
+
+int HTableView::sizeHintForColumn(int column) const
+{
+    const QAbstractItemModel *measured = measuredModel();
+    if (!measured)
+        return -1;
+    ensurePolished();
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const QAbstractItemDelegate *delegate = itemDelegateForColumn(column);
+    CellMeter meter(delegate ? *delegate : *itemDelegate(), option);
+    int width = 0;
+    for (int row = 0, count = measured->rowCount(); row < count; ++row)
+        width = meter.widest(measured->index(row, column), width);
+    return width + (showGrid() ? 1 : 0);
+}
+
+void HTableView::resizeColumnsToContents()
+{
+    QTableView::resizeColumnsToContents();
+    for (QWidget *widget = this; widget; widget = widget->parentWidget())
+        widget->updateGeometry();
+
+    QWidget *top = window();
+    if (top->isMaximized() || top->isFullScreen())
+        return;
+    const QRect whole = screen()->geometry();
+    const QSize limit(whole.width() * 9 / 10, whole.height() * 9 / 10);
+    top->resize(top->sizeHint().boundedTo(limit).expandedTo(top->size()));
+
+    // What has grown over the edge of the screen goes back onto it.
+    const QRect available = screen()->availableGeometry();
+    const QRect frame = top->frameGeometry();
+    const int x =
+        std::max(available.left(), std::min(frame.x(), available.right() + 1 - frame.width()));
+    const int y =
+        std::max(available.top(), std::min(frame.y(), available.bottom() + 1 - frame.height()));
+    if (top->isVisible() && frame.topLeft() != QPoint(x, y))
+        top->move(x, y);
+}
+
+QModelIndexList HTableView::selectedRows() const
+{
+    QModelIndexList rows;
+    if (!selectionModel())
+        return rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            const QModelIndex index = model()->index(row, range.left(), range.parent());
+            if (model()->flags(index) & Qt::ItemIsSelectable)
+                rows.append(index);
+        }
+    }
+    return rows;
+}
