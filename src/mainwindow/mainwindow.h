@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QMainWindow>
+#include <QPointer>
 
 #include <functional>
 
@@ -13,10 +14,10 @@ class HFrameLabel;
 class HMenu;
 class HProgressBar;
 class QAction;
-class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class YumConfIO;
@@ -69,6 +70,7 @@ public Q_SLOTS:
     void cleanSqliteCache();
     void cleanAll();
     void refresh();
+    using QMainWindow::resize;
     void resize();
     void setSelected();
     void setUpdateListed();
@@ -83,7 +85,6 @@ public Q_SLOTS:
     void stateFilterChanged(int stateFilter);
     void dupsFilterChanged(int state);
     void groupsFilterChanged(int state);
-    void currentChanged(int currentRow, int previousRow);
     void stateChanged(int row);
 
 protected:
@@ -96,21 +97,29 @@ private Q_SLOTS:
 private:
     class Job;
 
+    // layout.cpp
     void createMenuBar();
     void createCacheMenu();
+    void createHelpMenu();
     void createCentralWidget();
+    void createTable();
     void createMainArea();
-    QBoxLayout *createFilterRow();
-    QBoxLayout *createButtonRow();
-    QBoxLayout *createBarsRow();
+    QLayout *createFilterRow();
+    QLayout *createButtonRow();
+    QLayout *createBarsRow();
     void connectMainArea();
-    void restoreGeometryOfLastTime();
+
+    // quit.cpp
+    void finish();
+    void askToQuit();
+    void recallGeometry();
+    void tell(const QString &text);
 
     void setReady(bool ready);
     void checkCredentials();
     void collect();
     void recollect();
-    void clean(bool (YumIO::*operation)());
+    void cleanAndCollect(bool (YumIO::*operation)());
     bool isSearchMode() const;
     void changeFilter(const std::function<void()> &change);
     void prepareFilterSearch();
@@ -118,7 +127,7 @@ private:
     void warnUnlistedActions();
     void warnConfigure();
     void showMainArea();
-    void finish();
+    void showMode();
 
     QList<YumRepoEnabled> m_repoRequests;
     QHash<QString, bool> m_reposUsed;
@@ -129,12 +138,15 @@ private:
     bool m_initializeScheduled = false;
     bool m_engineReady = false;
     bool m_initialized = false;
-    bool m_busy = false;          // a job runs
-    bool m_busyCursor = false;    // the busy cursor is set
-    bool m_canCancel = false;     // the running job can be cancelled now
+    bool m_busy = false;       // a job runs
+    bool m_busyCursor = false; // the busy cursor is set
+    bool m_canCancel = false;  // the running job can be cancelled now
+    QPointer<QWidget> m_focusBeforeJob;
     bool m_inTransaction = false; // rpm is at work
     bool m_quitAsked = false;     // quit when the job has ended
-    bool m_closeRefused = false;  // the user was told once that a transaction runs
+    bool m_finished = false;      // the engine is gone
+    int m_exitCode = 0;
+    bool m_closeRefused = false; // the user was told once that a transaction runs
 
     HMenu *m_programMenu = nullptr;
     QAction *m_quitAction = nullptr;

@@ -55,6 +55,7 @@ private:
     const Package::Entry *entryAt(const QModelIndex &index) const;
     QVariant icon(const Package::Entry &entry, int column) const;
     QVariant toolTip(const Package::Entry &entry, int column) const;
+    QVariant accessibleText(const Package::Entry &entry, int column) const;
     QVariant colour(const Package::Entry &entry, int column) const;
     static QVariant userValue(const Package::Entry &entry, int column);
     void write(int row, Package::Action action);

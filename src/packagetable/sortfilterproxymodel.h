@@ -57,9 +57,9 @@ private:
 
     const Package::Entry *entryAt(int sourceRow) const;
     bool acceptRow(const Package::Entry *entry) const;
+    bool acceptTexts(const Package::Entry &entry) const;
     bool acceptFields(const Package::Entry &entry) const;
     bool matches(const char *text) const;
-    void settingsChanged();
     void sourceAboutToBeReset();
     void judgeAll();
 
@@ -71,7 +71,8 @@ private:
     YumIO *m_yumIO;
     HAbstractTableModel *m_sourcePackageModel = nullptr;
     mutable QHash<const Package::Entry *, bool> m_acceptCache;
-    int m_regexStatus = -1;
+    bool m_hasExpression = false;
+    int m_regexStatus = -1; // 0: m_regex holds the compiled expression
     regex_t m_regex;
     mutable QByteArray m_rowText;
 };

@@ -36,12 +36,15 @@ public Q_SLOTS:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 protected:
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     const QAbstractItemModel *measuredModel() const override;
 
 private:
-    QModelIndex contextIndex(const QPoint &pos) const;
+    void toggleAction(const QModelIndex &index);
+    void showContextMenu(const QModelIndex &index, const QPoint &globalPos);
 
     Model *m_model;
     SortFilterProxyModel *m_proxy;

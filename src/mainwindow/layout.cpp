@@ -1,0 +1,292 @@
+#include "mainwindow/mainwindow.h"
+
+#include "packagetable/model.h"
+#include "packagetable/sortfilterproxymodel.h"
+#include "packagetable/view.h"
+#include "progress/hprogressbar.h"
+#include "widgets/hframelabel.h"
+#include "widgets/hmenu.h"
+#include "yumio/yumio.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+void describeControl(QWidget *control, const char *name, const QString &toolTip,
+                     const QString &accessibleName = QString())
+{
+    control->setObjectName(QLatin1String(name));
+    control->setToolTip(toolTip);
+    if (!accessibleName.isEmpty())
+        control->setAccessibleName(accessibleName);
+}
+
+} // namespace
+
+void MainWindow::createMenuBar()
+{
+    const auto addMenu = [this](const char *name, const QString &title) {
+        auto *menu = new HMenu(title, this);
+        menu->setObjectName(QLatin1String(name));
+        menuBar()->addMenu(menu);
+        return menu;
+    };
+
+    m_programMenu = addMenu("programMenu", tr("&Program"));
+    m_quitAction = m_programMenu->addAction(tr("&Quit"), this, &MainWindow::quit);
+    m_quitAction->setObjectName(QStringLiteral("quitAction"));
+    m_quitAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
+
+    HMenu *windowsMenu = addMenu("windowsMenu", tr("&Windows"));
+    QAction *logAction = windowsMenu->addAction(tr("&Log"), this, &MainWindow::displayLog);
+    logAction->setObjectName(QStringLiteral("logAction"));
+    logAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+L")));
+
+    m_repositoriesMenu = addMenu("repositoriesMenu", tr("&Repositories"));
+    m_editConfigurationAction = m_repositoriesMenu->addAction(tr("&Edit Configuration"));
+    m_editConfigurationAction->setObjectName(QStringLiteral("editConfigurationAction"));
+    m_editConfigurationAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
+    m_editConfigurationAction->setEnabled(false);
+    m_editConfigurationAction->setToolTip(tr("Not available yet"));
+
+    m_cacheMenu = addMenu("cacheMenu", tr("&Cache"));
+    createCacheMenu();
+    createHelpMenu();
+}
+
+void MainWindow::createCacheMenu()
+{
+    const auto add = [this](const char *name, const QString &text, void (MainWindow::*slot)()) {
+        QAction *action = m_cacheMenu->addAction(text, this, slot);
+        action->setObjectName(QLatin1String(name));
+        return action;
+    };
+    m_cleanHeadersAction =
+        add("cleanHeadersAction", tr("Clean Headers"), &MainWindow::cleanHeaders);
+    m_cleanPackagesAction =
+        add("cleanPackagesAction", tr("Clean Packages"), &MainWindow::cleanPackages);
+    m_cleanXmlMetadataAction =
+        add("cleanXmlMetadataAction", tr("Clean XML Metadata"), &MainWindow::cleanXmlMetadata);
+    m_cleanPickledCacheAction =
+        add("cleanPickledCacheAction", tr("Clean Pickled Data"), &MainWindow::cleanPickledCache);
+    m_cleanSqliteCacheAction =
+        add("cleanSqliteCacheAction", tr("Clean Sqlite Data"), &MainWindow::cleanSqliteCache);
+    m_cacheMenu->addSeparator();
+    m_cleanAllAction = add("cleanAllAction", tr("Clean All"), &MainWindow::cleanAll);
+}
+
+void MainWindow::createHelpMenu()
+{
+    auto *menu = new HMenu(tr("&Help"), this);
+    menu->setObjectName(QStringLiteral("helpMenu"));
+    menuBar()->addMenu(menu);
+    QAction *html = menu->addAction(tr("Manual (html)"));
+    html->setObjectName(QStringLiteral("manualHtmlAction"));
+    html->setShortcut(QKeySequence(Qt::Key_F1));
+    QAction *pdf = menu->addAction(tr("Manual (PDF)"));
+    pdf->setObjectName(QStringLiteral("manualPdfAction"));
+    for (QAction *action : {html, pdf}) {
+        action->setEnabled(false);
+        action->setToolTip(tr("Not available yet"));
+    }
+    menu->addSeparator();
+    menu->addAction(tr("&About"), this, &MainWindow::about)
+        ->setObjectName(QStringLiteral("aboutAction"));
+}
+
+void MainWindow::createCentralWidget()
+{
+    auto *central = new QWidget(this);
+    central->setObjectName(QStringLiteral("centralWidget"));
+    m_placeholder = new QLabel(tr("Reading the packages..."), central);
+    m_placeholder->setObjectName(QStringLiteral("placeholder"));
+    m_placeholder->setAlignment(Qt::AlignCenter);
+    m_placeholder->setWordWrap(true);
+    m_placeholder->setForegroundRole(QPalette::PlaceholderText);
+    m_placeholder->setMinimumHeight(12 * fontMetrics().height());
+
+    createTable();
+    m_mainArea = new QWidget(central);
+    m_mainArea->setObjectName(QStringLiteral("mainArea"));
+    createMainArea();
+    m_mainArea->hide();
+
+    auto *layout = new QVBoxLayout(central);
+    layout->addWidget(m_placeholder, 1);
+    layout->addWidget(m_mainArea, 1);
+    layout->addLayout(createBarsRow());
+    setCentralWidget(central);
+}
+
+void MainWindow::createTable()
+{
+    m_model = new PackageTable::Model(m_yumIO, this);
+    m_model->setObjectName(QStringLiteral("model"));
+    m_proxy = new PackageTable::SortFilterProxyModel(PackageTable::StateFilter::Updatable, true,
+                                                     false, m_yumIO, this);
+    m_proxy->setObjectName(QStringLiteral("proxy"));
+    m_proxy->setSourceModel(m_model);
+}
+
+void MainWindow::createMainArea()
+{
+    QLayout *filterRow = createFilterRow();
+    m_view = new PackageTable::View(m_model, m_proxy, m_mainArea);
+    m_view->setObjectName(QStringLiteral("view"));
+    m_view->setAccessibleName(tr("Packages"));
+    m_view->setAccessibleDescription(tr("Space changes the action of the current package."));
+    QLayout *buttonRow = createButtonRow();
+
+    auto *layout = new QVBoxLayout(m_mainArea);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(filterRow);
+    layout->addWidget(m_view, 1);
+    layout->addLayout(buttonRow);
+    connectMainArea();
+    warnConfigure();
+    showMode();
+    collectedExtraData();
+}
+
+QLayout *MainWindow::createFilterRow()
+{
+    m_modeCombo = new QComboBox(m_mainArea);
+    m_modeCombo->addItems({tr("Filter"), tr("Search")});
+    describeControl(m_modeCombo, "modeCombo", QString(), tr("Mode"));
+
+    m_regexpEdit = new QLineEdit(QStringLiteral(".*"), m_mainArea);
+    describeControl(m_regexpEdit, "regexpEdit", QString(), tr("Regular expression"));
+
+    m_filterSearchButton = new QPushButton(tr("Filter"), m_mainArea);
+    m_filterSearchButton->setDefault(true);
+    describeControl(m_filterSearchButton, "filterSearchButton", QString());
+
+    m_stateCombo = new QComboBox(m_mainArea);
+    m_stateCombo->addItems(
+        {tr("View Updatable"), tr("View Installable"), tr("View Removable"), tr("View All")});
+    describeControl(m_stateCombo, "stateCombo",
+                    tr("Filter for those packages which are eligible for updating,\nfor "
+                       "installing, or for removing; or show all packages"),
+                    tr("State"));
+
+    m_dupsCheck = new QCheckBox(tr("Include Duplicates"), m_mainArea);
+    m_dupsCheck->setChecked(true);
+    describeControl(m_dupsCheck, "dupsCheck",
+                    tr("Whether or not filter should include packages with duplicate names.\nIf "
+                       "unchecked, the package with the architecture closest to the base "
+                       "architecture is shown."));
+
+    m_groupsCheck = new QCheckBox(tr("Include Groups"), m_mainArea);
+    describeControl(m_groupsCheck, "groupsCheck",
+                    tr("Whether or not filter should include package groups"));
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_modeCombo);
+    row->addWidget(m_regexpEdit, 1);
+    row->addWidget(m_filterSearchButton);
+    row->addWidget(m_stateCombo);
+    row->addWidget(m_dupsCheck);
+    row->addWidget(m_groupsCheck);
+    return row;
+}
+
+QLayout *MainWindow::createButtonRow()
+{
+    auto *row = new QHBoxLayout;
+    const auto add = [&](const char *name, const QString &text, const QString &toolTip) {
+        auto *button = new QPushButton(text, m_mainArea);
+        describeControl(button, name, toolTip);
+        row->addWidget(button);
+        return button;
+    };
+    m_describeButton =
+        add("describeButton", tr("&Describe"),
+            tr("%1\n(Not available yet.)")
+                .arg(tr("Pop up a window with a detailed description of the currently selected "
+                        "package")));
+    m_describeButton->setEnabled(false);
+    m_resizeButton =
+        add("resizeButton", tr("Re&size"), tr("Resize the columns and window to optimal values"));
+    m_refreshButton =
+        add("refreshButton", tr("Re&fresh"),
+            tr("Refresh the list of installed packages and packages available for update.\nUse "
+               "this to check for new updates in repositories, or if any packages were installed "
+               "manually."));
+    m_setSelectedButton =
+        add("setSelectedButton", tr("Set &Install/Update of Selected"),
+            tr("Sets the Action for all selected packages which are Not Installed to Install, "
+               "and\nsets the Action for all selected packages which are Installed but Out-of-date "
+               "to Update.\nDoes not Apply Actions automatically."));
+    m_setUpdateListedButton =
+        add("setUpdateListedButton", tr("Set &Update of Listed"),
+            tr("Sets the Action to Update for any packages which are Installed but "
+               "Out-of-date,\nand which are currently listed based on the the Mode, Filter, "
+               "Search, State, Duplicates, and Groups settings.\nDoes not Apply Actions "
+               "automatically."));
+    m_clearActionsButton =
+        add("clearActionsButton", tr("&Clear Actions"),
+            tr("Clears all specified Actions (Updates, Installs, and Removals)"));
+    // Alt+C opens the Cache menu; one key for both would only move the focus between them.
+    m_clearActionsButton->setShortcut(QKeySequence(QStringLiteral("Alt+Shift+C")));
+    m_unlistedLabel = new HFrameLabel(m_mainArea);
+    m_unlistedLabel->setObjectName(QStringLiteral("unlistedLabel"));
+    row->addWidget(m_unlistedLabel);
+    row->addStretch();
+    m_applyButton = add("applyButton", tr("&Apply Actions"),
+                        tr("Applies the specified Actions (Updates, Installs, and Removals)"));
+    m_applyButton->setEnabled(false);
+    return row;
+}
+
+// Outside the main area: the bars and the cancel control live while the main area is hidden or
+// disabled, and what enables the bars is the progress of the job.
+QLayout *MainWindow::createBarsRow()
+{
+    QWidget *parent = m_placeholder->parentWidget();
+    m_totalBar = new HProgressBar(parent);
+    m_totalBar->setObjectName(QStringLiteral("totalBar"));
+    m_totalBar->setAccessibleName(tr("Total progress"));
+    m_itemBar = new HProgressBar(parent);
+    m_itemBar->setObjectName(QStringLiteral("itemBar"));
+    m_itemBar->setAccessibleName(tr("Progress of the current step"));
+    m_cancelButton = new QPushButton(tr("Ca&ncel"), parent);
+    describeControl(m_cancelButton, "cancelButton",
+                    tr("Stops the running operation.\nAn rpm transaction that has begun cannot be "
+                       "stopped."));
+    m_cancelButton->setEnabled(false);
+    connect(m_cancelButton, &QPushButton::clicked, this, &MainWindow::cancel);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_totalBar, 1);
+    row->addWidget(m_itemBar, 1);
+    row->addWidget(m_cancelButton);
+    return row;
+}
+
+void MainWindow::connectMainArea()
+{
+    connect(m_modeCombo, &QComboBox::currentIndexChanged, this, &MainWindow::modeChanged);
+    connect(m_regexpEdit, &QLineEdit::returnPressed, this, &MainWindow::filtersearch);
+    connect(m_filterSearchButton, &QPushButton::clicked, this, &MainWindow::filtersearch);
+    connect(m_stateCombo, &QComboBox::currentIndexChanged, this, &MainWindow::stateFilterChanged);
+    connect(m_dupsCheck, &QCheckBox::stateChanged, this, &MainWindow::dupsFilterChanged);
+    connect(m_groupsCheck, &QCheckBox::stateChanged, this, &MainWindow::groupsFilterChanged);
+    connect(m_yumIO, &YumIO::collectedExtraData, this, &MainWindow::collectedExtraData);
+    connect(m_yumIO, qOverload<const QString &, bool>(&YumIO::jobState), this,
+            &MainWindow::jobState);
+    connect(m_view, &PackageTable::View::stateChanged, this, &MainWindow::stateChanged);
+    connect(m_resizeButton, &QPushButton::clicked, this, qOverload<>(&MainWindow::resize));
+    connect(m_refreshButton, &QPushButton::clicked, this, &MainWindow::refresh);
+    connect(m_setSelectedButton, &QPushButton::clicked, this, &MainWindow::setSelected);
+    connect(m_setUpdateListedButton, &QPushButton::clicked, this, &MainWindow::setUpdateListed);
+    connect(m_clearActionsButton, &QPushButton::clicked, this, &MainWindow::clearActions);
+    connect(m_applyButton, &QPushButton::clicked, this, &MainWindow::apply);
+}

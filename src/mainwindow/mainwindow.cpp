@@ -1,0 +1,453 @@
+#include "mainwindow/mainwindow.h"
+
+#include "app/version.h"
+#include "log/logwindow.h"
+#include "mainwindow/job.h"
+#include "packagetable/model.h"
+#include "packagetable/sortfilterproxymodel.h"
+#include "packagetable/view.h"
+#include "repo/yumconfio.h"
+#include "widgets/hframelabel.h"
+#include "widgets/hmenu.h"
+#include "yumio/yumio.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include <optional>
+
+MainWindow::MainWindow() : m_yumIO(new YumIO)
+{
+    setWindowTitle(tr("VOK"));
+    setObjectName(QStringLiteral("mainWindow"));
+    createMenuBar();
+    createCentralWidget();
+    m_yumIO->setup(this, m_totalBar, m_itemBar);
+    recallGeometry();
+}
+
+MainWindow::~MainWindow()
+{
+    finish();
+    delete m_yumConfIO;
+}
+
+void MainWindow::setMode(PackageTable::Mode mode)
+{
+    m_modeCombo->setCurrentIndex(int(mode));
+}
+
+void MainWindow::setRegexp(const char *regexp)
+{
+    m_regexpEdit->setText(QString::fromLocal8Bit(regexp));
+}
+
+void MainWindow::setStateFilter(PackageTable::StateFilter stateFilter)
+{
+    m_stateCombo->setCurrentIndex(int(stateFilter));
+}
+
+void MainWindow::setDups(bool dups)
+{
+    m_dupsCheck->setChecked(dups);
+}
+
+void MainWindow::setGroups(bool groups)
+{
+    m_groupsCheck->setChecked(groups);
+}
+
+void MainWindow::addRepoRequest(const YumRepoEnabled &request)
+{
+    m_repoRequests.append(request);
+}
+
+void MainWindow::setVisible(bool visible)
+{
+    QMainWindow::setVisible(visible);
+    if (visible && !m_initializeScheduled) {
+        m_initializeScheduled = true;
+        QTimer::singleShot(0, this, &MainWindow::initialize);
+    }
+}
+
+QSize MainWindow::sizeHint() const
+{
+    return QMainWindow::sizeHint().expandedTo({768, 0});
+}
+
+void MainWindow::initialize()
+{
+    const Job job(this);
+    if (!job)
+        return;
+    m_yumConfIO = new YumConfIO(m_repoRequests, m_reposUsed);
+    connect(m_yumConfIO, &YumConfIO::changed, this, &MainWindow::yumConfIOChanged);
+    m_model->setYumConfIO(m_yumConfIO);
+    if (m_showLogAtStart)
+        displayLog();
+    if (!m_yumIO->initialize()) {
+        m_quitAsked = true;
+        m_exitCode = 1;
+        return;
+    }
+    m_engineReady = true;
+    checkCredentials();
+    if (m_quitAsked)
+        return;
+    collect();
+    if (m_quitAsked)
+        return;
+    showMainArea();
+    m_view->resizeColumnsToContents();
+    prepareFilterSearch();
+    m_proxy->setFilterRegExp(m_regexpEdit->text());
+    anyFilterChanged();
+    m_initialized = true;
+    if (m_startInEditor)
+        tell(tr("The repository editor is not available yet."));
+}
+
+// What a repository still needs to be told before it can be used is asked for here.
+void MainWindow::checkCredentials()
+{
+    m_yumConfIO->read(this);
+}
+
+void MainWindow::showMainArea()
+{
+    m_placeholder->hide();
+    m_mainArea->show();
+    m_focusBeforeJob = m_view;
+}
+
+void MainWindow::collect()
+{
+    const bool collected = m_yumIO->collect(m_reposUsed);
+    m_model->reset();
+    tell(collected ? QString() : tr("The packages were not collected. Refresh tries again."));
+}
+
+void MainWindow::recollect()
+{
+    if (m_quitAsked)
+        return;
+    m_yumIO->clear();
+    m_model->reset();
+    if (!m_quitAsked)
+        collect();
+    warnUnlistedActions();
+    stateChanged(-1);
+}
+
+void MainWindow::setReady(bool ready)
+{
+    for (QMenu *menu : {m_programMenu, m_cacheMenu})
+        menu->setEnabled(ready);
+    for (QAction *action : {m_quitAction, m_cleanHeadersAction, m_cleanPackagesAction,
+                            m_cleanXmlMetadataAction, m_cleanAllAction})
+        action->setEnabled(ready);
+    // What the library can do is asked of the interpreter, so only when no job runs.
+    m_cleanPickledCacheAction->setEnabled(ready && m_yumIO->hasPickledCache());
+    m_cleanSqliteCacheAction->setEnabled(ready && m_yumIO->hasSqliteCache());
+
+    QWidget *focus = focusWidget();
+    if (!ready && focus && m_mainArea->isAncestorOf(focus))
+        m_focusBeforeJob = focus;
+    m_mainArea->setEnabled(ready);
+    if (ready && m_focusBeforeJob) {
+        m_focusBeforeJob->setFocus();
+        m_focusBeforeJob = nullptr;
+    }
+
+    if (ready == m_busyCursor) {
+        m_busyCursor = !ready;
+        if (ready)
+            QApplication::restoreOverrideCursor();
+        else
+            QApplication::setOverrideCursor(Qt::BusyCursor);
+    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void MainWindow::yumConfIOChanged()
+{
+    const QString dir = m_yumConfIO->cachedir;
+    m_cleanHeadersAction->setToolTip(tr("Clean RPM package headers cached locally in %1").arg(dir));
+    m_cleanPackagesAction->setToolTip(
+        tr("Clean RPM packages cached locally in %1\n(useful for recovering disk space)").arg(dir));
+    m_cleanXmlMetadataAction->setToolTip(
+        tr("Clean XML metadata cached locally in %1\n(useful along with Clean Pickled Data for\n "
+           "forcing download of new available package lists)")
+            .arg(dir));
+    m_cleanPickledCacheAction->setToolTip(
+        tr("Clean pickled data cached locally in %1\n(useful along with Clean XML Metadata for\n "
+           "forcing download of new available package lists)")
+            .arg(dir));
+    m_cleanSqliteCacheAction->setToolTip(
+        tr("Clean sqlite data cached locally in %1\n(useful along with Clean XML Metadata for\n "
+           "forcing download of new available package lists)")
+            .arg(dir));
+    m_cleanAllAction->setToolTip(tr("Clean all data cached locally in %1").arg(dir));
+}
+
+void MainWindow::displayLog()
+{
+    if (!m_logWindow)
+        m_logWindow = new Log::Window(m_yumIO->logList());
+    m_logWindow->show();
+    m_logWindow->raise();
+    m_logWindow->activateWindow();
+}
+
+void MainWindow::cleanAndCollect(bool (YumIO::*operation)())
+{
+    const Job job(this);
+    if (!job)
+        return;
+    (m_yumIO->*operation)();
+    recollect();
+}
+
+void MainWindow::cleanHeaders()
+{
+    cleanAndCollect(&YumIO::cleanHeaders);
+}
+
+// Downloaded packages do not decide what the table shows.
+void MainWindow::cleanPackages()
+{
+    const Job job(this);
+    if (job)
+        m_yumIO->cleanPackages();
+}
+
+void MainWindow::cleanXmlMetadata()
+{
+    cleanAndCollect(&YumIO::cleanXmlMetadata);
+}
+
+void MainWindow::cleanPickledCache()
+{
+    cleanAndCollect(&YumIO::cleanPickledCache);
+}
+
+void MainWindow::cleanSqliteCache()
+{
+    cleanAndCollect(&YumIO::cleanSqliteCache);
+}
+
+void MainWindow::cleanAll()
+{
+    cleanAndCollect(&YumIO::cleanAll);
+}
+
+void MainWindow::refresh()
+{
+    const Job job(this);
+    if (job)
+        recollect();
+}
+
+void MainWindow::resize()
+{
+    m_view->resizeColumnsToContents();
+}
+
+void MainWindow::setSelected()
+{
+    if (m_busy)
+        return;
+    m_model->setSelected(m_view->selectedRows());
+    stateChanged(-1);
+}
+
+void MainWindow::setUpdateListed()
+{
+    if (m_busy)
+        return;
+    m_proxy->setUpdateListed();
+    stateChanged(-1);
+}
+
+void MainWindow::clearActions()
+{
+    if (m_busy)
+        return;
+    m_model->clearActions();
+    warnUnlistedActions();
+    stateChanged(-1);
+}
+
+void MainWindow::apply()
+{
+    const Job job(this);
+    if (!job)
+        return;
+    if (m_yumIO->apply()) {
+        checkCredentials();
+        recollect();
+    }
+    warnUnlistedActions();
+    stateChanged(-1);
+}
+
+void MainWindow::stateChanged(int row)
+{
+    const auto hasAction = [](const Package::Entry *entry) {
+        return entry->action != Package::Action::None;
+    };
+    const bool known = row >= 0 && row < m_yumIO->count() && hasAction((*m_yumIO)[row]);
+    m_applyButton->setEnabled(known || std::any_of(m_yumIO->begin(), m_yumIO->end(), hasAction));
+}
+
+void MainWindow::about()
+{
+    QMessageBox::about(
+        this, tr("About"),
+        tr("<h3>VOK %1</h3><hr><p>VOK, Vokmanager, is a graphical user interface which allows a "
+           "user to make modifications to the installed rpm packages on a system.</p>"
+           "<p>Capabilities:<p><ul><li>Install new packages or update existing packages by "
+           "downloading them from a yum package repository</li><li>Remove existing "
+           "packages.</li><li>Configure sets of repositories from which to obtain new and updated "
+           "packages.</li><li>Examine installed packages or packages available for installation or "
+           "update</li><li>Install, update, or remove groups of packages</li><li>Install or update "
+           "suites of packages</li></ul>")
+                .arg(QStringLiteral(VOK_VERSION)) +
+            tr("<p>For more information see the documentation in /usr/share/doc/vok-%1.</p>")
+                .arg(QStringLiteral(VOK_VERSION)));
+}
+
+bool MainWindow::isSearchMode() const
+{
+    return m_modeCombo->currentIndex() == int(PackageTable::Mode::Search);
+}
+
+// A search asks the engine for every package, which takes its time; a filter does not.
+void MainWindow::changeFilter(const std::function<void()> &change)
+{
+    if (m_busy && isSearchMode())
+        return;
+    {
+        std::optional<Job> job;
+        if (isSearchMode())
+            job.emplace(this);
+        change();
+    }
+    anyFilterChanged();
+}
+
+void MainWindow::filtersearch()
+{
+    changeFilter([this] {
+        prepareFilterSearch();
+        m_proxy->setFilterRegExp(m_regexpEdit->text());
+    });
+}
+
+// File lists and the other data are read once, with the filter off, so that nothing asks for them
+// before they are there.
+void MainWindow::prepareFilterSearch()
+{
+    const QString text = m_regexpEdit->text();
+    if (!m_engineReady || !isSearchMode() || text.isEmpty() || text == QStringLiteral(".*"))
+        return;
+    if (m_yumIO->hasFileLists() && m_yumIO->hasOtherData())
+        return;
+    m_proxy->setFilter(false);
+    m_yumIO->collectFileLists();
+    if (!m_quitAsked)
+        m_yumIO->collectOtherData();
+    m_proxy->setFilter(true);
+}
+
+void MainWindow::showMode()
+{
+    if (isSearchMode()) {
+        m_filterSearchButton->setText(tr("Search"));
+        m_regexpEdit->setToolTip(tr("Regular expression to compare to all fields of a package"));
+        m_filterSearchButton->setToolTip(
+            tr("Perform the search for the regular expression specified to the left"));
+    } else {
+        m_filterSearchButton->setText(tr("Filter"));
+        m_regexpEdit->setToolTip(
+            tr("Regular expression filter matching textual fields visible in the table"));
+        m_filterSearchButton->setToolTip(tr("Apply the filter specified to the left"));
+    }
+}
+
+void MainWindow::modeChanged(int mode)
+{
+    showMode();
+    changeFilter([this, mode] {
+        prepareFilterSearch();
+        m_proxy->setMode(PackageTable::Mode(mode));
+    });
+}
+
+void MainWindow::stateFilterChanged(int stateFilter)
+{
+    changeFilter(
+        [this, stateFilter] { m_proxy->setStateFilter(PackageTable::StateFilter(stateFilter)); });
+}
+
+void MainWindow::dupsFilterChanged(int state)
+{
+    changeFilter([this, state] { m_proxy->setDupsFilter(state != 0); });
+}
+
+void MainWindow::groupsFilterChanged(int state)
+{
+    changeFilter([this, state] { m_proxy->setGroupsFilter(state != 0); });
+}
+
+void MainWindow::anyFilterChanged()
+{
+    warnUnlistedActions();
+}
+
+void MainWindow::collectedExtraData()
+{
+    const QString tip =
+        tr("Specify the method for using a regular expression to select packages in the "
+           "table:\n\tFilter uses the textual fields visible in the table, as if they were "
+           "separated by spaces.\n\tSearch uses all fields in packages, including list of Files, "
+           "Change Log, Requires, etc.,\n\tindependently.  It is considerably slower.");
+    const bool loaded = m_yumIO->hasFileLists() && m_yumIO->hasOtherData();
+    m_modeCombo->setToolTip(loaded ? tip : tr("%1 (Must load extra data.)").arg(tip));
+}
+
+void MainWindow::warnUnlistedActions()
+{
+    if (m_finished)
+        return;
+    for (int row = 0, count = m_yumIO->count(); row < count; ++row) {
+        if ((*m_yumIO)[row]->action == Package::Action::None)
+            continue;
+        if (m_proxy->mapFromSource(m_model->index(row, 0)).isValid())
+            continue;
+        m_unlistedLabel->setText(tr("Unlisted Actions"));
+        m_unlistedLabel->setToolTip(
+            tr("Some packages have actions specified, but because of the current\nMode, Filter, "
+               "Search, State, Duplicates, and Groups settings,\nthese packages are not listed "
+               "currently.\nPressing Apply will cause these actions to occur nonetheless."));
+        return;
+    }
+    m_unlistedLabel->clear();
+    m_unlistedLabel->setToolTip(QString());
+}
+
+// Reserves the warning's room, so that the buttons stay where they are when it appears.
+void MainWindow::warnConfigure()
+{
+    m_unlistedLabel->setText(tr("Unlisted Actions"));
+    m_unlistedLabel->setFixedSize(m_unlistedLabel->sizeHint());
+    m_unlistedLabel->clear();
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "packagetable/model.h"
+#include "widgets/hmenu.h"
+
+#include <QPersistentModelIndex>
+
+namespace PackageTable {
+
+class View;
+
+// Sets the action of the selected packages, or of the one it was opened at.
+class ActionContextMenu : public HMenu
+{
+    Q_OBJECT
+
+public:
+    ActionContextMenu(Model *model, View *view);
+
+    // Runs modally; `index` is the package model's.
+    void exec(const QModelIndex &index, const QPoint &globalPos);
+
+private Q_SLOTS:
+    void handleUpdateAction();
+    void handleInstallAction();
+    void handleRemoveAction();
+    void handleNoneAction();
+
+private:
+    void handleAction(Package::Action action);
+    QAction *m_updateAction;
+    QAction *m_installAction;
+    QAction *m_removeAction;
+    QAction *m_noneAction;
+    Model *m_model;
+    View *m_view;
+    QPersistentModelIndex m_index;
+};
+
+// What can be asked about the package it was opened at.
+class OtherContextMenu : public HMenu
+{
+    Q_OBJECT
+
+public:
+    explicit OtherContextMenu(QWidget *parent);
+
+    // Runs modally; `index` is the package model's, and may be invalid.
+    void exec(const QModelIndex &index, const QPoint &globalPos);
+
+private:
+    QAction *m_describeAction;
+    QAction *m_browseAction;
+};
+
+} // namespace PackageTable

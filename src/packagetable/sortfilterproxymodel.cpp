@@ -1,0 +1,288 @@
+#include "packagetable/sortfilterproxymodel.h"
+
+#include "packagetable/model.h"
+#include "yumio/yumio.h"
+
+#include <QStringEncoder>
+
+namespace PackageTable {
+
+using Package::Entry;
+using Package::Kind;
+using Package::State;
+
+namespace {
+
+const QString anything = QStringLiteral(".*");
+
+// In front of and behind an expression that may match anywhere it adds nothing but work.
+QString stripped(QString pattern)
+{
+    while (pattern.startsWith(anything))
+        pattern.remove(0, anything.size());
+    while (pattern.endsWith(anything))
+        pattern.chop(anything.size());
+    return pattern;
+}
+
+void appendUtf8(QByteArray &bytes, QStringView text)
+{
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    const qsizetype size = bytes.size();
+    bytes.resize(size + encoder.requiredSpace(text.size()));
+    const char *end = encoder.appendToBuffer(bytes.data() + size, text);
+    bytes.truncate(end - bytes.constData());
+}
+
+} // namespace
+
+SortFilterProxyModel::SortFilterProxyModel(StateFilter stateFilter, bool dups, bool groups,
+                                           YumIO *yumIO, QObject *parent)
+    : HSortFilterProxyModel(NameColumn, parent), m_stateFilter(stateFilter), m_dups(dups),
+      m_groups(groups), m_yumIO(yumIO)
+{
+}
+
+SortFilterProxyModel::~SortFilterProxyModel()
+{
+    if (m_regexStatus == 0)
+        regfree(&m_regex);
+}
+
+void SortFilterProxyModel::setSourceModel(HAbstractTableModel *model)
+{
+    if (m_sourcePackageModel)
+        disconnect(m_sourcePackageModel, &QAbstractItemModel::modelAboutToBeReset, this,
+                   &SortFilterProxyModel::sourceAboutToBeReset);
+    clearCache();
+    m_sourcePackageModel = model;
+    // Before the base connects its own, so that the verdicts are those of the new rows.
+    if (model)
+        connect(model, &QAbstractItemModel::modelAboutToBeReset, this,
+                &SortFilterProxyModel::sourceAboutToBeReset);
+    HSortFilterProxyModel::setSourceModel(model);
+}
+
+void SortFilterProxyModel::setMode(Mode mode)
+{
+    if (mode == m_mode)
+        return;
+    m_mode = mode;
+    clear();
+}
+
+void SortFilterProxyModel::setStateFilter(StateFilter stateFilter)
+{
+    if (stateFilter == m_stateFilter)
+        return;
+    m_stateFilter = stateFilter;
+    clear();
+}
+
+void SortFilterProxyModel::setDupsFilter(bool dups)
+{
+    if (dups == m_dups)
+        return;
+    m_dups = dups;
+    clear();
+}
+
+void SortFilterProxyModel::setGroupsFilter(bool groups)
+{
+    if (groups == m_groups)
+        return;
+    m_groups = groups;
+    clear();
+}
+
+void SortFilterProxyModel::setFilter(bool filter)
+{
+    if (filter == m_filter)
+        return;
+    m_filter = filter;
+    clear();
+}
+
+void SortFilterProxyModel::setFilterRegExp(const QString &pattern)
+{
+    const QString text = stripped(pattern);
+    if (m_regexStatus == 0)
+        regfree(&m_regex);
+    m_regexStatus = regcomp(&m_regex, text.toUtf8().constData(), REG_EXTENDED | REG_NOSUB);
+    m_hasExpression = !text.isEmpty();
+
+    const QRegularExpression expression(text);
+    if (expression != filterRegExp())
+        clearCache();
+    judgeAll();
+    HSortFilterProxyModel::setFilterRegExp(expression);
+}
+
+void SortFilterProxyModel::clear()
+{
+    clearCache();
+    judgeAll();
+    HSortFilterProxyModel::clear();
+}
+
+void SortFilterProxyModel::clearCache()
+{
+    m_acceptCache.clear();
+}
+
+void SortFilterProxyModel::sourceAboutToBeReset()
+{
+    if (m_sourcePackageModel->isRediscovering())
+        return; // the rows are the same, and so are the verdicts
+    clearCache();
+    judgeAll();
+}
+
+// A search asks the engine, which may show a failure in a dialog: that must not happen while the
+// base builds its mapping, so the verdicts are there before.
+void SortFilterProxyModel::judgeAll()
+{
+    if (!m_sourcePackageModel)
+        return;
+    const int count = m_sourcePackageModel->rowCount();
+    m_acceptCache.reserve(count);
+    for (int row = 0; row < count; ++row)
+        filterAcceptsRow(row, {});
+}
+
+// Null for a row that the engine does not have any more.
+const Entry *SortFilterProxyModel::entryAt(int sourceRow) const
+{
+    return sourceRow < m_yumIO->count() ? (*m_yumIO)[sourceRow] : nullptr;
+}
+
+bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &) const
+{
+    if (!m_filter)
+        return true;
+    const Entry *entry = entryAt(sourceRow);
+    if (!entry)
+        return false;
+    if (const auto known = m_acceptCache.constFind(entry); known != m_acceptCache.cend())
+        return *known;
+    const bool accepted = acceptRow(entry);
+    m_acceptCache.insert(entry, accepted);
+    return accepted;
+}
+
+bool SortFilterProxyModel::acceptRow(const Entry *entry) const
+{
+    switch (m_stateFilter) {
+    case StateFilter::Updatable:
+        if (entry->state != State::Updatable)
+            return false;
+        break;
+    case StateFilter::Installable:
+        if (entry->state != State::Installable)
+            return false;
+        break;
+    case StateFilter::Removable:
+        if (entry->state == State::Installable)
+            return false;
+        break;
+    case StateFilter::All:
+        break;
+    }
+    if (!m_dups && entry->duplicate)
+        return false;
+    if (!m_groups && entry->kind == Kind::Group)
+        return false;
+    if (!m_hasExpression)
+        return true;
+    return m_mode == Mode::Search ? acceptFields(*entry) : acceptTexts(*entry);
+}
+
+bool SortFilterProxyModel::acceptTexts(const Entry &entry) const
+{
+    m_rowText.resize(0); // keeps its memory for the next row
+    for (int column = NameColumn; column < ColumnCount; ++column) {
+        const QString text = Model::text(entry, column);
+        if (text.isEmpty())
+            continue;
+        if (!m_rowText.isEmpty())
+            m_rowText.append(' ');
+        appendUtf8(m_rowText, text);
+    }
+    return matches(m_rowText.constData());
+}
+
+// The cheap fields come first, and a field is asked for only when none before it matched.
+bool SortFilterProxyModel::acceptFields(const Entry &entry) const
+{
+    using Getter = QString (YumIO::*)(const Entry &);
+    using SimpleGetter = QString (YumIO::*)(const Entry &) const;
+    const auto found = [&](auto getter) { return matches((m_yumIO->*getter)(entry)); };
+    const auto anySimple = [&](std::initializer_list<SimpleGetter> getters) {
+        return std::any_of(getters.begin(), getters.end(), found);
+    };
+    const auto any = [&](std::initializer_list<Getter> getters) {
+        return std::any_of(getters.begin(), getters.end(), found);
+    };
+    switch (entry.kind) {
+    case Kind::Group:
+        return anySimple({&YumIO::getName}) ||
+               any({&YumIO::getRequiredGroups, &YumIO::getDefaultMetaPkgs,
+                    &YumIO::getOptionalMetaPkgs, &YumIO::getMandatoryPkgs, &YumIO::getDefaultPkgs,
+                    &YumIO::getOptionalPkgs, &YumIO::getConditionalPkgs});
+    case Kind::Package:
+    case Kind::Suite:
+        return anySimple({&YumIO::getName, &YumIO::getVerRel, &YumIO::getRepo, &YumIO::getArch,
+                          &YumIO::getSize, &YumIO::getSummary}) ||
+               any({&YumIO::getDescription, &YumIO::getGroup, &YumIO::getVendor}) ||
+               anySimple({&YumIO::getBuildTime}) ||
+               any({&YumIO::getInstallTime, &YumIO::getBinaryRpm, &YumIO::getSourceRpm,
+                    &YumIO::getLicense, &YumIO::getPackager, &YumIO::getUrl, &YumIO::getRelocations,
+                    &YumIO::getProvides, &YumIO::getRequires, &YumIO::getConflicts,
+                    &YumIO::getObsoletes, &YumIO::getFiles, &YumIO::getChangeLog});
+    }
+    return false;
+}
+
+bool SortFilterProxyModel::matches(const QString &text) const
+{
+    return matches(text.toUtf8().constData());
+}
+
+bool SortFilterProxyModel::matches(const char *text) const
+{
+    return m_regexStatus != 0 || regexec(&m_regex, text, 0, nullptr, 0) == 0;
+}
+
+bool SortFilterProxyModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
+{
+    const Entry *a = left.isValid() ? entryAt(left.row()) : nullptr;
+    const Entry *b = right.isValid() ? entryAt(right.row()) : nullptr;
+    if (!a || !b)
+        return false;
+    const int column = left.column();
+    if (Model::isNumberColumn(column)) {
+        const int numberA = Model::sortNumber(*a, column);
+        const int numberB = Model::sortNumber(*b, column);
+        if (numberA != numberB)
+            return numberA < numberB;
+    } else if (column != NameColumn) {
+        const int order = Model::text(*a, column).compare(Model::text(*b, column));
+        if (order != 0)
+            return order < 0;
+    }
+    return a->name < b->name;
+}
+
+void SortFilterProxyModel::setUpdateListed()
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        const QModelIndex cell = index(row, ActionColumn);
+        Entry *entry = (*m_yumIO)[mapToSource(cell).row()];
+        if (entry->state == State::Updatable) {
+            entry->action = Package::Action::Update;
+            Q_EMIT dataChanged(cell, cell);
+        }
+    }
+}
+
+} // namespace PackageTable

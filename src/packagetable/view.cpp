@@ -1,0 +1,163 @@
+#include "packagetable/view.h"
+
+#include "packagetable/menus.h"
+#include "packagetable/model.h"
+#include "packagetable/sortfilterproxymodel.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+
+#include <limits>
+
+namespace PackageTable {
+
+View::View(Model *model, SortFilterProxyModel *proxy, QWidget *parent)
+    : HTableView(QStyleOptionViewItem::Left, 10, std::numeric_limits<int>::max(), parent),
+      m_model(model), m_proxy(proxy)
+{
+    setModel(proxy);
+    setShowGrid(false);
+    setGridStyle(Qt::NoPen);
+    setSelectionBehavior(SelectRows);
+    setAlternatingRowColors(true);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setTabKeyNavigation(false); // Tab leaves the table
+
+    verticalHeader()->hide();
+    auto *header = new QHeaderView(Qt::Horizontal, this);
+    header->setSectionsMovable(true);
+    header->setSectionsClickable(true);
+    header->setHighlightSections(false);
+    header->setSortIndicatorShown(true);
+    setHorizontalHeader(header);
+
+    sortByColumn(KindColumn, Qt::AscendingOrder);
+    m_proxy->setFilterKeyColumn(KindColumn);
+
+    connect(header, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
+    connect(this, &QAbstractItemView::clicked, this, &View::handleActivated);
+    connect(this, &QWidget::customContextMenuRequested, this,
+            &View::handleCustomContextMenuRequested);
+}
+
+void View::handleHorizontalHeaderClicked(int column)
+{
+    HTableView::sortByColumn(column);
+    m_proxy->setFilterKeyColumn(column);
+}
+
+void View::handleActivated(const QModelIndex &index)
+{
+    if (index.column() == ActionColumn)
+        toggleAction(index);
+}
+
+void View::toggleAction(const QModelIndex &index)
+{
+    const QModelIndex source = m_proxy->mapToSource(index);
+    m_model->toggleAction(source);
+    Q_EMIT stateChanged(source.row());
+}
+
+void View::handleCustomContextMenuRequested(const QPoint &pos)
+{
+    showContextMenu(indexAt(pos), viewport()->mapToGlobal(pos));
+}
+
+void View::showContextMenu(const QModelIndex &index, const QPoint &globalPos)
+{
+    const QModelIndex source = m_proxy->mapToSource(index);
+    if (source.isValid() && source.column() == ActionColumn) {
+        if (!m_actionContextMenu)
+            m_actionContextMenu = new ActionContextMenu(m_model, this);
+        const int row = source.row();
+        m_actionContextMenu->exec(source, globalPos);
+        Q_EMIT stateChanged(row);
+    } else {
+        if (!m_otherContextMenu)
+            m_otherContextMenu = new OtherContextMenu(this);
+        m_otherContextMenu->exec(source, globalPos);
+    }
+}
+
+bool View::event(QEvent *event)
+{
+    // The menu key opens the menu at the current cell, wherever the pointer is.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard &&
+        currentIndex().isValid()) {
+        scrollTo(currentIndex());
+        showContextMenu(currentIndex(),
+                        viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+        return true;
+    }
+    return HTableView::event(event);
+}
+
+void View::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier &&
+        currentIndex().isValid())
+        toggleAction(currentIndex());
+    else
+        HTableView::keyPressEvent(event);
+}
+
+void View::resizeColumnsToContents()
+{
+    const QScopedValueRollback<bool> measureAll(m_measureAll, true);
+    HTableView::resizeColumnsToContents();
+}
+
+const QAbstractItemModel *View::measuredModel() const
+{
+    return m_measureAll ? static_cast<const QAbstractItemModel *>(m_model) : model();
+}
+
+QModelIndexList View::selectedRows() const
+{
+    QModelIndexList rows = HTableView::selectedRows();
+    for (QModelIndex &row : rows)
+        row = m_proxy->mapToSource(row);
+    return rows;
+}
+
+void View::reset()
+{
+    const bool hadCurrent = currentIndex().isValid();
+    HTableView::reset();
+    // A reset drops the current row without telling.
+    if (hadCurrent && !currentIndex().isValid())
+        Q_EMIT currentChanged(-1, -1);
+}
+
+void View::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    HTableView::currentChanged(current, previous);
+    const int currentRow = m_proxy->mapToSource(current).row();
+    const int previousRow = m_proxy->mapToSource(previous).row();
+    if (currentRow != previousRow)
+        Q_EMIT currentChanged(currentRow, previousRow);
+}
+
+void View::paintEvent(QPaintEvent *event)
+{
+    HTableView::paintEvent(event);
+    if (model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, tr("No packages are listed"));
+}
+
+void View::changeEvent(QEvent *event)
+{
+    HTableView::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        m_model->setEnabled(isEnabled());
+}
+
+} // namespace PackageTable
