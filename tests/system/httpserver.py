@@ -6,8 +6,9 @@ first line of output is a JSON object of ports: "http"; "https" (certificate for
 127.0.0.1, signed by the authority in the file "ca"), "expired" and "stranger" (a certificate past
 its end, and one for another host); "closed" (refuses connections).
 
-A URL whose first component begins with "~" misbehaves: http://host:port/~truncate=100,only=*.rpm/x
-serves x, cut after 100 bytes when its name matches. The misbehaviours, separated by commas:
+A URL whose first component begins with "~" misbehaves: http://host:port/~truncate=100;only=*.rpm/x
+serves x, cut after 100 bytes when its name matches. The misbehaviours, separated by
+semicolons (a comma in a base URL separates two of them):
 
     status=N       that status instead of the file
     hang           no answer, until the client leaves
@@ -95,7 +96,7 @@ class Server:
 
 def parse(text):
     """The misbehaviours of a text as a dictionary of texts."""
-    pairs = (part.partition("=") for part in text.split(",") if part)
+    pairs = (part.partition("=") for part in text.split(";") if part)
     return {name: value for name, _, value in pairs}
 
 

@@ -48,8 +48,8 @@ class Misbehaviour(unittest.TestCase):
 
     def test_each_url_prefix_does_what_it_says(self):
         for behaviour, wanted in (("", BODY), ("status=403", 403), ("truncate=99", "incomplete 99"),
-                                  ("loop", 302), ("redirect", BODY), ("status=404,only=*.xml", BODY),
-                                  ("status=500,only=*.rpm", 500)):
+                                  ("loop", 302), ("redirect", BODY), ("status=404;only=*.xml", BODY),
+                                  ("status=500;only=*.rpm", 500)):
             with self.subTest(behaviour):
                 self.assertEqual(fetch(self.server.url("a.rpm", behaviour)), wanted)
         self.assertEqual(fetch(self.server.url("../etc/passwd")), 404)
@@ -64,10 +64,10 @@ class Misbehaviour(unittest.TestCase):
 
     def test_requests_are_counted(self):
         recovers, vanishes = (self.server.url("a.rpm", text) for text in
-                              ("status=503,first=2", "status=404,after=1"))
+                              ("status=503;first=2", "status=404;after=1"))
         self.assertEqual([fetch(recovers) for _ in range(3)], [503, 503, BODY])
         self.assertEqual([fetch(vanishes) for _ in range(3)], [BODY, 404, 404])
-        self.server.misbehave("status=502,only=*.rpm")
+        self.server.misbehave("status=502;only=*.rpm")
         self.assertEqual([fetch(self.server.url(name)) for name in ("a.rpm", "a.xml")], [502, BODY])
         self.server.misbehave("")
         self.assertEqual(fetch(self.server.url("a.rpm")), BODY)
@@ -106,7 +106,7 @@ class WithDnf(unittest.TestCase):
             for mirrors, status, said in (
                     ((server.url(kind="closed"), server.url(behaviour="status=503"), server.url()), 0,
                      "Complete!"),
-                    ((server.url(behaviour="status=404,only=*.rpm"),), 1, "Status code: 404")):
+                    ((server.url(behaviour="status=404;only=*.rpm"),), 1, "Status code: 404")):
                 definition.write_text("[extras]\nname=Extras\ngpgcheck=0\nretries=1\nbaseurl=" +
                                       "\n  ".join(mirrors) + "\n", encoding="utf-8")
                 wanted = "poster" if not status else "abacus"
