@@ -1,15 +1,14 @@
 #pragma once
 
-#include "steps.h"
+#include "hprogressbar.h"
 
-#include <QElapsedTimer>
 #include <QList>
 #include <QMetaType>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 class GeneralTip;
-class HProgressBar;
 
 // Progress of a long operation on two bars: the total and the current item. The working thread
 // tells an Object how far it is; the Object does the arithmetic and sends numbers to a Minion on
@@ -68,8 +67,10 @@ public Q_SLOTS:
     void itemProgressToolTip(const QPoint &pos);
 
 private:
-    HProgressBar *m_totalBar;
-    HProgressBar *m_itemBar;
+    static QString runningText(const ThreadState &thread);
+
+    QPointer<HProgressBar> m_totalBar;
+    QPointer<HProgressBar> m_itemBar;
     ThreadsState m_threads;
 };
 
@@ -80,7 +81,11 @@ class Object : public QObject
     Q_OBJECT
 
 public:
-    Object(HProgressBar *totalBar, HProgressBar *itemBar);
+    // A monotonic time in milliseconds.
+    using Clock = qint64 (*)();
+
+    // Without a clock the real one.
+    Object(HProgressBar *totalBar, HProgressBar *itemBar, Clock clock = nullptr);
     ~Object() override;
 
     // A new operation of `max` steps, and its items: each moves the total by `totalSteps` while its
@@ -121,7 +126,30 @@ Q_SIGNALS:
     void resetSig();
 
 private:
+    bool isQuietTimeOver();
+    void updateGui();
+    Steps actsPosition(Steps acts) const;
+    Steps actsSpan(Steps act) const;
+    Steps withoutThread(unsigned int thread) const;
+
     Minion *m_minion;
+    bool m_onGuiThread;
+    Clock m_clock;
+    qint64 m_throttleStart; // of the last item start or value sent
+    qint64 m_guiStart;      // of the last look at the event queue
+    Steps m_totalValue = 0;
+    Steps m_totalMax = 1;
+    Steps m_itemBase = 0; // where on the total bar the item began
+    Steps m_itemEnd = 0;  // where on the total bar the item will end
+    Steps m_itemValue = 0;
+    Steps m_itemMax = 1;
+    Steps m_actsSteps = 0; // what the acts share of the total
+    Steps m_actsEnd = 0;   // where on the total bar the last act will end
+    Steps m_actsCount = 0;
+    Steps m_actsDone = 0; // before the current one
+    Steps m_threadsSteps = 0;
+    Steps m_threadsActs = 0;
+    ThreadsState m_threads;
 };
 
 // Keeps an Object in `slot` for the length of an operation.

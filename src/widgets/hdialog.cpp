@@ -2,6 +2,8 @@
 
 #include "summon.h"
 
+#include <QShowEvent>
+
 HDialog::HDialog(QWidget *parent, Qt::WindowFlags flags) : QDialog(parent, flags) {}
 
 void HDialog::showEvent(QShowEvent *event)

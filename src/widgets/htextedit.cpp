@@ -1,8 +1,10 @@
 #include "htextedit.h"
 
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocumentFragment>
 
 HTextEdit::HTextEdit(QWidget *parent) : QTextEdit(parent) {}
 
@@ -26,10 +28,32 @@ QSize HTextEdit::sizeHint() const
 
 void HTextEdit::appendCompact(const QString &html)
 {
-    append(html);
-    QTextCursor cursor(document()->lastBlock());
-    QTextBlockFormat format = cursor.blockFormat();
-    format.setTopMargin(0);
-    format.setBottomMargin(0);
-    cursor.setBlockFormat(format);
+    // Set on the first block once it holds a paragraph, which may be an empty one.
+    constexpr int used = 0;
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    cursor.movePosition(QTextCursor::End);
+    if (document()->isEmpty() && cursor.block().userState() != used) {
+        cursor.setBlockFormat(QTextBlockFormat());
+        cursor.setBlockCharFormat(QTextCharFormat());
+        cursor.setCharFormat(QTextCharFormat());
+        cursor.block().setUserState(used);
+    } else {
+        cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
+    }
+    const int start = cursor.position();
+    cursor.insertHtml(QStringLiteral("<body style=\"white-space: pre\">") + html);
+    cursor.setPosition(start, QTextCursor::KeepAnchor);
+    QTextBlockFormat compact;
+    compact.setTopMargin(0);
+    compact.setBottomMargin(0);
+    cursor.mergeBlockFormat(compact);
+    cursor.endEditBlock();
+}
+
+QMimeData *HTextEdit::createMimeDataFromSelection() const
+{
+    auto *data = new QMimeData;
+    data->setText(textCursor().selection().toPlainText());
+    return data;
 }

@@ -3,7 +3,7 @@
 #include <QTextEdit>
 
 // A text area that can ask for room for a number of rows and columns of its font, and that appends
-// paragraphs without gaps.
+// paragraphs without gaps. What is copied from it is plain text.
 class HTextEdit : public QTextEdit
 {
     Q_OBJECT
@@ -14,9 +14,12 @@ public:
 
     QSize sizeHint() const override;
 
-    // Adds rich text as a new paragraph with no margin above and below. The view stays where it is,
-    // unless it stood at the end: then it follows.
+    // Adds rich text as a new paragraph with no margin above and below, blanks and line breaks as
+    // they stand in it. The view does not move.
     void appendCompact(const QString &html);
+
+protected:
+    QMimeData *createMimeDataFromSelection() const override;
 
 private:
     int m_rows = 0;

@@ -4,29 +4,95 @@
 #include <QFontMetrics>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr int tabColumns = 8;
+constexpr int fewestColumns = 40;
+constexpr int fewestRows = 3;
+
+// The size at which the whole text shows, as far as `most` allows.
+QSize textSize(const QPlainTextEdit *edit, QSize most)
+{
+    const QFontMetrics metrics = edit->fontMetrics();
+    const int around = 2 * (edit->frameWidth() + int(edit->document()->documentMargin()));
+    const int tab = int(edit->tabStopDistance());
+    int width = fewestColumns * metrics.averageCharWidth();
+    int rows = 0;
+    for (QTextBlock block = edit->document()->begin(); block.isValid(); block = block.next()) {
+        ++rows;
+        const QString line = block.text();
+        // Not measured where it is plain that it will be wrapped.
+        if (width < most.width()) {
+            const int advance = line.size() > 2000
+                                    ? most.width()
+                                    : metrics.size(Qt::TextExpandTabs, line, tab).width();
+            width = qMax(width, advance);
+        }
+    }
+    width += around + edit->verticalScrollBar()->sizeHint().width();
+    const int height = qMax(rows, fewestRows) * metrics.lineSpacing() + around;
+    return QSize(width, height).boundedTo(most);
+}
+
+} // namespace
+
 ScrollableDialog::ScrollableDialog(const QString &text, QWidget *parent)
-    : HDialog(parent), m_text(new QPlainTextEdit(text, this)), m_buttons(new QDialogButtonBox(this))
+    : HDialog(parent), m_text(new QPlainTextEdit(this)), m_buttons(new QDialogButtonBox(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
     layout->addWidget(m_buttons);
+    setSizeGripEnabled(true);
+    m_buttons->setObjectName(QStringLiteral("buttons"));
+    m_text->setObjectName(QStringLiteral("text"));
+    m_text->setAccessibleName(tr("Message"));
     m_text->setReadOnly(true);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_text->setTabChangesFocus(true);
+    m_text->setTabStopDistance(tabColumns * m_text->fontMetrics().averageCharWidth());
+    m_text->setPlainText(text);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void ScrollableDialog::setDefaultButton(QPushButton *button)
+{
+    button->setDefault(true);
+    button->setFocus();
+}
+
+QSize ScrollableDialog::sizeHint() const
+{
+    const QSize most = screen()->availableSize() * 9 / 10;
+    const QMargins margins = layout()->contentsMargins();
+    const QSize rest(margins.left() + margins.right(), margins.top() + margins.bottom() +
+                                                           layout()->spacing() +
+                                                           m_buttons->sizeHint().height());
+    return textSize(m_text, most - rest).expandedTo(QSize(m_buttons->sizeHint().width(), 0)) + rest;
 }
 
 ScrollableConfirmDialog::ScrollableConfirmDialog(const QString &text, const QString &yesText,
                                                  const QString &noText, QWidget *parent)
     : ScrollableDialog(text, parent)
 {
-    m_buttons->addButton(yesText, QDialogButtonBox::AcceptRole)->setDefault(true);
-    m_buttons->addButton(noText, QDialogButtonBox::RejectRole);
+    setObjectName(QStringLiteral("scrollableConfirmDialog"));
+    QPushButton *yes = m_buttons->addButton(yesText, QDialogButtonBox::AcceptRole);
+    QPushButton *no = m_buttons->addButton(noText, QDialogButtonBox::RejectRole);
+    yes->setObjectName(QStringLiteral("yesButton"));
+    no->setObjectName(QStringLiteral("noButton"));
+    setDefaultButton(yes);
 }
 
 ScrollableErrorDialog::ScrollableErrorDialog(const QString &text, QWidget *parent)
     : ScrollableDialog(text, parent)
 {
-    m_buttons->addButton(QDialogButtonBox::Close)->setDefault(true);
+    setObjectName(QStringLiteral("scrollableErrorDialog"));
+    QPushButton *ok = m_buttons->addButton(QDialogButtonBox::Ok);
+    ok->setObjectName(QStringLiteral("okButton"));
+    setDefaultButton(ok);
 }

@@ -4,6 +4,7 @@
 
 class QDialogButtonBox;
 class QPlainTextEdit;
+class QPushButton;
 
 // A dialog that shows a plain text of any length: as large as the text needs, within the screen,
 // resizable and scrollable. The text can be selected and copied with mouse and keyboard.
@@ -11,8 +12,13 @@ class ScrollableDialog : public HDialog
 {
     Q_OBJECT
 
+public:
+    QSize sizeHint() const override;
+
 protected:
     ScrollableDialog(const QString &text, QWidget *parent);
+
+    void setDefaultButton(QPushButton *button);
 
     QPlainTextEdit *m_text;
     QDialogButtonBox *m_buttons;
@@ -29,7 +35,7 @@ public:
                             QWidget *parent = nullptr);
 };
 
-// Shows a long text; its one button, Return, Escape and closing end it.
+// Shows a long text; its OK button, Return, Escape and closing end it.
 class ScrollableErrorDialog : public ScrollableDialog
 {
     Q_OBJECT
