@@ -71,7 +71,8 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
     QStringList done, failed, skipped;
     while (const PyRef element = PyRef(PyIter_Next(iterator.get()))) {
         const char *name, *outcome, *reason;
-        if (!PyArg_ParseTuple(element.get(), "sss", &name, &outcome, &reason))
+        const PyRef fields(PySequence_Tuple(element.get()));
+        if (!fields || !PyArg_ParseTuple(fields.get(), "sss", &name, &outcome, &reason))
             return nullptr;
         QString line = QLatin1Char('\t') + QString::fromUtf8(name);
         if (*reason)

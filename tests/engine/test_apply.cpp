@@ -1,0 +1,418 @@
+#include "enginecase.h"
+
+namespace {
+
+QString s(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+// Everything that a resolved transaction can hold.
+const char *const listing = R"(
+io.tsInfo.updated = [Member(package('alpha'))]
+io.tsInfo.installed = [Member(package('beta'))]
+io.tsInfo.removed = [Member(INSTALLED[1])]
+io.tsInfo.depinstalled = [Member(package('delta'))]
+)";
+
+} // namespace
+
+class TestApply : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_case.start()); }
+
+    void givesTheScriptItsLists_data()
+    {
+        QTest::addColumn<QStringList>("marks");
+        QTest::addColumn<QString>("lists");
+        QTest::addColumn<int>("acts"); // elements, and ten for each download
+
+        const auto row = [](const char *name, const QStringList &marks, const char *lists,
+                            int acts) { QTest::newRow(name) << marks << s(lists) << acts; };
+        using L = QStringList;
+        row("nothing", L{}, "[] [] []", 0);
+        row("install", L{s("beta install")}, "['beta-1'] [] []", 11);
+        row("install of what is in the cache", L{s("delta install")}, "['delta-1'] [] []", 1);
+        row("update", L{s("alpha update")}, "[] [['alpha-2', 'alpha-1']] []", 12);
+        row("update of two versions", L{s("kernel update")},
+            "[] [['kernel-3', 'kernel-1'], ['kernel-3', 'kernel-2']] []", 13);
+        row("removal of an updatable one", L{s("alpha remove")}, "[] [] ['alpha-1']", 1);
+        row("removal of two versions", L{s("kernel remove")}, "[] [] ['kernel-1', 'kernel-2']", 2);
+        row("removal", L{s("gamma remove")}, "[] [] ['gamma-1']", 1);
+    }
+
+    void givesTheScriptItsLists()
+    {
+        QFETCH(QStringList, marks);
+        QFETCH(QString, lists);
+        QFETCH(int, acts);
+        Answers answers;
+        QVERIFY(!m_case.apply(marks, s(R"(
+def names(items):
+    return [names(item) if isinstance(item, list) else item.name + '-' + item.version for item in items]
+probe()
+yumIOC.dsTsCheck()
+yumIOC.dsTsCheck()
+probe()
+yumIOC.log(5, '%s %s %s' % (names(installs), names(updates), names(removes)))
+)"),
+                              answers));
+        QVERIFY2(m_case.logged().contains(s("0/5 ") + lists),
+                 qPrintable(m_case.logged().join(u'|')));
+        // The second check begins where the acts of the first, one per element, end.
+        QCOMPARE(answers.observed.value(0), s("0/10000 1 Preparing"));
+        if (acts) {
+            QCOMPARE(answers.observed.value(1),
+                     s("%1/10000 1 Resolve Dependencies").arg(100 + 9900 * (acts % 10) / acts));
+        }
+        QCOMPARE(answers.shown.size(), 0);
+        QCOMPARE(m_case.totalBar.maximum(), 1);
+        QVERIFY(!m_case.totalBar.isEnabled());
+    }
+
+    void refusesAnUpdateOfNothing()
+    {
+        Answers answers;
+        QVERIFY(!m_case.apply({s("beta update")}, s("yumIOC.log(0, 'called')"), answers));
+        QCOMPARE(answers.texts(),
+                 QStringList(s("Internal error: Unable to find installed version for package "
+                               "update beta")));
+        QVERIFY(!m_case.logged().contains(s("0/0 called")));
+    }
+
+    void followsResolution_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("dialog");
+        QTest::addColumn<int>("downloads");
+        QTest::addColumn<int>("elements");
+
+        const auto row = [](const char *name, const char *line, const char *dialog, int downloads,
+                            int elements) {
+            QTest::newRow(name) << s(line) << s(dialog) << downloads << elements;
+        };
+        row("update", "Updating 0:alpha-2-1.x86_64 to 2", "", 1, 2);
+        row("marked as an update", "Marking 0:alpha-2-1.x86_64 as an update for x", "", 1, 2);
+        row("marked in the cache", "Marking delta-1-1.noarch as install for x", "", 0, 1);
+        row("obsoletes", "Obsoleting 0:old-1-1.x86_64 (base) with 0:beta-1-1.x86_64 (base)", "", 1,
+            2);
+        row("other line", "Removing something", "", 0, 0);
+        row("no blank", "Updating alpha", "Internal error: unexpected TSINFO: Updating alpha", 0,
+            0);
+        row("no second half", "Obsoleting a-1-1.i with x",
+            "Internal error: unexpected TSINFO: Obsoleting a-1-1.i with x", 0, 0);
+        row("unknown", "Marking none-1-1.x86_64 as install",
+            "Internal error: TSINFO mentions unknown package: none-1-1.x86_64", 0, 0);
+        row("a bare name", "Marking beta as install",
+            "Internal error: TSINFO mentions package beta which does not appear to be a valid "
+            "envra; interpreting as package name",
+            1, 1);
+        row("up to date already", "Updating gamma-1-1.x86_64 x",
+            "Internal error: TSINFO mentions intent to install or upgrade package that already "
+            "seems up-to-date: gamma",
+            0, 0);
+    }
+
+    void followsResolution()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, dialog);
+        QFETCH(int, downloads);
+        QFETCH(int, elements);
+        Answers answers;
+        m_case.apply({s("delta install"), s("gamma remove")},
+                     s("yumIOC.dsTsCheck()\nyumIOC.log(2, 'TSINFO: ' + '''%1''')\nprobe()\n"
+                       "yumIOC.dsRestartLoop()\nprobe()\n")
+                         .arg(line),
+                     answers);
+        QCOMPARE(answers.texts().join(u'|'), dialog);
+        // Two elements were asked for and checked once.
+        const int first = 2 + 10 * downloads;
+        const int second = first + 2 + elements;
+        const bool counted = downloads || elements;
+        const QString state = s("%1/10000 1 Resolve Dependencies");
+        QCOMPARE(answers.observed, QStringList({state.arg(counted ? 100 + 9900 * 2 / first : 100),
+                                                state.arg(100 + 9900 * 2 / second)}));
+    }
+
+    void listsAndConfirms_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("all sections")
+            << s(listing) + s(R"(
+old = INSTALLED[2]
+old.pkgtup = ('old', 'x86_64', '3', '1', '1')
+io.tsInfo.depupdated = [Member(package('kernel'))]
+io.tsInfo.depremoved = [Member(INSTALLED[5])]
+io.tsInfo.obsoleted = [Member(old, package('beta'))]
+)")
+            << s("Transaction to be performed:\n"
+                 "\tInstall: beta 1-1 (x86_64) [base]\n"
+                 "\tUpdate: alpha 2-1 (x86_64) [base]\n"
+                 "\tRemove: gamma 1-1 (x86_64)\n"
+                 "Performing the following to resolve dependencies:\n"
+                 "\tInstall: delta 1-1 (noarch) [base]\n"
+                 "\tUpdate: kernel 3-1 (x86_64) [base]\n"
+                 "\tRemove: echo 1-1 (x86_64)\n"
+                 "Other Transactions:\n"
+                 "\tObsoleting: old 3:1-1 (x86_64) with beta 1-1 (x86_64)\n"
+                 "Total download size: 68Kb\n");
+        QTest::newRow("marks only") << s("io.tsInfo.removed = [Member(INSTALLED[1])]")
+                                    << s("Transaction to be performed:\n"
+                                         "\tRemove: gamma 1-1 (x86_64)\n"
+                                         "Total download size: 68Kb\n");
+    }
+
+    void listsAndConfirms()
+    {
+        QFETCH(QString, source);
+        QFETCH(QString, text);
+        const QString tail = s(R"(
+yumIOC.log(0, 'before the listing')
+yumIOC.listTransaction(io)
+yumIOC.log(0, 'not in the listing')
+yumIOC.reportDownloadSize([package('alpha'), package('beta')])
+yumIOC.log(9, 'answer %r' % yumIOC.userconfirm())
+)");
+        for (const bool yes : {true, false}) {
+            Answers answers({yes ? s("OK") : s("Cancel")});
+            QCOMPARE(m_case.apply({}, source + tail, answers), yes);
+            QCOMPARE(answers.texts(), QStringList(text));
+            QCOMPARE(answers.titles(), QStringList(s("Apply")));
+            QVERIFY(m_case.logged().contains(yes ? s("4/0 Applying: OK")
+                                                 : s("4/0 Not Applying: Canceled")));
+            QVERIFY(m_case.logged().contains(yes ? s("0/9 answer 1") : s("0/9 answer 0")));
+        }
+    }
+
+    void asksPlainQuestions()
+    {
+        Answers answers({s("Yes"), s("No")});
+        const bool applied = m_case.apply({}, s(R"(
+yumIOC.log(0, 'forgotten')
+yumIOC.gpgsigcheck('any', 1)
+yumIOC.log(0, 'First?')
+yumIOC.errorlog(1, 'Trouble')
+yumIOC.userconfirm()
+yumIOC.log(0, 'Second?')
+yumIOC.userconfirm()
+)"),
+                                          answers);
+        QVERIFY(!applied);
+        QCOMPARE(answers.texts(), QStringList({s("First?\nTrouble\n"), s("Second?\n")}));
+        QCOMPARE(answers.titles(), QStringList({s("Query"), s("Query")}));
+        QVERIFY(m_case.logged().contains(s("4/0 Confirmation: Yes")));
+        QVERIFY(m_case.logged().contains(s("4/0 Confirmation: No")));
+        QVERIFY(m_case.logged().contains(s("3/1 Trouble")));
+    }
+
+    void refusesBrokenListings_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("dialog");
+        QTest::newRow("no package tuple") << s("m = Member(package('beta'))\ndel m.pkgtup\n"
+                                               "io.tsInfo.installed = [m]")
+                                          << s("Internal error: txmbr lacks pkgtup\n");
+        QTest::newRow("no relations") << s("m = Member(INSTALLED[2])\ndel m.relatedto\n"
+                                           "io.tsInfo.obsoleted = [m]")
+                                      << s("Internal error: package has no relatedto\n");
+        QTest::newRow("no fitting relation")
+            << s("io.tsInfo.obsoleted = [Member(INSTALLED[2])]")
+            << s("Internal error: couldn't find obsoletedby package\n");
+    }
+
+    void refusesBrokenListings()
+    {
+        QFETCH(QString, source);
+        Answers answers;
+        m_case.apply({}, source + s(R"(
+try:
+    yumIOC.listTransaction(io)
+except Exception:
+    yumIOC.log(9, 'raised')
+)"),
+                     answers);
+        QTEST(answers.texts().join(u'|'), "dialog");
+        QVERIFY(m_case.logged().contains(s("0/9 raised")));
+    }
+
+    // The same transaction as events and as rpm's own callbacks: every element begins where the
+    // weights of those before it end, and the run ends at the total's end.
+    void weighsTheRun_data()
+    {
+        QTest::addColumn<QString>("run");
+        QTest::newRow("events") << s(R"(
+yumIOC.tsEvent(package('beta'), 30, 0, 7, 1, 5); probe()
+yumIOC.tsEvent(package('beta'), 30, 7, 7, 1, 5)
+yumIOC.tsEvent(package('alpha'), 10, 0, 7, 2, 5); probe()
+yumIOC.tsEvent(package('delta'), 20, 0, 7, 3, 5); probe()
+yumIOC.tsEvent('alpha', 90, 0, 7, 4, 5); probe()
+yumIOC.tsEvent('gamma', 40, 0, 7, 5, 5); probe()
+yumIOC.tsEvent('gamma', 70, 0, 7, 6, 5)
+)");
+        QTest::newRow("callbacks") << s(R"(
+def key(name):
+    return ({'name': name, 'arch': package(name).arch}, '')
+yumIOC.tsCallback(32, 0, 3, None, None)
+yumIOC.tsCallback(16, 1, 3, None, None)
+yumIOC.tsCallback(64, 0, 3, None, None)
+yumIOC.tsCallback(4, 0, 0, key('beta'), None)
+yumIOC.tsCallback(2, 0, 7, key('beta'), None); probe()
+yumIOC.tsCallback(1, 7, 7, key('beta'), None)
+yumIOC.tsCallback(2, 0, 7, key('alpha'), None); probe()
+yumIOC.tsCallback(2, 0, 7, key('delta'), None); probe()
+yumIOC.tsCallback(256, 0, 7, 'alpha', None); probe()
+yumIOC.tsCallback(512, 0, 7, 'alpha', None)
+yumIOC.tsCallback(256, 0, 7, 'gamma', None); probe()
+)");
+    }
+
+    void weighsTheRun()
+    {
+        QFETCH(QString, run);
+        Answers answers({s("OK")});
+        const QString source = s(listing) + s(R"(
+yumIOC.listTransaction(io)
+yumIOC.userconfirm()
+probe()
+yumIOC.tsInitCallback(0)
+yumIOC.tsInitCallback(1)
+probe()
+)") + run + s("yumIOC.log(9, repr(yumIOC.postTransactionOutput(io)))\nprobe()\n");
+        QVERIFY(m_case.apply({s("beta install"), s("alpha update"), s("gamma remove")}, source,
+                             answers));
+        // 24000 * 70000 / 73413 units of download; 150000 + 60000 + 10240 + 10240 + 40000 of weight
+        // share 8000 with a twentieth for the beginning.
+        const bool byEvents = run.contains(s("tsEvent"));
+        QStringList expected = {s("0/31984 1 Preparing"),
+                                s("22984/31984 1 Preparing to Run Transaction"),
+                                s("23984/31984 7 Installing beta"),
+                                s("28590/31984 7 Updating alpha"),
+                                s("30280/31984 7 Installing delta"),
+                                s("30568/31984 7 Completing update for: alpha"),
+                                s("30857/31984 7 Removing gamma"),
+                                s("31984/31984 7 Removing gamma")};
+        if (!byEvents)
+            expected[2].replace(s("23984"), s("24364"));
+        QCOMPARE(answers.observed, expected);
+        QCOMPARE(answers.shown.size(), 1);
+        QVERIFY(m_case.logged().contains(s("0/1 Installing delta")));
+        QVERIFY(m_case.logged().contains(s("0/1 \tDependency Installed: delta 1-1 (noarch)")));
+        QVERIFY(m_case.logged().contains(s("0/9 ''")));
+        QVERIFY(m_case.entry(s("delta"))->applyAction == Package::Action::Install);
+        QVERIFY(m_case.entry(s("delta"))->action == Package::Action::None);
+    }
+
+    void reportsStrangeElements_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("dialogs");
+        const auto row = [](const char *name, const char *source, const char *dialogs) {
+            QTest::newRow(name) << s(source) << s(dialogs);
+        };
+        row("callback", "yumIOC.tsCallback(0, 0, 0, None, None)",
+            "Internal error: YumIO::tsCallback what=0 not understood; ignoring");
+        row("event", "yumIOC.tsEvent(None, 33, 0, 0, 1, 1)",
+            "Internal error: YumIO::tsEvent action=33 not understood; ignoring");
+        row("unknown, again with each event",
+            "for done in 0, 1: yumIOC.tsEvent(Package('none', '1'), 60, done, 1, 1, 1)",
+            "Internal error: Unable to find package for update of none.x86_64|"
+            "Internal error: Unable to find package for update of none.x86_64");
+        row("unknown callback",
+            "yumIOC.tsCallback(2, 0, 1, ({'name': 'n', 'arch': 'a'}, ''), None)",
+            "Internal error: Unable to find package for install/update of n.a");
+        row("an erase that nobody asked for", "yumIOC.tsEvent('alpha', 50, 0, 1, 1, 1)",
+            "Internal error: YumIO::tsCallback REMOVE/COMPLETE of alpha not expected");
+        row("an erase of nothing", "yumIOC.tsCallback(256, 0, 1, 'none', None)",
+            "Internal error: YumIO::tsCallback UNINST of none not expected");
+        row("one erase too many", "for i in 1, 2, 3: yumIOC.tsEvent('kernel', 40, 0, 1, i, 3)",
+            "Internal error: YumIO::tsCallback UNINST of kernel too many times");
+    }
+
+    void reportsStrangeElements()
+    {
+        QFETCH(QString, source);
+        Answers answers;
+        m_case.apply({s("kernel remove")}, source, answers);
+        QTEST(answers.texts().join(u'|'), "dialogs");
+    }
+
+    void showsDownloads();
+    void refusesWrongArguments();
+
+private:
+    EngineCase m_case;
+};
+
+void TestApply::showsDownloads()
+{
+    Answers answers({s("OK")});
+    QVERIFY(m_case.apply({s("beta install"), s("alpha update")}, s(listing) + s(R"(
+yumIOC.listTransaction(io)
+yumIOC.userconfirm()
+start, update = yumIOC.applyGrabMeterStart, yumIOC.applyGrabMeterUpdate
+yumIOC.applyGrabMultiMeterStart(2, 70000); probe()
+yumIOC.applyGrabMultiMeterNew('b')
+start('b', '/c/beta.rpm', 'http://h/beta.rpm', 'beta.rpm', 50000, 'beta-1-1.x86_64')
+yumIOC.applyGrabMultiMeterNew('a')
+start('a', '/c/alpha.rpm', '', 'alpha.rpm', None, 'alpha-2-1.x86_64')
+update('b', 30000)
+yumIOC.applyGrabMeterFailure('b', 'no route to http://u:pw@host')
+update('b', 10)
+yumIOC.applyGrabMeterEnd('b', 50000)
+yumIOC.applyGrabMultiMeterRemove('b')
+yumIOC.applyGrabMeterEnd('a', 20000)
+yumIOC.applyGrabMultiMeterRemove('a')
+yumIOC.applyGrabMultiMeterEnd()
+update('b', 3); update(None, 3)
+yumIOC.tsInitCallback(1); probe()
+yumIOC.applyGrabMeterStart('c', '/c/x', '', 'x', 'large', 'x')
+)"),
+                         answers));
+    QCOMPARE(answers.observed, QStringList({s("100/31984 70000 Downloading 2 packages"),
+                                            s("22984/31984 1 Preparing to Run Transaction")}));
+    QCOMPARE(answers.texts().mid(1),
+             QStringList({s("Internal error: apply grab size not understood"),
+                          s("Internal error: unexpected progress filename")}));
+    QVERIFY(m_case.logged().contains(
+        s("2/1 Downloading beta-1-1.x86_64: no route to http://u:**@host")));
+}
+
+// Each callback must refuse what does not fit its format, so that the script hears of it.
+void TestApply::refusesWrongArguments()
+{
+    Answers answers;
+    m_case.apply({}, s(R"(
+calls = [('stdoutWrite', (1,)), ('stderrWrite', ()), ('log', ('x',)), ('errorlog', (0, None)),
+         ('collectProgress', (1, 2)), ('collectGrabMeterStart', (1,) * 5),
+         ('collectGrabMeterUpdate', (1, 'x')), ('collectGrabMeterEnd', (1,)),
+         ('collectGrabMeterFailure', (1,)), ('collectGrabMultiMeterStart', (1,)),
+         ('collectGrabMultiMeterNew', ()), ('collectGrabMultiMeterRemove', ()),
+         ('applyGrabMeterStart', ()), ('applyGrabMeterUpdate', (1, None)), ('applyGrabMeterEnd', ()),
+         ('applyGrabMeterFailure', (1,)), ('applyGrabMultiMeterStart', ('x', 1)),
+         ('applyGrabMultiMeterNew', ()), ('applyGrabMultiMeterRemove', ()),
+         ('reportDownloadSize', (3,)), ('listTransaction', ()), ('tsInitCallback', ('x',)),
+         ('tsCallback', (1, 2, 3)), ('tsEvent', (None, 10, 0, 0, 1)), ('postTransactionOutput', ()),
+         ('jobState', (1, 1)), ('lockWait', ('x', 'x')), ('keyQuestion', ('x',)),
+         ('transactionReport', (['x'],)), ('userconfirm', (1,)), ('dsTsCheck', (1,))]
+for name, arguments in calls:
+    try:
+        getattr(yumIOC, name)(*arguments)
+        yumIOC.log(9, 'accepted ' + name)
+    except TypeError:
+        pass
+yumIOC.log(9, 'tried')
+)"),
+                 answers);
+    const QStringList logged = m_case.logged();
+    QCOMPARE(logged.filter(s("accepted")), QStringList());
+    QVERIFY(logged.contains(s("0/9 tried")));
+    QCOMPARE(answers.texts(), QStringList());
+}
+
+QTEST_MAIN(TestApply)
+#include "test_apply.moc"

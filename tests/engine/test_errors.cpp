@@ -1,0 +1,246 @@
+#include "enginecase.h"
+
+#include <unistd.h>
+
+namespace {
+
+QString s(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
+// Failures of the script, and what the user hears and is asked besides.
+class TestErrors : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_case.start()); }
+
+    void mapsExceptions_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("dialog");
+        QTest::addColumn<bool>("walkback");
+        const auto row = [](const char *name, const char *source, const char *dialog,
+                            bool walkback) {
+            QTest::newRow(name) << s(source) << s(dialog) << walkback;
+        };
+        const char *const generic =
+            "Internal error: python exception occurred from C code.\n"
+            "When reporting this issue, please include the contents of the\n"
+            "Log window, which should contain a walkback.";
+        row("input", "raise OSError(5, 'no disk')",
+            "Unable to apply changes: I/O Error: [Errno 5] no disk\n\n"
+            "Emitting a walkback to the Log window.",
+            true);
+        row("interrupt", "raise KeyboardInterrupt()",
+            "Unable to apply changes: KeyboardInterrupt\n\n"
+            "This usually means VOK was sent signal SIGINT, SIGTERM, or similar.\n\n"
+            "But urlgrabber also can raise this error for several situations where it is just "
+            "guessing.\nSo, emitting a walkback to the Log window.",
+            true);
+        row("assertion", "assert 1 == 2",
+            "Internal error: python assertion failed\n"
+            "When reporting this issue, please include the contents of the\n"
+            "Log window, which should contain a walkback.",
+            true);
+        row("mirrors", "raise NoMoreMirrorsRepoError('http://u:pw@h: 404')",
+            "Unable to apply changes: metadata unavailable from all repo mirrors:\n"
+            "http://u:**@h: 404",
+            false);
+        row("locked database", "raise RepoError('the database is locked now')",
+            "Unable to apply changes: a repository's sqlite database was locked unexpectedly\n"
+            "On some distributions, PackageKit has been known to cause this.",
+            false);
+        row("locked sqlite", "import sqlite3\nraise sqlite3.OperationalError('database is locked')",
+            "Unable to apply changes: a repository's sqlite database was locked unexpectedly\n"
+            "On some distributions, PackageKit has been known to cause this.",
+            false);
+        row("repository", "raise RepoError('Database is locked')", generic, true);
+        row("library", "raise YumBaseError('nothing provides x')",
+            "nothing provides x\nUnable to apply changes", false);
+        row("library with its errors before",
+            "yumIOC.errorlog(0, 'mirror a: refused')\nyumIOC.errorlog(3, 'detail')\n"
+            "yumIOC.log(0, 'other')\nimport sys\nyumIOC.stderrWrite('written\\n')\n"
+            "raise GroupsError('no such')",
+            "mirror a: refused\nwritten\nno such\nUnable to apply changes", false);
+        row("debugger", "import bdb\nraise bdb.BdbQuit('quit')", "quit\nUnable to apply changes",
+            false);
+        row("anything else", "raise ValueError('odd')", generic, true);
+    }
+
+    void mapsExceptions()
+    {
+        QFETCH(QString, source);
+        QFETCH(bool, walkback);
+        Answers answers({s("OK")});
+        // Confirmed or not, a transaction that raises was not applied.
+        QVERIFY(!m_case.apply({},
+                              s("import sys\nclass Errors:\n"
+                                "    write = staticmethod(yumIOC.stderrWrite)\n"
+                                "    flush = staticmethod(lambda: None)\n"
+                                "sys.stderr = Errors()\n"
+                                "yumIOC.listTransaction(io)\nyumIOC.userconfirm()\n") +
+                                  source,
+                              answers));
+        QTEST(answers.texts().mid(1).join(u'|'), "dialog");
+        QCOMPARE(answers.titles().constLast(), s("VOK Yum Error"));
+        const QStringList logged = m_case.logged();
+        QVERIFY(logged.contains(s("0/0 cleaned up")));
+        QCOMPARE(!logged.filter(s("Traceback (most recent call last)")).isEmpty(), walkback);
+        QVERIFY(!m_case.totalBar.isEnabled());
+    }
+
+    void reapsChildren()
+    {
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(3);
+        siginfo_t info;
+        QCOMPARE(::waitid(P_PID, id_t(child), &info, WEXITED | WNOWAIT), 0); // it has ended
+        Answers answers;
+        m_case.apply({}, QString(), answers);
+        const QString line = s("2/0 Reaped zombie child %1").arg(child);
+        QCOMPARE(m_case.logged().count(line), 1);
+        m_case.apply({}, QString(), answers);
+        QVERIFY(m_case.logged().filter(s("Reaped")).isEmpty());
+        QCOMPARE(answers.texts(), QStringList());
+    }
+
+    // For the script's time the program's own handler does not take the children of rpm.
+    void putsTheChildHandlerBack()
+    {
+        struct sigaction own = {}, found = {};
+        own.sa_handler = [](int) {};
+        own.sa_flags = SA_RESTART;
+        ::sigaction(SIGCHLD, &own, nullptr);
+        Answers answers;
+        m_case.apply({},
+                     s("import signal\n"
+                       "yumIOC.log(9, 'default %s' % (signal.getsignal(signal.SIGCHLD),))\n"
+                       "text = open('/proc/self/status').read()\n"
+                       "caught = int(text.split('SigCgt:')[1].split()[0], 16)\n"
+                       "yumIOC.log(9, 'caught %d' % (caught >> (signal.SIGCHLD - 1) & 1))"),
+                     answers);
+        ::sigaction(SIGCHLD, nullptr, &found);
+        QVERIFY(m_case.logged().contains(s("0/9 caught 0")));
+        QVERIFY(found.sa_handler == own.sa_handler);
+        ::signal(SIGCHLD, SIG_DFL);
+    }
+
+    void asksTheAdditionalQuestions()
+    {
+        Answers answers({s("Wait"), s("Give Up")});
+        QStringList states;
+        const auto connection = connect(
+            &m_case.engine, qOverload<const QString &, bool>(&YumIO::jobState), this,
+            [&](const QString &state, bool can) { states.append(state + (can ? u'+' : u'-')); });
+        m_case.apply({}, s(R"(
+yumIOC.jobState('lock', 1)
+answers = [yumIOC.lockWait(42, 'dnf upgrade <b>'), yumIOC.lockWait(42, 'dnf'), yumIOC.cancelled()]
+yumIOC.jobState('transaction', 0)
+yumIOC.log(9, repr(answers))
+)"),
+                     answers);
+        disconnect(connection);
+        QVERIFY2(m_case.logged().contains(s("0/9 [1, 0, 0]")),
+                 qPrintable(m_case.logged().join(u'|')));
+        QVERIFY(answers.texts().constFirst().contains(s("dnf upgrade <b> (process 42)")));
+        QVERIFY2(states.contains(s("lock+")) && states.contains(s("transaction-")),
+                 qPrintable(states.join(u' ')));
+    }
+
+    // The question of a key must not disturb the text that a later confirmation shows, or the bars.
+    void asksForKeys_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("answer");
+        QTest::newRow("yes") << s("Yes") << 1;
+        QTest::newRow("no") << s("No") << 0;
+        QTest::newRow("closed") << s("none") << 0;
+    }
+
+    void asksForKeys()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, answer);
+        Answers answers({button, s("OK")});
+        m_case.apply({}, s(R"(
+yumIOC.listTransaction(io)
+key = yumIOC.keyQuestion('ABCD', 'Ann <a@b>', '01 02', 'file:///k')
+yumIOC.userconfirm()
+yumIOC.log(9, 'key %r' % key)
+)"),
+                     answers);
+        // The case's own probe has the same title; here nobody observes.
+        QVERIFY(m_case.logged().contains(s("0/9 key %1").arg(answer)));
+        const QString question = answers.texts().value(0);
+        for (const char *part : {"ABCD", "Ann <a@b>", "01 02", "file:///k"})
+            QVERIFY2(question.contains(s(part)), part);
+        QCOMPARE(answers.texts().value(1), s("Transaction to be performed:\n"));
+    }
+
+    void reportsTheTransaction_data()
+    {
+        QTest::addColumn<QString>("elements");
+        QTest::addColumn<QString>("dialogs");
+        QTest::addColumn<QString>("summary");
+        QTest::newRow("all done") << s("[('0:a-1-1.x', 'done', '')]") << QString()
+                                  << s("1/0 Transaction: 1 done, 0 failed, 0 skipped");
+        QTest::newRow("some not")
+            << s("[('0:a-1-1.x', 'done', ''), ('0:b-1-1.x', 'failed', 'scriptlet'),"
+                 " ('0:c-1-1.x', 'skipped', '')]")
+            << s("Transaction: 1 done, 1 failed, 1 skipped\n\nFailed:\n\t0:b-1-1.x: scriptlet\n\n"
+                 "Skipped:\n\t0:c-1-1.x\n\nDone:\n\t0:a-1-1.x\n")
+            << s("3/0 Transaction: 1 done, 1 failed, 1 skipped");
+    }
+
+    void reportsTheTransaction()
+    {
+        QFETCH(QString, elements);
+        QFETCH(QString, summary);
+        Answers answers;
+        m_case.apply({}, s("yumIOC.transactionReport(%1)").arg(elements), answers);
+        QTEST(answers.texts().join(u'|'), "dialogs");
+        QVERIFY(m_case.logged().contains(summary));
+    }
+
+    void cleans_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<bool>("one");
+        QTest::addColumn<bool>("all");
+        QTest::newRow("clean") << s("result = (0, [])") << true << true;
+        QTest::newRow("headers fail")
+            << s("result = (method == 'cleanHeaders', [])") << false << false;
+        QTest::newRow("the last fails")
+            << s("result = (int(method == 'cleanSqlite'), [])") << true << false;
+        QTest::newRow("no tuple") << s("result = 0") << false << false;
+        QTest::newRow("an exception") << s("raise YumBaseError('x')") << false << false;
+    }
+
+    void cleans()
+    {
+        QFETCH(QString, source);
+        Answers answers;
+        QVERIFY(m_case.mark({}));
+        m_case.write(s("yumIOC.log(9, method)\n") + source);
+        QTEST(m_case.engine.cleanHeaders(), "one");
+        QTEST(m_case.engine.cleanAll(), "all");
+        QStringList logged = m_case.logged();
+        logged = logged.filter(QRegularExpression(s("^(4/0|0/9) ")));
+        QCOMPARE(logged,
+                 QStringList({s("4/0 Cleaning Headers"), s("0/9 cleanHeaders"),
+                              s("4/0 Cleaning All"), s("0/9 cleanHeaders"), s("0/9 cleanPackages"),
+                              s("0/9 cleanMetadata"), s("0/9 cleanSqlite")}));
+    }
+
+private:
+    EngineCase m_case;
+};
+
+QTEST_MAIN(TestErrors)
+#include "test_errors.moc"

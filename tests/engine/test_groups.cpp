@@ -1,0 +1,174 @@
+#include "enginecase.h"
+
+namespace {
+
+QString s(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
+// The script's group Tools holds alpha (updatable) and beta (installable) as mandatory, gamma
+// (installed) as default, delta (installable) as optional member, zeta where beta is, and eta where
+// something unknown is. More holds alpha, gamma and beta.
+class TestGroups : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_case.start()); }
+
+    void marksMembers_data()
+    {
+        QTest::addColumn<QStringList>("marks");
+        QTest::addColumn<QString>("lists");
+        QTest::addColumn<QString>("noted");
+        QTest::addColumn<QStringList>("log");
+        using L = QStringList;
+        QTest::newRow("install") << L{s("@Tools install")} << s("['beta', 'zeta'] ['alpha'] []")
+                                 << s("[('Tools', 1)]")
+                                 << L{s("For group Tools, marking package alpha for Update"),
+                                      s("For group Tools, marking package beta for Install"),
+                                      s("For group Tools, marking package zeta for Install")};
+        QTest::newRow("update")
+            << L{s("@Tools update")} << s("['beta'] ['alpha'] []") << s("[('Tools', 0)]")
+            << L{s("For group Tools, marking package alpha for Update"),
+                 s("For group Tools, marking package beta for Install"),
+                 s("For group Tools, not marking package delta for Install, becuase the package "
+                   "is optional")};
+        QTest::newRow("remove") << L{s("@Tools remove")} << s("[] [] ['alpha', 'gamma']")
+                                << s("[('Tools', 2)]")
+                                << L{s("For group Tools, marking package alpha for Remove"),
+                                     s("For group Tools, marking package gamma for Remove")};
+        QTest::newRow("marked before")
+            << L{s("@Tools update"), s("beta install")} << s("['beta'] ['alpha'] []")
+            << s("[('Tools', 0)]")
+            << L{s("For group Tools, package beta already was marked for Install")};
+    }
+
+    void marksMembers()
+    {
+        QFETCH(QStringList, marks);
+        QFETCH(QString, lists);
+        QFETCH(QString, noted);
+        QFETCH(QStringList, log);
+        Answers answers;
+        m_case.apply(marks, s(R"(
+yumIOC.log(9, '%s %s %s' % (sorted(p.name for p in installs), sorted(p[0].name for p in updates),
+                            sorted(p.name for p in removes)))
+yumIOC.log(9, 'noted %r' % io.noted)
+)"),
+                     answers);
+        const QStringList logged = m_case.logged();
+        QVERIFY2(logged.contains(s("0/9 ") + lists), qPrintable(logged.join(u'|')));
+        QVERIFY(logged.contains(s("0/9 noted ") + noted));
+        for (const QString &line : std::as_const(log))
+            QVERIFY2(logged.contains(s("0/2 ") + line), qPrintable(line));
+        QCOMPARE(answers.texts(), QStringList());
+        QVERIFY(m_case.entry(s("alpha"))->action == Package::Action::None);
+    }
+
+    void asksAboutConflicts_data()
+    {
+        QTest::addColumn<QStringList>("marks");
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<QStringList>("questions");
+        QTest::addColumn<QString>("lists"); // empty when the apply was stopped
+        using L = QStringList;
+        const QString head = s("Package alpha is included in group %1 which was marked for %2,\n"
+                               "so the package would be marked for Update,\nbut ");
+        const QString tail = s(".\nHow do you wish to proceed?");
+        const QString own =
+            head.arg(s("Tools"), s("Update")) + s("it was marked individually for Remove") + tail;
+
+        QTest::newRow("the group's way") << L{s("@Tools update"), s("alpha remove")}
+                                         << L{s("Update")} << L{own} << s("['beta'] ['alpha'] []");
+        QTest::newRow("the mark's way") << L{s("@Tools update"), s("alpha remove")}
+                                        << L{s("Remove")} << L{own} << s("['beta'] [] ['alpha']");
+        QTest::newRow("cancel") << L{s("@Tools update"), s("alpha remove")} << L{s("Cancel")}
+                                << L{own} << QString();
+        QTest::newRow("escape") << L{s("@Tools install"), s("alpha remove")} << L{s("none")}
+                                << L{head.arg(s("Tools"), s("Install")) +
+                                     s("it was marked individually for Remove") + tail}
+                                << QString();
+    }
+
+    void asksAboutConflicts()
+    {
+        QFETCH(QStringList, buttons);
+        QFETCH(QStringList, marks);
+        QFETCH(QString, lists);
+        Answers answers(buttons);
+        m_case.apply(marks, reporting(), answers);
+        QTEST(answers.texts(), "questions");
+        QCOMPARE(answers.shown.constFirst().title, s("Apply"));
+        const QStringList reports = m_case.logged().filter(s("lists "));
+        QCOMPARE(reports, lists.isEmpty() ? QStringList() : QStringList(s("0/9 lists ") + lists));
+        QCOMPARE(m_case.logged().filter(s("Manually resolving conflict")).size(),
+                 lists.isEmpty() ? 0 : 1);
+    }
+
+    // Two groups: the second asks by what the first did, or by how the first was answered. Which
+    // group is the first follows the table's order.
+    void asksAboutOtherGroups_data()
+    {
+        QTest::addColumn<bool>("answered");
+        QTest::newRow("marked by a group") << false;
+        QTest::newRow("answered before") << true;
+    }
+
+    void asksAboutOtherGroups()
+    {
+        QFETCH(bool, answered);
+        QVERIFY(m_case.mark({}));
+        QStringList groups;
+        for (const Package::Entry *row : m_case.engine) {
+            if (row->kind == Package::Kind::Group)
+                groups.append(row->name);
+        }
+        QCOMPARE(groups.size(), 2);
+        QStringList marks{u'@' + groups[0] + (answered ? s(" update") : s(" remove")),
+                          u'@' + groups[1] + s(" update")};
+        if (answered)
+            marks.append(s("alpha remove"));
+        Answers answers({s("Remove"), s("Remove"), s("Remove")});
+        m_case.apply(marks, reporting(), answers);
+        const QString expected =
+            s("Package alpha is included in group %1 which was marked for Update,\n"
+              "so the package would be marked for Update,\n")
+                .arg(groups[1]) +
+            (answered ? s("but you resolved an earlier conflict by marking it for Remove.\n")
+                      : s("but it also was part of group %1 and so was marked for Remove.\n")
+                            .arg(groups[0])) +
+            s("How do you wish to proceed?");
+        const QStringList aboutAlpha = answers.texts().filter(s("Package alpha "));
+        QCOMPARE(aboutAlpha.size(), answered ? 2 : 1);
+        QCOMPARE(aboutAlpha.constLast(), expected);
+    }
+
+    void stopsWithoutMembers()
+    {
+        Answers answers;
+        QVERIFY(m_case.mark({s("@Tools remove")}));
+        m_case.write(s("del GROUPS[0].optional_packages"));
+        m_case.engine.cleanHeaders(); // runs the case
+        m_case.write(s("yumIOC.log(9, 'called')"));
+        QVERIFY(!m_case.engine.apply());
+        QCOMPARE(answers.texts().constLast(),
+                 s("Internal error: group Tools.optional_packages not evaluable"));
+        QVERIFY(!m_case.logged().contains(s("0/9 called")));
+    }
+
+private:
+    static QString reporting()
+    {
+        return s("yumIOC.log(9, 'lists %s %s %s' % (sorted(p.name for p in installs),\n"
+                 "    sorted(p[0].name for p in updates), sorted(p.name for p in removes)))");
+    }
+
+    EngineCase m_case;
+};
+
+QTEST_MAIN(TestGroups)
+#include "test_groups.moc"
