@@ -1,0 +1,8 @@
+#pragma once
+
+class MainWindow;
+
+// Applies the options to the window, in the order given; of one kind the last counts. An option or
+// argument that is not understood, and a request for help, end the program with status 1 after the
+// usage text.
+void applyCommandLine(int argc, char **argv, MainWindow &window);

@@ -1,0 +1,27 @@
+#include "commandline.h"
+#include "defaultstyle.h"
+#include "terminator.h"
+
+#include "app/programname.h"
+#include "app/share.h"
+#include "mainwindow/mainwindow.h"
+
+#include <QApplication>
+#include <QIcon>
+
+int main(int argc, char **argv)
+{
+    DefaultStyle style(argc, const_cast<const char **>(argv));
+    QApplication app(argc, argv);
+    style.set(app, QStringLiteral("plastique"));
+    app.setWindowIcon(QIcon(Share::absolute(QStringLiteral("pixmaps/vok.icon.png"))));
+    setProgramName(argv[0]);
+
+    MainWindow window;
+    applyCommandLine(argc, argv, window);
+
+    Terminator terminator;
+    QObject::connect(&terminator, &Terminator::terminated, &window, &MainWindow::quit);
+    window.show();
+    return app.exec();
+}
