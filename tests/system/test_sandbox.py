@@ -193,5 +193,19 @@ class Copies(unittest.TestCase):
         sandbox("run", ROOT, "--", "sh", "-c", "exit 41", status=41)
 
 
+class Large(unittest.TestCase):
+    """The large root for measurements is a root that rpm and dnf accept as any other."""
+
+    def test_numbers_are_as_asked(self):
+        place = PLACE / "large"
+        subprocess.run([CHECKOUT / "tools" / "bigrepo", place, "--available", "700", "--installed", "80",
+                        "--updates", "12", "--groups", "7"], check=True, stdout=subprocess.DEVNULL)
+        self.assertEqual(len(installed(place)), 81)
+        self.assertEqual(sandbox("dnf", place, "-q", "check"), "")
+        self.assertEqual(len(sandbox("dnf", place, "-q", "check-update", status=100).split()), 12 * 3)
+        self.assertEqual(len(sandbox("dnf", place, "-q", "repoquery", "--repo=big").split()), 700)
+        self.assertEqual(sandbox("dnf", place, "-q", "group", "list").count("   Group "), 7)
+
+
 if __name__ == "__main__":
     unittest.main()
