@@ -149,10 +149,13 @@ class Workshop:
         table = packages.table()
         # The long ones first, so that none of them runs alone at the end.
         table.sort(key=lambda one: -(one.many_files + one.siblings + (one.big_file >> 16)))
-        with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as pool:
+        pool = concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1)
+        try:
             places = dict(zip(map(id, table), pool.map(self.build_one, table)))
             self.sign(table, places, pool)
             list(pool.map(self.publish, sorted({one.repo for one in table})))
+        finally:
+            pool.shutdown(cancel_futures=True)
 
     def close(self):
         subprocess.run(["gpgconf", "--kill", "all"], env=self.environment, check=False,

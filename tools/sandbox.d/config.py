@@ -72,7 +72,7 @@ gpgkey=file://@ROOT@/srv/repos/RPM-GPG-KEY-foundry
 
 [foundry-source]
 name=Foundry packages - Source
-baseurl=https://foundry.example/source/
+baseurl=https://foundry.example/$contentdir/source/
 enabled=0
 gpgcheck=0
 """
@@ -93,6 +93,7 @@ FILES = {
     "etc/yum.repos.d/aster-extras.repo": EXTRAS,
     "etc/yum.repos.d/foundry.repo": FOUNDRY,
     "etc/yum.repos.d/bulk.repo": BULK,
+    "etc/yum/vars/contentdir": "pub/aster\n",
     "root/.rpmmacros": "# Some distributions' rpm looks for its database in the home directory.\n"
                        "%_dbpath /var/lib/rpm\n",
 }

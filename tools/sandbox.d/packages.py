@@ -114,6 +114,12 @@ def relations(table):
     table.add("bellows", updates="3.0-1", requires=("airpipe >= 1",),
               summary="Its update needs a package that is not installed")
     table.add("airpipe", updates="1.0-1", summary="Comes along with the update of bellows")
+    table.add("lockstep", base="1.0-1*", requires=("lockstep-libs >= 1.0",),
+              summary="Its update takes an update of another package along")
+    table.add("lockstep", updates="2.0-1", requires=("lockstep-libs = 2.0-1",),
+              summary="Its update takes an update of another package along")
+    table.add("lockstep-libs", base="1.0-1*", updates="2.0-1",
+              summary="Has to be as new as lockstep")
     table.add("oldname", base="1.0-1*", summary="Replaced by a package of another name")
     table.add("newname", updates="2.0-1", obsoletes=("oldname < 2",), provides=("oldname = 2.0",),
               summary="Replaces a package of another name")

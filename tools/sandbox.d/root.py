@@ -80,7 +80,7 @@ def dnf_command(place, arguments):
     for listing in [*place.glob("etc/yum/protected.d/*.conf"), *place.glob("etc/dnf/protected.d/*.conf")]:
         protected.update(listing.read_text(encoding="utf-8").split())
     return ["dnf", f"--installroot={place}", f"--config={place}/etc/yum.conf",
-            f"--setopt=reposdir={place}/etc/yum.repos.d", f"--setopt=varsdir={place}/etc/dnf/vars",
+            f"--setopt=reposdir={place}/etc/yum.repos.d", f"--setopt=varsdir={place}/etc/yum/vars,{place}/etc/dnf/vars",
             f"--setopt=protected_packages={','.join(sorted(protected))}", *arguments]
 
 
