@@ -25,7 +25,8 @@ bool isModifier(int key)
 
 QPointer<GeneralTip> GeneralTip::it;
 
-GeneralTip::GeneralTip(QWidget *screen, bool autoHide) : QFrame(screen, Qt::ToolTip)
+GeneralTip::GeneralTip(QWidget *screen, bool autoHide)
+    : QFrame(screen, Qt::ToolTip | Qt::FramelessWindowHint)
 {
     delete it;
     it = this;
