@@ -73,8 +73,15 @@ private:
         QSet<QString> idents; // the repositories in it
     };
 
+    struct FileContent
+    {
+        QString path;
+        QList<Repo::Entry> entries;
+    };
+
     FILE *openForReading(const QString &path, const QString &failure);
-    bool noteBytes(FILE *file, const QString &path);
+    static FileState examine(FILE *file);
+    void noteRead(const QString &path, FileState state, qsizetype firstRepo);
     bool readReposDir(const QString &directory);
     int readLogicalLine(FILE *file, const QString &path, QString &line);
     int readLine(FILE *file, const QString &path, QString &line);
@@ -89,9 +96,12 @@ private:
     bool checkErrors();
     bool hasEmptyId() const;
     QString getDuplicateId() const;
-    bool checkChangedOnDisk(const QStringList &files);
-    bool writeFile(const QString &path, const QList<Repo::Entry> &entries);
+    QList<FileContent> sortedContents() const;
+    bool checkChangedOnDisk(const QList<FileContent> &contents, const QSet<QString> &used);
+    bool writeFile(const FileContent &content);
+    void put(FILE *file, const QString &text) const;
     bool removeUnusedFiles(const QSet<QString> &usedFiles);
+    bool ask(const QString &question);
     void error(const QString &message);
 
     QString m_mainText; // the main file up to its first repository section

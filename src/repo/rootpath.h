@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// Where paths inside the system root lie for the C library.
+namespace RootPath {
+
+// What to open for reading `path`. Links are followed inside the root: one to "/etc/x" leads to
+// the root's own /etc/x. Empty with errno set when links lead nowhere near an end.
+QByteArray locate(const QString &path);
+
+// The file itself that `path` leads to, with no link in it any more; it need not exist.
+QByteArray target(const QString &path);
+
+// The directory entry of `path`: links are followed up to the last component, which may be one.
+QByteArray entry(const QString &path);
+
+} // namespace RootPath

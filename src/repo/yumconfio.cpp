@@ -1,0 +1,67 @@
+#include "yumconfio.h"
+
+#include "rootpath.h"
+#include "widgets/messagebox.h"
+#include "yumio/mask.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <sys/stat.h>
+
+namespace {
+
+bool exists(const QString &path)
+{
+    struct stat status;
+    return stat(RootPath::locate(path).constData(), &status) == 0;
+}
+
+} // namespace
+
+YumConfIO::YumConfIO(const QList<YumRepoEnabled> &requests, QHash<QString, bool> &used)
+    : repoEnabled(requests), reposUsed(used)
+{
+}
+
+QString YumConfIO::fileName()
+{
+    const QString first = QStringLiteral("/etc/yum/yum.conf");
+    if (exists(first))
+        return first;
+    const QString second = QStringLiteral("/etc/yum.conf");
+    const QString dnf = QStringLiteral("/etc/dnf/dnf.conf");
+    return !exists(second) && exists(dnf) ? dnf : second;
+}
+
+bool YumConfIO::isOption(const QString &line, const QString &option, QString &value)
+{
+    const auto isBlank = [](QChar c) { return c == u' ' || c == u'\t'; };
+
+    const auto delimiter =
+        std::find_if(line.cbegin(), line.cend(), [](QChar c) { return c == u':' || c == u'='; });
+    if (delimiter == line.cend())
+        return false;
+    auto end = delimiter;
+    while (end != line.cbegin() && isBlank(*(end - 1)))
+        --end;
+    if (QStringView(line.cbegin(), end) != option)
+        return false;
+    value =
+        QStringView(std::find_if_not(delimiter + 1, line.cend(), isBlank), line.cend()).toString();
+    return true;
+}
+
+bool YumConfIO::filePositionLessThan(const Repo::Entry &a, const Repo::Entry &b)
+{
+    return a.file != b.file ? a.file < b.file : a.position < b.position;
+}
+
+void YumConfIO::error(const QString &message)
+{
+    const int code = errno;
+    showMessageBox(QMessageBox::Critical, m_parent, tr("VOK Repository Editor Error"),
+                   tr("%1; errno = %2 (%3).")
+                       .arg(maskPasswords(message), QString::number(code),
+                            QString::fromLocal8Bit(strerror(code))));
+}
