@@ -13,8 +13,11 @@ QSize HScrollArea::sizeHint() const
     if (!widget())
         return QScrollArea::sizeHint();
     const int frame = 2 * frameWidth();
-    const QSize whole = widget()->sizeHint() + QSize(frame, frame) +
-                        QSize(verticalScrollBar()->sizeHint().width(), 0);
+    const QSize whole = widget()
+                            ->sizeHint()
+                            .expandedTo(widget()->minimumSizeHint())
+                            .expandedTo(widget()->minimumSize()) +
+                        QSize(frame + verticalScrollBar()->sizeHint().width(), frame);
     return whole.boundedTo(screen()->availableSize() * 8 / 10);
 }
 
