@@ -1,0 +1,186 @@
+"""The script that VOK runs in its interpreter: the class YumIO over DNF.
+
+The program calls its methods; the script calls the program through the module yumIOC. Each method is
+thin; the work is in the package vokdnf. Errors are those of yum.Errors, with the text for the user.
+"""
+
+import os
+import sys
+
+_HERE = os.path.join(os.environ.get("VOKSHARE") or "/usr/share/vok", "python")
+if _HERE not in sys.path:
+    sys.path.insert(0, _HERE)
+
+import bdb  # noqa: F401,E402  (the program looks its exception up)
+import types  # noqa: E402
+
+import cli  # noqa: F401,E402
+import yum  # noqa: F401,E402
+import yum.Errors  # noqa: F401,E402
+
+from vokdnf import base, clean, errors, groups, interrupted, locks, packages, report  # noqa: E402
+from vokdnf import otherdata, transaction, tsinfo  # noqa: E402
+
+import dnf.drpm  # noqa: E402
+
+
+def usesSqlite():
+    """Whether the metadata cache is a database: True, DNF's solv files."""
+    return True
+
+
+class YumIO:
+    """One session. Made without arguments; raises SystemExit with the cause when the configuration does
+    not allow one. After a transaction the session is spent and the program makes another."""
+
+    def __init__(self):
+        report.attach()
+        self._session = base.Session()
+        self._architectures = packages.Architectures(self._session.basearch)
+        self._collection = None
+        self._noted = []
+        self._interrupted = []
+        self.repos = base.Repositories(self._session)
+        self.conf = base.Conf(self._session)
+        self.tsInfo = tsinfo.TsInfo()
+
+    def __del__(self):
+        if "_session" in self.__dict__:
+            self._session.close()
+
+    def lock(self):
+        """Takes the lock; LockError names who holds it. A transaction that was interrupted is reported
+        here, once."""
+        locks.acquire(self._session.conf)
+        self._interrupted = interrupted.check(self._session)
+
+    def unlock(self):
+        locks.release()
+
+    def interrupted(self):
+        """Lines about a transaction that was interrupted before this start; empty when none was."""
+        return self._interrupted
+
+    def setupRepos(self):
+        """Loads the metadata of the enabled repositories. RepoError."""
+        self._session.load_repositories()
+
+    def setupTs(self):
+        """Reads installed and available packages."""
+        self._collection = None
+        self._session.fill_sack()
+
+    def _collected(self):
+        if self._collection is None:
+            with errors.translated():
+                self._collection = packages.Collection(self._session.sack, self._architectures)
+                self._collection.report_replacements()
+        return self._collection
+
+    def collectUpdates(self):
+        """List of package objects: the newest update of what is installed."""
+        return list(map(packages.Package, self._collected().updates()))
+
+    def collectAll(self):
+        """An object with `installed` and `available`, lists of package objects, newest first."""
+        collection = self._collected()
+        return types.SimpleNamespace(installed=list(map(packages.Package, collection.installed())),
+                                     available=list(map(packages.Package, collection.available())))
+
+    def collectRows(self):
+        """All packages in one call: a list of tuples (po, state, name, verRel, repo, arch, biArch, size,
+        summary, buildtime, isSuite); state 0 updatable, 1 installable, 2 installed; size in bytes and
+        buildtime in seconds are ints, isSuite is a bool, the rest texts. The order is that of the single
+        calls: updates, installed, available; pairing and duplicates are left to the caller."""
+        collection = self._collected()
+        family, row, wrap = self._architectures.family, packages.row, packages.Package
+        return [row(wrap(pkg), state, family)
+                for state, part in ((packages.UPDATABLE, collection.updates()),
+                                    (packages.IS_INSTALLED, collection.installed()),
+                                    (packages.INSTALLABLE, collection.available()))
+                for pkg in part]
+
+    def isBetterThan(self, first, second):
+        return self._architectures.is_better(first, second)
+
+    def getBiArch(self, arch):
+        return self._architectures.family(arch)
+
+    def setupTsGroup(self):
+        """Reads the group data; GroupsError "No Groups Available" without any."""
+        groups.setup(self._session)
+
+    def collectGroupInfo(self):
+        """An object with `visible_groups`, a list of group objects."""
+        with errors.translated():
+            return groups.GroupInfo(self._session)
+
+    def collectDone(self):
+        report.job_state("done", False)
+
+    def collectFileLists(self):
+        """Makes the file lists of available packages readable."""
+        otherdata.load_file_lists(self._session)
+        return True
+
+    def collectOtherData(self):
+        """Makes the change logs of available packages readable."""
+        otherdata.load_change_logs(self._session)
+        return True
+
+    def requiredPkgs(self, name):
+        """List of package names that marking the group member `name` stands for."""
+        return groups.member_names(self._session, name)
+
+    def pkgTree(self, name):
+        """The same list; see vokdnf.groups.member_names for why it holds no dependencies."""
+        return groups.member_names(self._session, name)
+
+    def noteGroups(self, noted):
+        """List of (group object, action 0 update, 1 install, 2 remove) for the next apply."""
+        self._noted = [(group, int(action)) for group, action in noted]
+
+    def apply(self, installs, updates, removes):
+        """Runs one transaction: lists of package objects to install, of [new, installed] pairs, and of
+        package objects to remove. The result is True when the transaction ran, else False."""
+        noted, self._noted = self._noted, []
+        self._collected()
+        return transaction.Transaction(self, installs, updates, removes, noted).run()
+
+    def applyFailCleanup(self):
+        """After an apply that raised: forgets the marks, so that another can follow."""
+        transaction.forget(self._session)
+        report.job_state("done", False)
+
+    def flush(self):
+        """Drops what must not outlive an operation; a spent session is closed."""
+        self._noted = []
+        self.tsInfo = tsinfo.TsInfo()
+        if self._session.spent:
+            self._session.close()
+
+    def usesPresto(self):
+        """Whether packages may be rebuilt from deltas: configured, and possible on this system."""
+        return bool(self._session.conf.deltarpm and self._session.conf.installroot == "/"
+                    and os.access(dnf.drpm.APPLYDELTA, os.X_OK))
+
+    def hasMultiProgress(self):
+        return True
+
+    def cleanHeaders(self):
+        return self._clean("headers")
+
+    def cleanPackages(self):
+        return self._clean("packages")
+
+    def cleanMetadata(self):
+        return self._clean("metadata")
+
+    def cleanPickles(self):
+        return self._clean("pickles")
+
+    def cleanSqlite(self):
+        return self._clean("sqlite")
+
+    def _clean(self, kind):
+        return clean.clean(self._session.conf, kind)

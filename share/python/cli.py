@@ -1,0 +1,5 @@
+"""The library's version under its other name."""
+
+import dnf.const
+
+__version__ = dnf.const.VERSION

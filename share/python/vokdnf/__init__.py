@@ -1,0 +1,1 @@
+"""VOK's engine over DNF; YumIO.py is the door to it."""

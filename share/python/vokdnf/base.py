@@ -1,0 +1,156 @@
+"""One session with DNF: configuration, repositories, package sack. A session runs one transaction."""
+
+import dnf
+import dnf.exceptions
+import rpm
+
+from yum import Errors
+
+from . import config, errors, keys, locks, meters, report, root
+
+# rpm on some distributions keeps its database in the user's home unless told otherwise.
+_DATABASE = "/var/lib/rpm"
+
+
+class Base(dnf.Base):
+    """DNF's base, telling which repository it reads. `other` is a second one that holds the change logs
+    of available packages, once they were asked for."""
+
+    def __init__(self, conf):
+        super().__init__(conf)
+        self._reading = 0
+        self.other = None
+
+    def _add_repo_to_sack(self, repo):
+        errors.check_cancelled()
+        enabled = sum(1 for _ in self.repos.iter_enabled())
+        report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
+        super()._add_repo_to_sack(repo)
+        self._reading += 1
+        report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
+
+
+def load(dnf_base):
+    """Loads the metadata of the enabled repositories of a base."""
+    enabled = list(dnf_base.repos.iter_enabled())
+    report.yumIOC.collectGrabMultiMeterStart(len(enabled), 0)
+    try:
+        for repo in enabled:
+            errors.check_cancelled(Errors.CancelledRepoError)
+            _load(repo)
+    finally:
+        report.yumIOC.collectGrabMultiMeterEnd()
+
+
+def _load(repo):
+    callbacks = meters.RepositoryCallbacks(repo)
+    repo._repo.setCallbacks(callbacks)
+    repo._callbacks = callbacks
+    callbacks.this.disown()  # the repository owns it now
+    repo._set_key_import(keys.RepositoryKeyImport(repo))
+    try:
+        repo.load()
+    except dnf.exceptions.RepoError as error:
+        if callbacks.cancelled or report.cancelled():
+            raise Errors.CancelledRepoError() from error
+        text = "\n".join(["Repository %s: %s" % (repo.id, report.clean(error))]
+                         + ["  " + failure for failure in callbacks.failures])
+        if not repo.skip_if_unavailable:
+            raise Errors.RepoError(text) from error
+        report.errorlog(0, "%s\nThe repository is left out." % text)
+        repo.disable()
+    finally:
+        callbacks.finish()
+
+
+class Session:
+    """What one YumIO object works with. `base` is DNF's; `spent` is set once a transaction ran."""
+
+    def __init__(self):
+        self.conf = config.read_main()
+        if root.prefix() and rpm.expandMacro("%{_dbpath}") != _DATABASE:
+            rpm.addMacro("_dbpath", _DATABASE)
+        self.spent = False
+        self.base = Base(self.conf)
+        with errors.translated():
+            if self.conf.plugins:
+                self.base.init_plugins()
+                self.base.pre_configure_plugins()
+            config.read_repositories(self.conf, self.base.repos)
+            if self.conf.plugins:
+                self.base.configure_plugins()
+
+    def close(self):
+        """Ends the session and frees what it holds. Package objects stay readable."""
+        try:
+            if self.base.other is not None:
+                self.base.other.close()
+                self.base.other = None
+            self.base.close()
+        except Exception as error:  # nobody waits for the result
+            report.errorlog(3, "Closing the package session: %s" % report.clean(error))
+
+    def load_repositories(self):
+        """Loads the metadata of the enabled repositories, one by one. A repository that fails is left
+        out when its configuration allows it, else RepoError is raised."""
+        report.job_state("metadata", True)
+        load(self.base)
+
+    def fill_sack(self):
+        """Reads the installed packages and the loaded repositories."""
+        report.job_state("metadata", True)
+        self.base._reading = 0
+        with errors.translated():
+            locks.guarded("metadata", True, self.base.fill_sack)
+        errors.check_cancelled()
+
+    @property
+    def sack(self):
+        if self.base.sack is None:
+            raise Errors.YumBaseError("The packages have not been read yet.")
+        return self.base.sack
+
+    @property
+    def basearch(self):
+        return self.conf.substitutions["basearch"]
+
+
+class Repositories:
+    """The attribute `repos` of yumIO. `repos` is DNF's dictionary from identifier to repository; a
+    repository has `enabled`."""
+
+    def __init__(self, session):
+        self.repos = session.base.repos
+
+    def _find(self, repo_id):
+        try:
+            return self.repos[repo_id]
+        except KeyError:
+            raise Errors.RepoError("There is no repository %s." % repo_id) from None
+
+    def enableRepo(self, repo_id):
+        with errors.translated(Errors.RepoError):
+            self._find(repo_id).enable()
+
+    def disableRepo(self, repo_id):
+        with errors.translated(Errors.RepoError):
+            self._find(repo_id).disable()
+
+
+class Conf:
+    """The attribute `conf` of yumIO. `yumvar` is a dictionary of the variables (texts)."""
+
+    def __init__(self, session):
+        self._conf = session.conf
+        self.yumvar = {str(key): report.clean(value)
+                       for key, value in session.conf.substitutions.items() if value is not None}
+        self.yumvar.setdefault("releasever", "")
+
+    @property
+    def cachedir(self):
+        return self._conf.cachedir
+
+    @property
+    def maxParallelDownloads(self):
+        """How many packages are downloaded at once at most."""
+        return int(self._conf.max_parallel_downloads)

@@ -1,0 +1,185 @@
+"""The configuration: yum's or DNF's main file and the repository files, read into DNF's objects."""
+
+import glob
+import os
+
+import dnf.conf
+import dnf.conf.read
+import dnf.exceptions
+import dnf.repo
+import dnf.rpm
+import libdnf.conf
+
+from . import report, root
+
+MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf", "/etc/dnf/dnf.conf")
+REPO_DIRECTORIES = ("/etc/yum.repos.d", "/etc/yum/repos.d")
+CACHE_DIRECTORY = "/var/cache/yum"
+# Without these the system cannot mend itself; a protected_packages option takes their place.
+FOUNDATIONS = ("dnf", "filesystem", "glibc", "rpm", "setup", "systemd", "yum")
+_SET_BY_FILE = dnf.conf.PRIO_MAINCONFIG
+
+
+def main_file():
+    """The main file's path inside the system, None when there is none."""
+    return next((path for path in MAIN_FILES if os.path.exists(root.resolve(path))), None)
+
+
+def read_main():
+    """The main section as DNF's configuration object. Raises SystemExit with the cause when there
+    is no usable main file."""
+    path = main_file()
+    if path is None:
+        raise SystemExit("There is no main configuration file: neither %s exists."
+                         % " nor ".join(root.resolve(name) for name in MAIN_FILES))
+    opened = root.resolve(path)
+    conf = dnf.conf.Conf()
+    conf.installroot = root.prefix() or "/"
+    conf.config_file_path = opened
+    try:
+        with open(opened, "rb"):
+            pass
+        conf.read(opened)
+    except OSError as error:
+        raise SystemExit("Unable to read the main configuration file %s: %s"
+                         % (opened, error.strerror)) from error
+    except (dnf.exceptions.Error, RuntimeError) as error:
+        raise SystemExit("The main configuration file %s is malformed: %s"
+                         % (opened, report.clean(error))) from error
+    _settings(conf)
+    _substitutions(conf, opened)
+    _directories(conf)
+    return conf
+
+
+def _settings(conf):
+    if conf._get_priority("plugins") < _SET_BY_FILE:
+        conf.plugins = False
+    if conf._get_priority("deltarpm") < _SET_BY_FILE:
+        conf.deltarpm = False
+    conf.clean_requirements_on_remove = False
+    # Waiting for DNF's locks, questions and answers are VOK's own.
+    conf.exit_on_lock = True
+    conf.assumeyes = conf.assumeno = False
+    conf.comment = "Done with VOK"
+    if root.prefix():
+        conf.pluginconfpath = [root.resolve(path) for path in conf.pluginconfpath]
+    for option in ("sslcacert", "sslclientcert", "sslclientkey"):
+        path = getattr(conf, option)
+        if path and root.inside(path) != path:
+            setattr(conf, option, root.inside(path))
+    if conf._get_priority("protected_packages") < _SET_BY_FILE:
+        conf.protected_packages = sorted(set(FOUNDATIONS).union(_protected_by_files()))
+
+
+def _protected_by_files():
+    for directory in ("/etc/dnf/protected.d", "/etc/yum/protected.d"):
+        for path in sorted(glob.glob(root.resolve(directory) + "/*.conf")):
+            try:
+                with open(path, encoding="utf-8", errors="replace") as lines:
+                    for line in lines:
+                        yield from line.partition("#")[0].replace(",", " ").split()
+            except OSError as error:
+                report.errorlog(1, "%s cannot be read: %s" % (path, error.strerror))
+
+
+def _substitutions(conf, opened):
+    variables = conf.substitutions
+    variables.update_from_etc(conf.installroot, varsdir=conf.varsdir)
+    if "releasever" not in variables:
+        version = _release_of(conf, opened)
+        if version:
+            variables["releasever"] = version
+
+
+def _release_of(conf, opened):
+    """The release: of the package that the distroverpkg option names, else as DNF finds it, else
+    what the system calls itself."""
+    parser = libdnf.conf.ConfigParser()
+    try:
+        parser.read(opened)
+        wanted = parser.getValue("main", "distroverpkg")
+    except Exception:  # the option is not there; libdnf's binding raises no narrower class
+        wanted = None
+    if wanted:
+        reader = dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot)
+        for header in reader.dbMatch("name", wanted):
+            return report.clean(header["version"])
+    version = dnf.rpm.detect_releasever(conf.installroot)
+    if version:
+        return version
+    try:
+        with open(root.resolve("/etc/os-release"), encoding="utf-8", errors="replace") as lines:
+            for line in lines:
+                key, _, value = line.strip().partition("=")
+                if key == "VERSION_ID":
+                    return value.strip("\"'")
+    except OSError:
+        pass
+    return None
+
+
+def _directories(conf):
+    if conf._get_priority("cachedir") < _SET_BY_FILE:
+        conf.cachedir = CACHE_DIRECTORY
+    for option in ("cachedir", "logdir", "persistdir"):
+        if conf.installroot != "/":
+            conf.prepend_installroot(option)
+        else:
+            setattr(conf, option, libdnf.conf.ConfigParser.substitute(getattr(conf, option),
+                                                                       conf.substitutions))
+    own = root.user_cache()
+    if not root.writable(conf.cachedir):
+        conf.cachedir = own
+    if not root.writable(conf.logdir):
+        conf.logdir = own
+    conf._set_value("system_cachedir", conf.cachedir)
+    for path in (conf.cachedir, conf.logdir):
+        try:
+            os.makedirs(path, exist_ok=True)
+        except OSError as error:
+            raise SystemExit("Unable to make the directory %s: %s"
+                             % (path, error.strerror)) from error
+    if conf._get_priority("reposdir") < _SET_BY_FILE:
+        conf.reposdir = list(REPO_DIRECTORIES)
+    conf.reposdir = [root.resolve(path) for path in conf.reposdir]
+
+
+def read_repositories(conf, repositories):
+    """Fills DNF's dictionary from the main file and the repository directories. A file that cannot be
+    used is reported with the reason and left out; the others are used."""
+    reader = dnf.conf.read.RepoReader(conf, None)
+    files = [conf.config_file_path]
+    for directory in conf.reposdir:
+        files += sorted(glob.glob(glob.escape(directory) + "/*.repo"))
+    for path in files:
+        try:
+            with open(path, "rb"):
+                pass
+            for repo in reader._get_repos(path):
+                _place_inside(repo)
+                repositories.add(repo)
+        except OSError as error:
+            if not os.path.isdir(path):
+                _left_out(path, error.strerror)
+        except (dnf.exceptions.Error, RuntimeError) as error:
+            _left_out(path, error)
+
+
+def _left_out(path, reason):
+    report.errorlog(0, "The repository file %s is left out: %s" % (path, report.clean(reason)))
+
+
+def _place_inside(repo):
+    """Makes the files that a repository names those of the system."""
+    if not root.prefix():
+        return
+    for option in ("gpgkey", "baseurl"):
+        values = list(getattr(repo, option) or ())
+        placed = [root.inside(value) if value.startswith("file://") else value for value in values]
+        if placed != values:
+            setattr(repo, option, placed)
+    for option in ("sslcacert", "sslclientcert", "sslclientkey", "mirrorlist", "metalink"):
+        value = getattr(repo, option, None)
+        if value and root.inside(value) != value:
+            setattr(repo, option, root.inside(value))

@@ -1,0 +1,51 @@
+"""Signing keys and signatures. No key is imported without a yes of the user."""
+
+import dnf.callback
+import dnf.exceptions
+
+from yum import Errors
+
+from . import errors, report, root
+
+
+class RepositoryKeyImport(dnf.callback.KeyImport):
+    """Asks about the keys that sign a repository's metadata."""
+
+    def __init__(self, repo):
+        self._repo = repo
+
+    def _confirm(self, id, userid, fingerprint, url, timestamp):
+        source = "%s (metadata of the repository %s)" % (root.shown(url), self._repo.id)
+        answer = report.import_key(id, userid, fingerprint, source)
+        if not answer:
+            report.errorlog(0, "The key 0x%s of the repository %s was not imported."
+                            % (id, self._repo.id))
+        return answer
+
+
+def check_signatures(base, packages):
+    """Checks every package (DNF objects) whose repository wants it, before anything is changed.
+    Raises YumBaseError naming the first package that must not be installed and why."""
+    for pkg in packages:
+        errors.check_cancelled()
+        with errors.translated(prefix="%s: " % pkg):
+            result, text = base.package_signature_check(pkg)
+        if result == 0:
+            continue
+        if result != 1:
+            raise Errors.YumBaseError("%s cannot be trusted: %s. Nothing was changed."
+                                      % (pkg, report.clean(text)))
+        _import_key(base, pkg, report.clean(text))
+
+
+def _import_key(base, pkg, reason):
+    def ask(about):
+        return report.import_key(about["hexkeyid"], about["userid"], about["fingerprint"],
+                                 "%s (package %s)" % (root.shown(about["keyurl"]), pkg))
+    try:
+        base.package_import_key(pkg, fullaskcb=ask)
+    except (dnf.exceptions.Error, ValueError, OSError) as error:
+        # DNF remembers the repository as asked about; a second apply has to ask again.
+        base._repo_set_imported_gpg_keys.discard(pkg.repoid)
+        raise Errors.YumBaseError("%s cannot be trusted: %s. %s\nNothing was changed."
+                                  % (pkg, reason, report.clean(error))) from error

@@ -1,0 +1,131 @@
+"""Locks: VOK's own, one for a system and held by this module, and the waiting for DNF's."""
+
+import fcntl
+import os
+import time
+
+import dnf.exceptions
+import dnf.lock
+
+from yum import Errors
+
+from . import errors, report, root
+
+LOCK_FILE = "/run/vok/vok.lock"
+_PAUSE = 0.3  # seconds between two attempts
+_held = {}    # path of the lock file: its descriptor
+
+
+def command_of(pid):
+    """The command line of a process, its name when it hides that, "" when there is none."""
+    for name, join in (("cmdline", True), ("comm", False)):
+        try:
+            with open("/proc/%d/%s" % (pid, name), "rb") as stream:
+                data = stream.read(4096)
+        except OSError:
+            continue
+        text = report.clean(data.replace(b"\0", b" ") if join else data).strip()
+        if text:
+            return text
+    return ""
+
+
+def acquire(conf):
+    """Takes VOK's lock unless this process has it, and sees that DNF's rpm database lock is free.
+    Raises LockError naming the holder; where the program can ask, the user decides how long to wait.
+    A user without the right to change the system gets on without a lock."""
+    if os.geteuid() != 0:
+        return
+    waited = False
+    try:
+        while True:
+            holder = _take() or _database_holder(conf)
+            if holder is None:
+                return
+            _release()
+            waited = True
+            _wait(*holder)
+    finally:
+        if waited:
+            report.job_state("metadata", True)
+
+
+def held():
+    """Whether this process has VOK's lock on the system."""
+    return root.resolve(LOCK_FILE) in _held
+
+
+def release():
+    """Gives the lock back. Without a lock it does nothing."""
+    _release()
+
+
+def _take():
+    """None when the lock is ours (or cannot be had for lack of rights), else the holder's pid and
+    command."""
+    path = root.resolve(LOCK_FILE)
+    if path in _held:
+        return None
+    try:
+        os.makedirs(os.path.dirname(path), mode=0o755, exist_ok=True)
+        descriptor = os.open(path, os.O_RDWR | os.O_CREAT | os.O_CLOEXEC, 0o644)
+    except OSError:
+        return None
+    try:
+        fcntl.flock(descriptor, fcntl.LOCK_EX | fcntl.LOCK_NB)
+    except OSError:
+        text = os.read(descriptor, 32).decode("ascii", "replace").strip()
+        os.close(descriptor)
+        pid = int(text) if text.isdigit() else 0
+        return pid, command_of(pid) or "VOK"
+    os.ftruncate(descriptor, 0)
+    os.write(descriptor, b"%d\n" % os.getpid())
+    _held[path] = descriptor
+    return None
+
+
+def _release():
+    descriptor = _held.pop(root.resolve(LOCK_FILE), None)
+    if descriptor is not None:
+        # The file stays: removing it would let two programs lock two files of one name.
+        os.ftruncate(descriptor, 0)
+        os.close(descriptor)
+
+
+def _database_holder(conf):
+    """(pid, command) of the process that DNF's lock file names while it lives, else None."""
+    path = dnf.lock.build_rpmdb_lock(conf.persistdir, True).target
+    try:
+        with open(path, encoding="ascii", errors="replace") as stream:
+            text = stream.read(20).strip()
+    except OSError:
+        return None
+    pid = int(text) if text.isdigit() else 0
+    if pid in (0, os.getpid()) or not os.path.exists("/proc/%d" % pid):
+        return None
+    return pid, command_of(pid)
+
+
+def _wait(pid, command):
+    """One round of waiting. Raises LockError when nobody can be asked or the user gives up."""
+    report.job_state("lock", True)
+    errors.check_cancelled(Errors.CancelledLockError)
+    text = "The package database is in use by process %d (%s)." % (pid, command or "unknown command")
+    if not report.offers("lockWait"):
+        raise Errors.LockError(text, pid)
+    if not report.yumIOC.lockWait(pid, report.clean(command)):
+        raise Errors.LockError(text, pid)
+    errors.check_cancelled(Errors.CancelledLockError)
+    time.sleep(_PAUSE)
+
+
+def guarded(state, can_cancel, call):
+    """Runs `call`, an operation of DNF that takes one of DNF's locks before it does anything, again
+    and again while another process holds the lock and the user is willing to wait. `state` is the
+    job's state to return to."""
+    while True:
+        try:
+            return call()
+        except dnf.exceptions.ProcessLockError as error:
+            _wait(error.pid, command_of(error.pid))
+            report.job_state(state, can_cancel)

@@ -1,0 +1,137 @@
+"""Everything that the script says to the program: text made safe for crossing, DNF's log records,
+the interpreter's output, and the callbacks that not every program has."""
+
+import logging
+import re
+import sys
+
+import yumIOC
+
+_UNSAFE = re.compile("[\ud800-\udfff\0]")
+_PIECE = 1 << 16  # characters of output that cross at once
+
+
+def clean(text):
+    """`text` (str, bytes or any object) as str that UTF-8 and C strings can carry."""
+    if isinstance(text, bytes):
+        text = text.decode("utf-8", "replace")
+    elif not isinstance(text, str):
+        text = str(text)
+    return _UNSAFE.sub("\ufffd", text) if _UNSAFE.search(text) else text
+
+
+def log(level, text):
+    """`level` 0 (important) to 10 (debugging)."""
+    yumIOC.log(level, clean(text))
+
+
+def errorlog(level, text):
+    yumIOC.errorlog(level, clean(text))
+
+
+def write_out(text):
+    """Output text, complete lines or not, to the program's standard-output log."""
+    text = clean(text)
+    for start in range(0, len(text), _PIECE):
+        yumIOC.stdoutWrite(text[start:start + _PIECE])
+
+
+def write_err(text):
+    text = clean(text)
+    for start in range(0, len(text), _PIECE):
+        yumIOC.stderrWrite(text[start:start + _PIECE])
+
+
+def offers(name):
+    """Whether the program has the optional callback `name`."""
+    return hasattr(yumIOC, name)
+
+
+def cancelled():
+    """Whether the user asked to cancel the running job."""
+    return bool(offers("cancelled") and yumIOC.cancelled())
+
+
+def job_state(state, can_cancel):
+    if offers("jobState"):
+        yumIOC.jobState(state, 1 if can_cancel else 0)
+
+
+def import_key(key_id, user_id, fingerprint, source):
+    """Asks whether a signing key may be imported. Without the callback for it the lines of the log
+    make up the question."""
+    texts = [clean(text or "") for text in (key_id, user_id, fingerprint, source)]
+    if offers("keyQuestion"):
+        return bool(yumIOC.keyQuestion(*texts))
+    yumIOC.gpgsigcheck()
+    log(0, "Import the key 0x%s?\n  Owner: %s\n  Fingerprint: %s\n  From: %s" % tuple(texts))
+    return bool(yumIOC.userconfirm())
+
+
+def confirm(lines):
+    """A plain yes/no question; `lines` are its text."""
+    yumIOC.gpgsigcheck()
+    for line in lines:
+        log(0, line)
+    return bool(yumIOC.userconfirm())
+
+
+class Writer:
+    """A stand-in for sys.stdout or sys.stderr. It knows the descriptor because rpm wants one."""
+
+    encoding = "utf-8"
+    errors = "replace"
+    closed = False
+
+    def __init__(self, write, descriptor):
+        self._write = write
+        self._descriptor = descriptor
+
+    def write(self, text):
+        if text:
+            self._write(text)
+        return len(text)
+
+    def writelines(self, lines):
+        for line in lines:
+            self.write(line)
+
+    def flush(self):
+        pass
+
+    def isatty(self):
+        return False
+
+    def fileno(self):
+        return self._descriptor
+
+
+class _Handler(logging.Handler):
+    """Sends DNF's records to the program. Mirror failures are told nowhere else."""
+
+    def emit(self, record):
+        # What rpm and scriptlets say reaches the program through the transaction's display.
+        if record.name == "dnf.rpm":
+            return
+        try:
+            text = record.getMessage()
+            if record.levelno >= logging.WARNING:
+                errorlog(0, text)
+            else:
+                log(0 if record.levelno >= logging.INFO else 10, text)
+        except Exception:  # a record that cannot be told must not end DNF's work
+            pass
+
+
+_HANDLER = _Handler(logging.DEBUG)
+
+
+def attach():
+    """Routes the interpreter's output and DNF's log to the program. Repeating it is harmless."""
+    sys.stdout = Writer(write_out, 1)
+    sys.stderr = Writer(write_err, 2)
+    logger = logging.getLogger("dnf")
+    logger.setLevel(logging.DEBUG)
+    logger.propagate = False
+    if _HANDLER not in logger.handlers:
+        logger.addHandler(_HANDLER)

@@ -1,0 +1,152 @@
+"""From the user's marks to a resolved transaction, with questions where it cannot be had as marked."""
+
+import dnf.exceptions
+import dnf.goal
+
+from yum import Errors
+
+from . import errors, explain, packages, report, tsinfo
+
+_MANY = 20  # packages named in a question; the rest is counted
+
+
+class Marks:
+    """What the user marked. `wanted` and `unwanted` are DNF's objects; `installs`, `updates`, `removes`
+    sets of epoch:name-version-release.arch."""
+
+    def __init__(self, installs, updates, removes):
+        new = [pair[0] for pair in updates]
+        self.installs = {packages.envra(po) for po in installs}
+        self.updates = {packages.envra(po) for po in new}
+        self.removes = {packages.envra(po) for po in removes}
+        self.wanted = list({packages.envra(po): po.pkg for po in [*installs, *new]}.values())
+        self.unwanted = [po.pkg for po in removes]
+
+    def holds(self, key):
+        return key in self.installs or key in self.updates or key in self.removes
+
+
+class Resolver:
+    """Resolves marks on a base. `group_members` are names that are wanted for their group's sake."""
+
+    def __init__(self, base, marks, group_members=()):
+        self._base = base
+        self._marks = marks
+        self._group_members = set(group_members)
+
+    def resolve(self):
+        """True when base.transaction holds what shall be done; False when the user was asked about a
+        way out and declined. Raises YumBaseError with the reasons when there is no way out."""
+        erasing = bool(self._marks.unwanted)
+        try:
+            self._attempt(True, erasing)
+        except dnf.exceptions.DepsolveError as error:
+            return self._way_out(error, erasing)
+        return self._accept_losses() if erasing and self._marks.wanted else True
+
+    def _attempt(self, strict, erasing):
+        base = self._base
+        base.reset(goal=True)
+        for pkg in self._marks.wanted:
+            base.package_install(pkg, strict=strict)
+        for pkg in self._marks.unwanted:
+            base.package_remove(pkg)
+        base._goal.group_members.update(self._group_members)
+        base._allow_erasing = erasing
+        base.resolve(allow_erasing=erasing)
+
+    def _items(self, actions):
+        return [item for item in self._base.transaction if item.action in actions]
+
+    def _way_out(self, error, erasing):
+        """Looks for what can be done instead, and asks about it."""
+        problems = self._base._goal.problem_rules()
+        lines = explain.explain(problems, self._base) or [report.clean(error)]
+        report.log(1, "The solver says:%s" % report.clean(error))
+        errors.check_cancelled()
+        offers = ([] if erasing else [self._offer_erasing]) + [self._offer_skipping]
+        for offer in offers:
+            question = offer(erasing)
+            if question:
+                return report.confirm(["The transaction cannot be done as marked:"]
+                                      + ["  " + line for line in lines] + ["", *question])
+        self._base.reset(goal=True)
+        raise Errors.YumBaseError("\n".join(["The transaction cannot be done:"]
+                                            + ["  " + line for line in lines]))
+
+    def _try(self, strict, erasing):
+        try:
+            self._attempt(strict, erasing)
+        except dnf.exceptions.Error:
+            return False
+        return True
+
+    def _offer_erasing(self, _):
+        if not self._try(True, True):
+            return None
+        lost = self._items((tsinfo.REMOVE,))
+        return ["It can be done by removing:"] + _listed(item.pkg for item in lost) + [
+            "Do it that way?"] if lost else None
+
+    def _offer_skipping(self, erasing):
+        if not self._marks.wanted or not self._try(False, erasing):
+            return None
+        there = {packages.envra(item.pkg) for item in self._base.transaction
+                 if item.action not in tsinfo.ERASING}
+        left_out = [pkg for pkg in self._marks.wanted if packages.envra(pkg) not in there]
+        if not left_out or not len(self._base.transaction):
+            return None
+        return ["The rest can be done without:"] + _listed(left_out) + ["Do the rest?"]
+
+    def _accept_losses(self):
+        """A removal may take what depends on it; what is marked for installation may not take anything
+        along without a question."""
+        goal = dnf.goal.Goal(self._base.sack)
+        for pkg in self._marks.unwanted:
+            goal.erase(pkg)
+        expected = set(self._marks.removes)
+        if goal.run(allow_uninstall=True):
+            expected.update(map(packages.envra, goal.list_erasures()))
+        # Of packages kept in several versions the oldest makes room for the new one.
+        names = {item.pkg.name for item in self._items(tsinfo.INSTALLING)}
+        lost = [item.pkg for item in self._items((tsinfo.REMOVE,))
+                if packages.envra(item.pkg) not in expected and item.pkg.name not in names]
+        if not lost:
+            return True
+        return report.confirm(["What is marked for installation cannot be there together with:"]
+                              + _listed(lost) + ["Remove it too?"])
+
+
+def _listed(pkgs):
+    names = sorted(map(str, pkgs))
+    more = ["  and %d more" % (len(names) - _MANY)] if len(names) > _MANY else []
+    return ["  " + report.clean(name) for name in names[:_MANY]] + more
+
+
+def tell_additions(base, marks, collection):
+    """Tells which installs and updates the resolution added to the marks. True when there were any."""
+    lines = []
+    for item in base.transaction:
+        if item.action not in tsinfo.INSTALLING and item.action != tsinfo.UPGRADE:
+            continue
+        new = packages.envra(item.pkg)
+        if marks.holds(new):
+            continue
+        update = collection.key(item.pkg) in collection.updatable
+        if item.action not in (tsinfo.UPGRADE, *tsinfo.INSTALLING[:2]) \
+                or not update and collection.is_installed(item.pkg):
+            report.log(2, "Also needed: %s %s" % (new, item.action_name.lower()))
+            continue
+        replaced = [old.pkg for old in base.transaction if old.action == tsinfo.OBSOLETED
+                    and collection.key(old.pkg) in collection.updatable
+                    and any(by.getRPMItem().getNEVRA() == item._item.getRPMItem().getNEVRA()
+                            for by in old._item.getReplacedBy())]
+        if replaced:
+            lines += ["Obsoleting %s with %s" % (packages.envra(old), new + " for dependencies")
+                      for old in replaced]
+        else:
+            lines.append("Marking %s as %s for dependencies"
+                         % (new, "an update" if update else "install"))
+    for line in lines:
+        report.log(4, "TSINFO: " + line)
+    return bool(lines)

@@ -1,0 +1,224 @@
+"""Runs the script on a root in a process of its own, with a yumIOC that records what it is told.
+
+As a program: reads one JSON object, a scenario, from standard input and writes what happened to the
+file named as the argument. As a module: `run(root, scenario)` does that on a sandbox and returns the
+object. A process runs one scenario, because a session runs one transaction and rpm reads its
+configuration once.
+
+A scenario may hold
+    enable, disable     lists of repository ids
+    steps               list of steps, each {"do": "collect" | "apply" | a method of yumIO, ...}
+    confirm             answers to userconfirm, in order; then yes
+    key                 answer to keyQuestion (default no)
+    lockWait            answers, in order; then "give up"
+    cancelAt            name of a callback: from its first call on the job is cancelled
+    without             callbacks that this program does not offer
+The result holds `calls` (a list of [callback, arguments...]), `values` (one for each step) and `errors`
+([exception's class, text] or null for each step).
+"""
+
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import traceback
+import types
+
+CHECKOUT = pathlib.Path(__file__).resolve().parent.parent.parent
+SANDBOX = CHECKOUT / "tools" / "sandbox"
+CALLBACKS = """stdoutWrite stderrWrite log errorlog collectProgress collectGrabMeterStart
+collectGrabMeterUpdate collectGrabMeterEnd collectGrabMeterFailure collectGrabMultiMeterStart
+collectGrabMultiMeterNew collectGrabMultiMeterRemove collectGrabMultiMeterEnd applyGrabMeterStart
+applyGrabMeterUpdate applyGrabMeterEnd applyGrabMeterFailure applyGrabMultiMeterStart
+applyGrabMultiMeterNew applyGrabMultiMeterRemove applyGrabMultiMeterEnd dsTsCheck dsRestartLoop
+userconfirm reportDownloadSize listTransaction tsInitCallback tsCallback tsEvent
+postTransactionOutput gpgsigcheck cancelled jobState lockWait keyQuestion transactionReport""".split()
+LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
+
+
+def run(root, scenario, environment=None, timeout=120):
+    """Runs a scenario on a sandbox; the driver's own failures raise with its output."""
+    with tempfile.TemporaryDirectory() as place:
+        result = pathlib.Path(place, "result.json")
+        variables = dict(os.environ, VOKSHARE=str(CHECKOUT / "share"), **(environment or {}))
+        done = subprocess.run([SANDBOX, "run", root, "--", "/usr/bin/python3", __file__, result],
+                              input=json.dumps(scenario), text=True, capture_output=True,
+                              errors="replace", env=variables, timeout=timeout)
+        if done.returncode or not result.exists():
+            raise AssertionError("the driver ended with %d\n%s\n%s"
+                                 % (done.returncode, done.stdout, done.stderr))
+        answer = json.loads(result.read_text(encoding="utf-8"))
+        answer["stdout"] = done.stdout
+        return answer
+
+
+class Recorder:
+    """The module yumIOC."""
+
+    def __init__(self, scenario):
+        self.calls = []
+        self.cancelled_now = False
+        self._scenario = scenario
+        self._answers = {name: list(scenario.get(key, ())) for name, key in
+                         (("userconfirm", "confirm"), ("lockWait", "lockWait"))}
+        self.module = types.ModuleType("yumIOC")
+        for name in CALLBACKS:
+            if name not in scenario.get("without", ()):
+                setattr(self.module, name, self._callback(name))
+
+    def _callback(self, name):
+        def call(*arguments):
+            if name == "cancelled":
+                return 1 if self.cancelled_now else 0
+            self.calls.append([name, *map(plain, arguments)])
+            if name == self._scenario.get("cancelAt"):
+                self.cancelled_now = True
+            return self._answer(name)
+        return call
+
+    def _answer(self, name):
+        if name in self._answers:
+            answers = self._answers[name]
+            return int(answers.pop(0) if answers else name == "userconfirm")
+        if name == "keyQuestion":
+            return int(self._scenario.get("key", False))
+        return "" if name == "postTransactionOutput" else None
+
+
+def plain(value):
+    """A value as JSON has it; packages as their names, a transaction as its lists."""
+    if hasattr(value, "tsInfo"):
+        value.tsInfo.makelists()
+        return {name: [[plain(member.po), member.repoid,
+                        [" ".join((packages_text(tup), relation)) for tup, relation
+                         in member.relatedto]] for member in getattr(value.tsInfo, name)]
+                for name in LISTS}
+    if isinstance(value, str):
+        value.encode("utf-8")  # what cannot cross must not come here
+        assert "\0" not in value
+        return value
+    if value is None or isinstance(value, (int, float)):
+        return value
+    if isinstance(value, (list, tuple)):
+        return [plain(one) for one in value]
+    return str(value)
+
+
+def packages_text(tup):
+    return "%s:%s-%s-%s.%s" % (tup[2], tup[0], tup[3], tup[4], tup[1])
+
+
+class Program:
+    """What the program does with the object yumIO."""
+
+    def __init__(self, make):
+        self._make = make
+        self.yumio = None
+        self.updates = self.all = self.groups = None
+
+    def collect(self, step, scenario):
+        self.yumio = io = self._make()
+        io.lock()
+        for name in scenario.get("enable", ()):
+            io.repos.enableRepo(name)
+        for name in scenario.get("disable", ()):
+            io.repos.disableRepo(name)
+        io.setupRepos()
+        io.setupTs()
+        self.updates = {}
+        for po in io.collectUpdates():
+            self.updates.setdefault(po.name, []).append(po)
+        self.all = io.collectAll()
+        io.setupTsGroup()
+        self.groups = {group.name: group for group in io.collectGroupInfo().visible_groups}
+        io.collectDone()
+        return {state: sorted(map(str, part)) for state, part in (
+            ("updates", sum(self.updates.values(), [])), ("installed", self.all.installed),
+            ("available", self.all.available))}
+
+    def _find(self, part, wanted):
+        found = [po for po in part if wanted in (po.name, "%s.%s" % (po.name, po.arch), str(po))]
+        assert found, "no %s to mark" % wanted
+        return found
+
+    def _family(self, po):
+        return po.name, self.yumio.getBiArch(po.arch)
+
+    def apply(self, step, scenario):
+        installs, updates, removes = [], [], []
+        wanted = {key: list(step.get(key, ())) for key in ("install", "update", "remove")}
+        self._walk_groups(step.get("groups", ()), wanted)
+        for name in wanted["install"]:
+            installs += self._find(self.all.available, name)[:1]
+        for name in wanted["update"]:
+            for new in self._find(sum(self.updates.values(), []), name):
+                updates += [[new, old] for old in self.all.installed
+                            if self._family(old) == self._family(new)]
+        for name in wanted["remove"]:
+            removes += self._find(self.all.installed, name)
+        self.yumio.noteGroups([(self.groups[name], action) for name, action in
+                               step.get("groups", ())])
+        try:
+            return self.yumio.apply(installs, updates, removes)
+        except Exception:
+            self.yumio.applyFailCleanup()
+            raise
+        finally:
+            self.yumio.flush()
+
+    def _walk_groups(self, groups, wanted):
+        installed = {po.name for po in self.all.installed}
+        available = {po.name for po in self.all.available}
+        for name, action in groups:
+            group = self.groups[name]
+            needed = list(group.mandatory_packages.keys()) + list(group.default_packages.keys())
+            needed += [member for member, condition in group.conditional_packages.items()
+                       if condition in installed or condition in needed]
+            if action == 2:
+                needed += list(group.optional_packages.keys())
+            for member in sum(map(self.yumio.pkgTree, needed), []):
+                if action == 2 and member in installed:
+                    wanted["remove"].append(member)
+                elif action != 2 and member in self.updates:
+                    wanted["update"].append(member)
+                elif action != 2 and member in available:
+                    wanted["install"].append(member)
+
+    def step(self, step, scenario):
+        if hasattr(self, step["do"]):
+            return getattr(self, step["do"])(step, scenario)
+        if step["do"] == "rows":
+            return [[plain(field) for field in row] for row in self.yumio.collectRows()]
+        if step["do"] == "eval":
+            return plain(eval(step["code"], {"io": self.yumio, "program": self}))
+        return plain(getattr(self.yumio, step["do"])())
+
+
+def main(target):
+    scenario = json.load(sys.stdin)
+    recorder = Recorder(scenario)
+    sys.modules["yumIOC"] = recorder.module
+    script = os.path.join(os.environ["VOKSHARE"], "python", "YumIO.py")
+    names = {"__name__": "__main__"}
+    values, errors = [], []
+    try:
+        with open(script, encoding="utf-8") as stream:
+            exec(compile(stream.read(), "YumIO.py", "exec"), names)
+        program = Program(names["YumIO"])
+        for step in scenario.get("steps", ()):
+            try:
+                values.append(program.step(step, scenario))
+                errors.append(None)
+            except (Exception, SystemExit) as error:
+                values.append(traceback.format_exc() if not hasattr(error, "value") else None)
+                errors.append([type(error).__name__, str(error)])
+    finally:
+        sys.stdout, sys.stderr = sys.__stdout__, sys.__stderr__
+    with open(target, "w", encoding="utf-8") as stream:
+        json.dump({"calls": recorder.calls, "values": values, "errors": errors}, stream)
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])
