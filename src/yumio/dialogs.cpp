@@ -9,9 +9,6 @@
 
 namespace {
 
-// A box that grows with its text cannot show a text beyond this; the log has it whole.
-constexpr qsizetype boxTextLimit = 8000;
-
 bool isDisruptive(QChar c)
 {
     const ushort u = c.unicode();
@@ -31,14 +28,6 @@ QString showable(const QString &text)
     return result;
 }
 
-QString boxText(const QString &text)
-{
-    QString result = showable(text);
-    if (result.size() > boxTextLimit)
-        result = result.left(boxTextLimit) + QStringLiteral(" ...");
-    return result;
-}
-
 } // namespace
 
 YumIODialogsMinion::YumIODialogsMinion(QWidget *parent) : m_parent(parent) {}
@@ -55,7 +44,7 @@ void YumIODialogsMinion::warning(const QString &title, const QString &text, cons
                                  const QString &button1, const QString &button2, int defaultButton,
                                  int escapeButton)
 {
-    Q_EMIT setResult(showMessageBox(QMessageBox::Warning, m_parent, title, boxText(text), button0,
+    Q_EMIT setResult(showMessageBox(QMessageBox::Warning, m_parent, title, showable(text), button0,
                                     button1, button2, defaultButton, escapeButton));
 }
 
@@ -63,7 +52,7 @@ void YumIODialogsMinion::critical(const QString &title, const QString &text, con
                                   const QString &button1, const QString &button2, int defaultButton,
                                   int escapeButton)
 {
-    Q_EMIT setResult(showMessageBox(QMessageBox::Critical, m_parent, title, boxText(text), button0,
+    Q_EMIT setResult(showMessageBox(QMessageBox::Critical, m_parent, title, showable(text), button0,
                                     button1, button2, defaultButton, escapeButton));
 }
 

@@ -3,7 +3,7 @@
 #include "python/pyref.h"
 
 #include "dialogs.h"
-#include "format.h"
+#include "formats.h"
 #include "progress/progress.h"
 #include "transactionlists.h"
 #include "weights.h"
