@@ -57,6 +57,7 @@ public:
     // Showing the window starts the engine and the first collection from the event loop.
     void setVisible(bool visible) override;
     QSize sizeHint() const override;
+    using QMainWindow::resize;
 
 public Q_SLOTS:
     // Ends the program; while a job runs, as soon as it has stopped. A job that can be cancelled
@@ -70,7 +71,6 @@ public Q_SLOTS:
     void cleanSqliteCache();
     void cleanAll();
     void refresh();
-    using QMainWindow::resize;
     void resize();
     void setSelected();
     void setUpdateListed();

@@ -58,14 +58,14 @@ Model::Model(YumIO *yumIO, QObject *parent)
     qRegisterMetaType<Package::Entry *>("Package::Entry*");
 }
 
-int Model::rowCount(const QModelIndex &) const
+int Model::rowCount(const QModelIndex &parent) const
 {
-    return m_yumIO->count();
+    return parent.isValid() ? 0 : m_yumIO->count();
 }
 
-int Model::columnCount(const QModelIndex &) const
+int Model::columnCount(const QModelIndex &parent) const
 {
-    return ColumnCount;
+    return parent.isValid() ? 0 : ColumnCount;
 }
 
 const Entry *Model::entryAt(const QModelIndex &index) const
