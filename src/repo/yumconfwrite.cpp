@@ -150,7 +150,7 @@ QList<YumConfIO::FileContent> YumConfIO::sortedContents() const
 bool YumConfIO::writeFile(const FileContent &content)
 {
     const bool isMain = content.path == fileName();
-    FileState &state = m_files[content.path];
+    FileState state = m_files.value(content.path);
     if (state.latin1) {
         // What no longer fits makes the file a UTF-8 one.
         state.latin1 = (!isMain || fitsLatin1(m_mainText)) &&
@@ -192,6 +192,7 @@ bool YumConfIO::writeFile(const FileContent &content)
     state.idents.clear();
     for (const Repo::Entry &entry : content.entries)
         state.idents.insert(entry.id);
+    m_files.insert(content.path, state);
     return true;
 }
 

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "widgets/htextedit.h"
+
+#include <QLineEdit>
+#include <QMimeData>
+
+// The hidden editors of the masked fields. They hold the true text, are never shown and never
+// painted, and give nothing to the clipboard.
+
+class PasswdRealLineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    using QLineEdit::QLineEdit;
+
+    void setVisible(bool) override { QLineEdit::setVisible(false); }
+    void keyPressEvent(QKeyEvent *event) override { QLineEdit::keyPressEvent(event); }
+    void keyReleaseEvent(QKeyEvent *event) override { QLineEdit::keyReleaseEvent(event); }
+    void inputMethodEvent(QInputMethodEvent *event) override { QLineEdit::inputMethodEvent(event); }
+
+protected:
+    void paintEvent(QPaintEvent *) override {}
+};
+
+class PasswdRealTextEdit : public HTextEdit
+{
+    Q_OBJECT
+
+public:
+    using HTextEdit::HTextEdit;
+    using HTextEdit::setViewportMargins;
+
+    void setVisible(bool) override { HTextEdit::setVisible(false); }
+    void keyPressEvent(QKeyEvent *event) override { HTextEdit::keyPressEvent(event); }
+    void keyReleaseEvent(QKeyEvent *event) override { HTextEdit::keyReleaseEvent(event); }
+    void inputMethodEvent(QInputMethodEvent *event) override { HTextEdit::inputMethodEvent(event); }
+
+protected:
+    void paintEvent(QPaintEvent *) override {}
+    QMimeData *createMimeDataFromSelection() const override { return new QMimeData; }
+};

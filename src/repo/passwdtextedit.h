@@ -1,0 +1,60 @@
+#pragma once
+
+#include "widgets/htextedit.h"
+
+#include <QPointer>
+#include <QRegularExpression>
+
+class PasswdRealTextEdit;
+
+// A text edit for a list of URLs that may carry passwords: what PasswdLineEdit is for one. Every
+// match of `mask` in the text has its captures masked.
+class PasswdTextEdit : public HTextEdit
+{
+    Q_OBJECT
+
+public:
+    PasswdTextEdit(const QRegularExpression &mask, QWidget *parent);
+    PasswdTextEdit(const QRegularExpression &mask, int rows, int columns, QWidget *parent);
+    ~PasswdTextEdit() override;
+
+    void setRealPlainText(const QString &text);
+    QString realPlainText() const;
+
+public Q_SLOTS:
+    // These hide the base class's, which would change the copy.
+    void cut();
+    void undo();
+    void redo();
+    void clear();
+
+Q_SIGNALS:
+    void realTextChanged();
+
+protected:
+    bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void insertFromMimeData(const QMimeData *source) override;
+
+private Q_SLOTS:
+    void textChanged();
+
+private:
+    void construct();
+    QString masked(const QString &real) const;
+    void showMasked();
+    void carryToReal();
+    void carryToVisible();
+    void visibleEdited();
+    void insertReal(const QString &text);
+    void placeReal();
+
+    QRegularExpression m_mask;
+    QPointer<PasswdRealTextEdit> m_real;
+    bool m_carrying = false; // what happens to this editor is our own doing
+};

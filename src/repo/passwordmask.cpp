@@ -1,0 +1,117 @@
+#include "passwordmask.h"
+
+#include <QAccessible>
+#include <QAccessibleObject>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+void maskCaptures(QString &text, const QRegularExpressionMatch &match, QChar mask)
+{
+    for (int i = 1; i <= match.lastCapturedIndex(); ++i) {
+        const qsizetype length = match.capturedLength(i);
+        if (length > 0)
+            std::fill_n(text.begin() + match.capturedStart(i), length, mask);
+    }
+}
+
+// An object without text, name, value or children.
+class Mute : public QAccessibleObject
+{
+public:
+    using QAccessibleObject::QAccessibleObject;
+
+    QAccessibleInterface *parent() const override
+    {
+        return QAccessible::queryAccessibleInterface(object()->parent());
+    }
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+    QString text(QAccessible::Text) const override { return QString(); }
+    QAccessible::Role role() const override { return QAccessible::NoRole; }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.invisible = true;
+        state.disabled = true;
+        return state;
+    }
+};
+
+QAccessibleInterface *mute(const QString &className, QObject *object)
+{
+    if (object && (className == QLatin1String("PasswdRealLineEdit") ||
+                   className == QLatin1String("PasswdRealTextEdit")))
+        return new Mute(object);
+    return nullptr;
+}
+
+} // namespace
+
+QString PasswordMask::maskWhole(const QString &text, const QRegularExpression &expression,
+                                QChar mask)
+{
+    QString masked = text;
+    const QRegularExpression whole(QRegularExpression::anchoredPattern(expression.pattern()),
+                                   expression.patternOptions());
+    maskCaptures(masked, whole.match(text), mask);
+    return masked;
+}
+
+QString PasswordMask::maskAll(const QString &text, const QRegularExpression &expression, QChar mask)
+{
+    QString masked = text;
+    auto matches = expression.globalMatch(text);
+    while (matches.hasNext())
+        maskCaptures(masked, matches.next(), mask);
+    return masked;
+}
+
+PasswordMask::Edit PasswordMask::difference(const QString &before, const QString &after,
+                                            qsizetype cursor)
+{
+    // Mask characters all look the same, so the cursor has the first say where the edit was.
+    const qsizetype shorter = std::min(before.size(), after.size());
+    const qsizetype mostBehind = std::min(shorter, after.size() - std::min(cursor, after.size()));
+    qsizetype behind = 0;
+    while (behind < mostBehind &&
+           before.at(before.size() - 1 - behind) == after.at(after.size() - 1 - behind))
+        ++behind;
+    qsizetype start = 0;
+    while (start < shorter - behind && before.at(start) == after.at(start))
+        ++start;
+    return {start, before.size() - behind - start, after.mid(start, after.size() - behind - start)};
+}
+
+qsizetype PasswordMask::wholeCharacter(const QString &text, qsizetype position)
+{
+    const bool inside = position > 0 && position < text.size() &&
+                        text.at(position - 1).isHighSurrogate() &&
+                        text.at(position).isLowSurrogate();
+    return inside ? position + 1 : position;
+}
+
+bool PasswordMask::movesCursor(const QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::SelectAll) || event->matches(QKeySequence::Deselect))
+        return true;
+    for (int key = QKeySequence::MoveToNextChar; key <= QKeySequence::SelectEndOfDocument; ++key) {
+        if (event->matches(QKeySequence::StandardKey(key)))
+            return true;
+    }
+    return false;
+}
+
+void PasswordMask::hideFromAccessibility()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(mute);
+        return true;
+    }();
+    Q_UNUSED(installed);
+}

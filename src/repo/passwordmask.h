@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QRegularExpression>
+#include <QString>
+
+class QKeyEvent;
+
+// What the two masked fields share. Each shows a copy of the text of a real editor that nobody
+// sees, and this is about the copy. Lengths never change, so a position is the same in both.
+namespace PasswordMask {
+
+// The text with every non-empty capture replaced by mask characters: of one match of the whole
+// text, or of all matches in it.
+QString maskWhole(const QString &text, const QRegularExpression &expression, QChar mask);
+QString maskAll(const QString &text, const QRegularExpression &expression, QChar mask);
+
+// How one text became another by one edit after which the cursor stood at `cursor`.
+struct Edit
+{
+    qsizetype position;
+    qsizetype removed;
+    QString inserted;
+};
+Edit difference(const QString &before, const QString &after, qsizetype cursor);
+
+// The position, or the next one when it lies between the two halves of one character.
+qsizetype wholeCharacter(const QString &text, qsizetype position);
+
+// Whether the key only moves the cursor or changes the selection.
+bool movesCursor(const QKeyEvent *event);
+
+// Keeps the real editors, which are children of a window like any other widget, from telling
+// assistive technology what they hold.
+void hideFromAccessibility();
+
+} // namespace PasswordMask
