@@ -6,6 +6,7 @@
 #include <QSocketNotifier>
 #include <QThread>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <fcntl.h>
@@ -25,6 +26,20 @@ void writeMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     const QByteArray line = text.toLocal8Bit() + '\n';
     [[maybe_unused]] const auto written = ::write(messageFd, line.constData(), size_t(line.size()));
+}
+
+// How many bytes at the end begin a UTF-8 character that is not complete. A stateful decoder would
+// do, but Qt's loses the byte behind a character that is cut off between two reads.
+qsizetype unfinished(const QByteArray &bytes)
+{
+    for (qsizetype length = 1; length <= std::min<qsizetype>(3, bytes.size()); ++length) {
+        const auto byte = static_cast<unsigned char>(bytes[bytes.size() - length]);
+        if ((byte & 0xc0) == 0x80)
+            continue;
+        const qsizetype needed = byte >= 0xf0 ? 4 : byte >= 0xe0 ? 3 : byte >= 0xc0 ? 2 : 1;
+        return needed > length ? length : 0;
+    }
+    return 0;
 }
 
 void closeFd(int &fd)
@@ -121,7 +136,10 @@ void YumIOCapturersMinion::read(Stream &stream, qsizetype limit)
             stream.notifier->setEnabled(false);
         if (count <= 0)
             return;
-        (m_engine.data()->*stream.write)(stream.decoder(QByteArrayView(buffer.data(), count)));
+        stream.begun.append(buffer.data(), count);
+        const qsizetype complete = stream.begun.size() - unfinished(stream.begun);
+        (m_engine.data()->*stream.write)(QString::fromUtf8(stream.begun.constData(), complete));
+        stream.begun.remove(0, complete);
         limit -= count;
     }
 }
@@ -132,11 +150,9 @@ void YumIOCapturersMinion::drain(Stream &stream)
 {
     const int size = ::fcntl(stream.fd, F_GETPIPE_SZ);
     read(stream, size > 0 ? size : defaultPipeSize);
-    // A line feed makes the decoder give up on a character that was never finished.
-    QString rest = stream.decoder(QByteArrayView("\n", 1));
-    rest.chop(1);
-    if (!rest.isEmpty())
-        (m_engine.data()->*stream.write)(rest);
+    if (!stream.begun.isEmpty())
+        (m_engine.data()->*stream.write)(QString::fromUtf8(stream.begun));
+    stream.begun.clear();
 }
 
 YumIOCapturers::YumIOCapturers(YumIO *engine) : m_engine(engine)

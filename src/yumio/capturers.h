@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QSemaphore>
-#include <QStringDecoder>
 
 class QSocketNotifier;
 class YumIO;
@@ -36,7 +36,7 @@ private:
         int fd;
         void (YumIO::*write)(const QString &text);
         QSocketNotifier *notifier = nullptr;
-        QStringDecoder decoder{QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom};
+        QByteArray begun = {}; // the bytes of a character that the next read completes
     };
 
     void read(Stream &stream, qsizetype limit);

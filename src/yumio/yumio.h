@@ -212,9 +212,26 @@ private:
     void clearEntriesReal();
     void releaseEntries(bool withInterpreter);
     bool createYumIO();
+    bool runScript();
+    bool lookUpExceptionTypes();
+    bool failInitialize(const QString &message);
+    void publishEntries();
+    bool probe(bool &known, bool &answer, const char *method);
 
     // collect.cpp
     bool collectReal(const QHash<QString, bool> &reposUsed);
+    bool takeLock();
+    bool readRepositories(const QHash<QString, bool> &reposUsed);
+    PyObject *bracketed(const char *method, const QString &what, bool &reported);
+    PyObject *bracketedOrError(const char *method, const QString &what);
+    bool collectPackages();
+    bool collectRows(const QString &what);
+    bool collectAllGroups();
+    void foldPackage(EntryHash &hash, const QString &name, const QString &arch,
+                     const QString &family, Package::State state, PyObject *po,
+                     const std::function<void(Package::Entry *&)> &create);
+    Package::Entry *&findSlot(EntryHash &hash, const QString &name, const QString &arch,
+                              const QString &family);
     bool useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed);
     QStringList collectRepos(PyObject *reposDict);
     bool collectField(EntryHash &hash, PyObject *all, const char *field, Package::State state);
@@ -232,7 +249,17 @@ private:
     QString getBiArch(const QString &arch);
     Package::Kind getPkgKind(PyObject *po);
 
-    // details.cpp and convert.cpp
+    // details.cpp, groupdetails.cpp and convert.cpp
+    bool collectExtraReal(const QString &heading, const QString &total, const char *method,
+                          const QString &what);
+    QString packageString(const Package::Entry &entry, const char *key);
+    QStringList installedRelations(PyObject *po, const QByteArray &tag);
+    QStringList availableRelations(PyObject *po, const char *key);
+    QString relationText(PyObject *relation);
+    QStringList groupNames(const Package::Entry &entry, const char *oldAttribute,
+                           const char *newAttribute);
+    QStringList textsOf(PyObject *iterable);
+    bool readSize(PyObject *obj, quint64 &size);
     bool collectFileListsReal();
     bool collectOtherDataReal();
     QString pyString(PyObject *obj);

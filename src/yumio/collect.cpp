@@ -1,0 +1,397 @@
+// Gathers the rows: updates first, then installed and available packages, then groups.
+
+#include "python/pyref.h"
+
+#include "capturers.h"
+#include "dialogs.h"
+#include "formats.h"
+#include "progress/progress.h"
+#include "yumio.h"
+
+namespace {
+
+constexpr Steps totalUnits = 24000;
+constexpr Steps preparingUnits = 100;
+constexpr Steps readingUnits = 900;
+constexpr Steps repositoryUnits = 14000;
+constexpr Steps packageUnits = 4000; // of each of the two package items
+constexpr Steps groupUnits = 1000;
+constexpr Steps actsPerRepo = 6;
+
+} // namespace
+
+bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
+{
+    m_blocker.block();
+    const Progress::User progressUser(m_progress, m_totalBar, m_itemBar);
+    const YumIODialogsUser dialogsUser(m_dialogs, m_parent);
+    log(Log::Kind::Action, 0, tr("Initialization"));
+    const PyGILStateWrapper lock(true);
+    m_listingShown = false;
+    m_pendingText.clear();
+
+    m_progress->startTotal(tr("Initializing: Total Progress"), totalUnits);
+    m_progress->startItem(tr("Preparing"), preparingUnits, 1);
+    const bool collected = m_yumIO && takeLock() && readRepositories(reposUsed) &&
+                           collectPackages() && collectAllGroups();
+    if (!collected)
+        m_progress->reset();
+    return collected;
+}
+
+bool YumIO::takeLock()
+{
+    if (m_locked)
+        return true;
+    pyExceptStart();
+    pyExceptExpect(m_exceptionTypes[LockError]);
+    const PyRef result(pyMethodCall(m_yumIO, "lock", "()"));
+    const bool refused = pyExceptMatches(result.get(), m_exceptionTypes[LockError]);
+    if (refused)
+        pythonExceptionV(tr("Unable to obtain yum lock"));
+    pyExceptClear();
+    if (!result)
+        return false;
+    m_locked = true;
+    reportInterrupted();
+    return true;
+}
+
+bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed)
+{
+    const PyRef repos(PyObject_GetAttrString(m_yumIO, "repos"));
+    const PyRef dict(repos ? PyObject_GetAttrString(repos.get(), "repos") : nullptr);
+    if (!dict) {
+        PyErr_Clear();
+        error(tr("Internal error: yumIO.repos.repos not evaluable"));
+        return false;
+    }
+    if (!PyDict_Check(dict.get())) {
+        error(tr("Internal error: yumIO.repos.repos not a dictionary"));
+        return false;
+    }
+    useRepos(repos.get(), reposUsed);
+    m_enabledRepos = collectRepos(dict.get());
+    resetCollectMeters();
+    if (PyDict_Size(dict.get()) == 0) {
+        error(tr("No repositories are configured.\nUnder the Repositories menu, Edit Configuration "
+                 "can be used to configure repositories."));
+        return false;
+    }
+    if (m_enabledRepos.isEmpty()) {
+        error(tr("No repositories are enabled.\nUnder the Repositories menu, Edit Configuration "
+                 "can be used to configure repositories."));
+        return false;
+    }
+
+    m_progress->startItem(tr("Reading repositories"), readingUnits, 1);
+    m_progress->setupItemActs(repositoryUnits, actsPerRepo * Steps(m_enabledRepos.size()));
+    pyExceptStart();
+    pyExceptExpect(m_exceptionTypes[RepoError]);
+    pyExceptExpect(m_exceptionTypes[BdbQuit]);
+    const PyRef result(pyMethodCall(m_yumIO, "setupRepos", "()"));
+    if (pyExceptMatches(result.get(), m_exceptionTypes[RepoError]) ||
+        pyExceptMatches(result.get(), m_exceptionTypes[BdbQuit]))
+        pythonExceptionV(tr("Unable to initialize"));
+    pyExceptClear();
+    if (!result)
+        return false;
+    m_progress->endItemActs();
+    m_basearch = getYumVar(QStringLiteral("basearch"));
+    return true;
+}
+
+bool YumIO::useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed)
+{
+    const PyRef dict(PyObject_GetAttrString(repos, "repos"));
+    if (!dict) {
+        PyErr_Clear();
+        return false;
+    }
+    for (auto it = reposUsed.cbegin(); it != reposUsed.cend(); ++it) {
+        const QByteArray id = it.key().toUtf8();
+        if (!PyDict_GetItemString(dict.get(), id.constData()))
+            continue;
+        pyExceptStart();
+        pyExceptExpect(m_exceptionTypes[RepoError]);
+        const PyRef result(
+            pyMethodCall(repos, it.value() ? "enableRepo" : "disableRepo", "(s)", id.constData()));
+        if (pyExceptMatches(result.get(), m_exceptionTypes[RepoError])) {
+            warning(tr("unable to setup repository %1:\n%2").arg(it.key(), exceptionText()));
+        }
+        pyExceptClear();
+    }
+    return true;
+}
+
+QStringList YumIO::collectRepos(PyObject *reposDict)
+{
+    QStringList enabled;
+    PyObject *id, *repo;
+    for (Py_ssize_t position = 0; PyDict_Next(reposDict, &position, &id, &repo);) {
+        const PyRef flag(PyObject_GetAttrString(repo, "enabled"));
+        if (flag && PyLong_Check(flag.get()) && PyLong_AsLong(flag.get()) != 0)
+            enabled.append(pyString(id));
+        PyErr_Clear();
+    }
+    return enabled;
+}
+
+// Calls a script method whose communication failures are reported as "Unable to `what`". Null with
+// `reported` set after such a report.
+PyObject *YumIO::bracketed(const char *method, const QString &what, bool &reported)
+{
+    pyExceptStart();
+    commExceptSetup();
+    PyObject *result = pyMethodCall(m_yumIO, method, "()");
+    reported = commExceptRaised(result, what);
+    pyExceptClear();
+    return result;
+}
+
+PyObject *YumIO::bracketedOrError(const char *method, const QString &what)
+{
+    bool reported = false;
+    PyObject *result = bracketed(method, what, reported);
+    if (!result && !reported)
+        error(tr("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(method)));
+    return result;
+}
+
+bool YumIO::collectPackages()
+{
+    const QString updatesText = tr("collect updatable packages");
+    m_progress->startItem(tr("Collecting updatable packages"), packageUnits, packageUnits);
+    bool reported = false;
+    const PyRef ready(bracketed("setupTs", tr("setup transaction"), reported));
+    if (!ready)
+        return false;
+    if (PyObject_HasAttrString(m_yumIO, "collectRows"))
+        return collectRows(updatesText);
+    {
+        const YumIOCapturersUser capture(m_capturers, this);
+        const PyRef updates(bracketedOrError("collectUpdates", updatesText));
+        if (!updates || !collectSet(m_byKey, updates.get(), Package::State::Updatable))
+            return false;
+    }
+
+    m_progress->startItem(tr("Collecting installed and available packages"), packageUnits,
+                          packageUnits);
+    const PyRef all(bracketedOrError("collectAll", tr("collect installed and available packages")));
+    return all && collectField(m_byKey, all.get(), "installed", Package::State::Installed) &&
+           collectField(m_byKey, all.get(), "available", Package::State::Installable);
+}
+
+bool YumIO::collectField(EntryHash &hash, PyObject *all, const char *field, Package::State state)
+{
+    const PyRef set(PyObject_GetAttrString(all, field));
+    if (!set) {
+        PyErr_Clear();
+        error(tr("Internal error: yumIO.collectAll.%1 not found").arg(QLatin1String(field)));
+        return false;
+    }
+    return collectSet(hash, set.get(), state);
+}
+
+bool YumIO::collectSet(EntryHash &hash, PyObject *iterable, Package::State state)
+{
+    const PyRef iterator(PyObject_GetIter(iterable));
+    if (!iterator) {
+        handleException();
+        return false;
+    }
+    while (const PyRef po{PyIter_Next(iterator.get())}) {
+        const PyRef name(PyObject_GetAttrString(po.get(), "name"));
+        const PyRef arch(PyObject_GetAttrString(po.get(), "arch"));
+        if (!name || !arch) {
+            handleException();
+            return false;
+        }
+        const QString nameText = pyString(name.get());
+        const QString archText = pyString(arch.get());
+        const QString family = getBiArch(archText);
+        const auto create = [&](Package::Entry *&slot) { collectPkg(slot, state, po.get()); };
+        foldPackage(hash, nameText, archText, family, state, po.get(), create);
+    }
+    if (PyErr_Occurred()) {
+        handleException();
+        return false;
+    }
+    return true;
+}
+
+// Puts a package into its row: a new row, the end of an installed chain, or nowhere when a better
+// version of it already stands there. `create` makes the entry in the place that it is given.
+void YumIO::foldPackage(EntryHash &hash, const QString &name, const QString &arch,
+                        const QString &family, Package::State state, PyObject *po,
+                        const std::function<void(Package::Entry *&)> &create)
+{
+    m_archFamilies.insert(family);
+    Package::Entry *&slot = findSlot(hash, name, arch, family);
+    if (slot) {
+        if (state != Package::State::Installed)
+            return;
+        Package::Entry *last = slot;
+        while (last->next)
+            last = last->next;
+        create(last->next);
+        return;
+    }
+    create(slot);
+    Package::Entry *&best = m_best[name];
+    if (!best) {
+        best = slot;
+        return;
+    }
+    const PyRef oldIsBetter(pyMethodCall(m_yumIO, "isBetterThan", "(O,O)", best->po, po));
+    if (oldIsBetter.get() == Py_True) {
+        slot->duplicate = true;
+    } else {
+        best->duplicate = true;
+        best = slot;
+    }
+}
+
+Package::Entry *&YumIO::findSlot(EntryHash &hash, const QString &name, const QString &arch,
+                                 const QString &family)
+{
+    const EntryKey key(false, name, family);
+    const auto found = hash.find(key);
+    if (found != hash.end())
+        return *found;
+    // A package that was noarch and is now for an architecture; never the other way round.
+    const QString noarch = QStringLiteral("noarch");
+    if (arch != noarch && family != noarch) {
+        const auto general = hash.find(EntryKey(false, name, noarch));
+        if (general != hash.end())
+            return *general;
+    }
+    return hash[key];
+}
+
+Package::Entry *&YumIO::findUpdateablePackage(const QString &name, const QString &arch)
+{
+    return findSlot(m_byKey, name, arch, getBiArch(arch));
+}
+
+bool YumIO::collectPkg(Package::Entry *&slot, Package::State state, PyObject *po)
+{
+    auto *entry = new Package::Entry;
+    entry->state = state;
+    entry->kind = getPkgKind(po);
+    const PyRef name(PyObject_GetAttrString(po, "name"));
+    const PyRef arch(PyObject_GetAttrString(po, "arch"));
+    entry->name = pyString(name.get());
+    entry->verRel = pyStringDec(pyMethodCall(po, "printVer", "()"));
+    entry->repo = simpleString(po, "repoid");
+    entry->arch = pyString(arch.get());
+    entry->biArch = getBiArch(entry->arch);
+    entry->size = qint64(sizeOf(po));
+    entry->sizeText = bytesFormat(quint64(entry->size));
+    entry->summary = simpleString(po, "summary");
+    entry->buildTime = buildTimeOf(po);
+    entry->buildTimeText = QString::fromLocal8Bit(timeFormat(entry->buildTime));
+    entry->po = Py_NewRef(po);
+    slot = entry;
+    return true;
+}
+
+// The whole collection of packages from one call of the script, for speed. The rows are those that
+// the single calls would give.
+bool YumIO::collectRows(const QString &what)
+{
+    PyRef rows;
+    {
+        const YumIOCapturersUser capture(m_capturers, this);
+        rows = PyRef(bracketedOrError("collectRows", what));
+    }
+    if (!rows)
+        return false;
+    const PyRef list(PySequence_Fast(rows.get(), "collectRows must return a sequence"));
+    if (!list) {
+        handleException();
+        return false;
+    }
+
+    QSet<QString> texts; // few distinct ones, shared by all rows
+    const auto shared = [&](PyObject *text) { return *texts.insert(pyString(text)); };
+    const Py_ssize_t count = PySequence_Fast_GET_SIZE(list.get());
+    m_byKey.reserve(count);
+    m_best.reserve(count);
+    bool updatesDone = false;
+    for (Py_ssize_t i = 0; i < count; ++i) {
+        PyObject *po, *name, *verRel, *repo, *arch, *family, *summary;
+        int state, isSuite;
+        unsigned long long size;
+        long long buildTime;
+        if (!PyArg_ParseTuple(PySequence_Fast_GET_ITEM(list.get(), i), "OiOOOOOKOLp", &po, &state,
+                              &name, &verRel, &repo, &arch, &family, &size, &summary, &buildTime,
+                              &isSuite)) {
+            handleException();
+            return false;
+        }
+        const auto rowState = static_cast<Package::State>(state);
+        if (rowState != Package::State::Updatable && !updatesDone) {
+            updatesDone = true;
+            m_progress->startItem(tr("Collecting installed and available packages"), packageUnits,
+                                  packageUnits);
+        }
+        m_progress->setItemValue(Steps(i) * packageUnits / Steps(count));
+        const QString nameText = pyString(name);
+        const QString archText = shared(arch);
+        const QString familyText = shared(family);
+        const auto create = [&](Package::Entry *&slot) {
+            auto *entry = new Package::Entry;
+            entry->state = rowState;
+            entry->kind = isSuite ? Package::Kind::Suite : Package::Kind::Package;
+            entry->name = nameText;
+            entry->verRel = pyString(verRel);
+            entry->repo = shared(repo);
+            entry->arch = archText;
+            entry->biArch = familyText;
+            entry->size = qint64(size);
+            entry->sizeText = bytesFormat(size);
+            entry->summary = pyString(summary);
+            entry->buildTime = buildTime;
+            entry->buildTimeText = QString::fromLocal8Bit(timeFormat(buildTime));
+            entry->po = Py_NewRef(po);
+            slot = entry;
+        };
+        foldPackage(m_byKey, nameText, archText, familyText, rowState, po, create);
+    }
+    return true;
+}
+
+QString YumIO::getBiArch(const QString &arch)
+{
+    return pyStringDec(pyMethodCall(m_yumIO, "getBiArch", "(s)", arch.toUtf8().constData()));
+}
+
+Package::Kind YumIO::getPkgKind(PyObject *po)
+{
+    return simpleString(po, "group") == QLatin1String("Suite") ? Package::Kind::Suite
+                                                               : Package::Kind::Package;
+}
+
+Package::Entry *YumIO::findPackage(const QString &name)
+{
+    return findPackage(name, nullptr);
+}
+
+Package::Entry *YumIO::findPackage(const QString &name, EntryPredicate predicate)
+{
+    const auto candidate = [&](const QString &family) -> Package::Entry * {
+        Package::Entry *entry = m_byKey.value(EntryKey(false, name, family));
+        return entry && (!predicate || (this->*predicate)(entry)) ? entry : nullptr;
+    };
+    const QString base = getBiArch(m_basearch);
+    if (Package::Entry *entry = candidate(base))
+        return entry;
+    for (const QString &family : std::as_const(m_archFamilies)) {
+        if (family == m_basearch)
+            continue;
+        if (Package::Entry *entry = candidate(family))
+            return entry;
+    }
+    return nullptr;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+// A package designation of the form epoch:name-version-release.arch, split from the right.
+struct Envra
+{
+    QString name;
+    QString epoch; // empty when there is none
+    QString version;
+    QString release;
+    QString arch;
+
+    // False when the text has not that form.
+    bool parse(const QString &text);
+};

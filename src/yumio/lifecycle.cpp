@@ -1,0 +1,303 @@
+// The engine's life: starting the script, running jobs on a worker, clearing, ending.
+
+#include "python/pyref.h"
+
+#include "app/programname.h"
+#include "app/share.h"
+#include "dialogs.h"
+#include "threads.h"
+#include "yumio.h"
+#include "yumioc.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QThread>
+#include <QTimer>
+
+#include <csignal>
+#include <pthread.h>
+
+void YumIO::Blocker::block()
+{
+    m_mutex.lock();
+    m_mutex.unlock();
+}
+
+YumIO::EntryKey::EntryKey(bool isGroup_, QString name_, QString arch_)
+    : isGroup(isGroup_), name(std::move(name_)), arch(std::move(arch_))
+{
+}
+
+size_t qHash(const YumIO::EntryKey &key, size_t)
+{
+    return (quint32(qHash(key.name, 0)) << 1) + (quint32(qHash(key.arch, 0)) << 2) +
+           quint32(key.isGroup);
+}
+
+YumIO::ThreadId::operator long() const
+{
+    return long(quint32(qHash(text, 0)) + quint32(act));
+}
+
+YumIO::YumIO() = default;
+
+YumIO::~YumIO()
+{
+    if (isInitialized()) {
+        const PyGILStateWrapper lock(true);
+        py("import sys\nsys.stdout = sys.__stdout__\nsys.stderr = sys.__stderr__\n");
+        if (m_locked && m_yumIO) {
+            pyExceptStart();
+            pyExceptExpect(m_exceptionTypes[LockError]);
+            const PyRef result(pyMethodCall(m_yumIO, "unlock", "()"));
+            if (pyExceptMatches(result.get(), m_exceptionTypes[LockError]))
+                pythonExceptionV(tr("Unable to release yum lock"));
+            pyExceptClear();
+        }
+        releaseEntries(true);
+        Py_CLEAR(m_yumIO);
+        Py_CLEAR(m_yumIOClass);
+        YumIOC::initialize(nullptr);
+        PyErr_Clear();
+    }
+    delete m_dialogs;
+}
+
+void YumIO::setup(QWidget *parent, HProgressBar *totalBar, HProgressBar *itemBar)
+{
+    m_parent = parent;
+    m_totalBar = totalBar;
+    m_itemBar = itemBar;
+    m_dialogs = new YumIODialogs(parent);
+}
+
+// Reports why the session could not start: the interpreter's own reason first.
+bool YumIO::failInitialize(const QString &message)
+{
+    QString cause;
+    if (PyErr_Occurred()) {
+        cause = exceptionText();
+        handleException();
+        PyErr_Clear();
+    }
+    error(cause.isEmpty() ? message : message + QStringLiteral(":\n") + cause);
+    return false;
+}
+
+bool YumIO::initialize()
+{
+    if (!Python::initialize())
+        return false;
+    const PyGILStateWrapper lock(true);
+    if (m_yumIO)
+        return true;
+    if (!YumIOC::initialize(this))
+        return failInitialize(tr("Internal error: cannot create python module yumIOC"));
+    const PyRef argv(Py_BuildValue("[ss]", programName().toUtf8().constData(), "info"));
+    PySys_SetObject("argv", argv.get());
+
+    setEnablePythonSIGINTHandler(false);
+    if (!runScript() || !createYumIO())
+        return false;
+    return lookUpExceptionTypes();
+}
+
+// Runs YumIO.py and takes what the engine needs from it.
+bool YumIO::runScript()
+{
+    const PyRef rpm(PyImport_ImportModule("rpm"));
+    if (!rpm)
+        return failInitialize(tr("Internal error: cannot find python rpm module"));
+    m_rpmDict = PyModule_GetDict(rpm.get()); // kept alive by sys.modules
+    if (!m_rpmDict)
+        return failInitialize(tr("Internal error: cannot find python rpm dict"));
+
+    QFile file(Share::absolute(QStringLiteral("python/YumIO.py")));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return failInitialize(tr("Internal error: unable to open YumIO.py") +
+                              QStringLiteral(":\n%1: %2").arg(file.fileName(), file.errorString()));
+    }
+    const QByteArray source = file.readAll();
+    file.close();
+    PyObject *main = PyModule_GetDict(PyImport_AddModule("__main__"));
+    const PyRef code(Py_CompileString(source.constData(), "YumIO.py", Py_file_input));
+    const PyRef done(code ? PyEval_EvalCode(code.get(), main, main) : nullptr);
+    if (!done)
+        return failInitialize(tr("Internal error: unable to execute YumIO.py"));
+
+    Py_XSETREF(m_yumIOClass, Py_XNewRef(PyDict_GetItemString(main, "YumIO")));
+    if (!m_yumIOClass)
+        return failInitialize(tr("Internal error: cannot find python YumIO"));
+    return true;
+}
+
+// Makes a fresh script object; reports a failure.
+bool YumIO::createYumIO()
+{
+    pyExceptStart();
+    pyExceptExpect(PyExc_SystemExit);
+    PyObject *object = PyObject_CallNoArgs(m_yumIOClass);
+    const bool refused = pyExceptMatches(object, PyExc_SystemExit);
+    if (refused)
+        pythonExceptionV(tr("Unable to initialize"));
+    else if (!object)
+        failInitialize(tr("Internal error: cannot create python yumIO"));
+    pyExceptClear();
+    Py_XSETREF(m_yumIO, object);
+    return object != nullptr;
+}
+
+bool YumIO::lookUpExceptionTypes()
+{
+    static constexpr struct
+    {
+        const char *name;
+        bool optional;
+    } types[ExceptionTypeCount] = {
+        {"bdb.BdbQuit", false},
+        {"yum.Errors.YumBaseError", false},
+        {"yum.Errors.RepoError", false},
+        {"sqlite3.OperationalError", true},
+        {"yum.Errors.LockError", false},
+        {"yum.Errors.GroupsError", false},
+        {"yum.Errors.NoMoreMirrorsRepoError", true},
+    };
+    for (int i = 0; i < ExceptionTypeCount; ++i)
+        m_exceptionTypes[i] = pyLookup(types[i].name, types[i].optional);
+    return true;
+}
+
+void YumIO::execWorkThread(QEventLoop &loop, QThread &thread)
+{
+    m_cancelled = false;
+    m_blocker.prepare();
+    const PyThreadStateWrapper unlocked;
+    thread.start(QThread::HighPriority);
+
+    sigset_t blocked, previous;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, SIGCHLD);
+    pthread_sigmask(SIG_BLOCK, &blocked, &previous);
+
+    QTimer::singleShot(0, this, &YumIO::blockerRelease);
+    loop.exec();
+    // An application that was told to quit ends every loop at once, but the job's questions still
+    // need one.
+    while (!thread.wait(20))
+        loop.processEvents(QEventLoop::AllEvents);
+    loop.processEvents(QEventLoop::ExcludeUserInputEvents);
+    {
+        const PyGILStateWrapper lock(true);
+        setEnablePythonSIGINTHandler(false);
+    }
+    pthread_sigmask(SIG_SETMASK, &previous, nullptr);
+    Q_EMIT jobState(QStringLiteral("done"), false);
+}
+
+void YumIO::blockerRelease()
+{
+    m_blocker.release();
+}
+
+bool YumIO::collect(const QHash<QString, bool> &reposUsed)
+{
+    m_fileListsLoaded = false;
+    m_otherDataLoaded = false;
+    QEventLoop loop;
+    CollectThread thread(this, loop, reposUsed);
+    execWorkThread(loop, thread);
+    if (thread.result())
+        publishEntries();
+    Q_EMIT collectedExtraData();
+    return thread.result();
+}
+
+bool YumIO::apply()
+{
+    QEventLoop loop;
+    ApplyThread thread(this, loop);
+    execWorkThread(loop, thread);
+    return thread.result();
+}
+
+void YumIO::clearEntries()
+{
+    m_clearing = true;
+    QEventLoop loop;
+    ClearEntriesThread thread(this, loop);
+    execWorkThread(loop, thread);
+    m_clearing = false;
+}
+
+void YumIO::clearEntriesReal()
+{
+    m_blocker.block();
+    const PyGILStateWrapper lock(true);
+    releaseEntries(true);
+}
+
+// Rows and what finds them. Heads that a failed collection gathered are only in the hash.
+void YumIO::releaseEntries(bool withInterpreter)
+{
+    for (Package::Entry *head : std::as_const(m_byKey)) {
+        for (Package::Entry *entry = head; entry; entry = entry->next) {
+            if (withInterpreter)
+                Py_XDECREF(entry->po);
+            entry->po = nullptr;
+        }
+    }
+    qDeleteAll(m_byKey);
+    m_entries.clear();
+    m_byKey.clear();
+    m_best.clear();
+    m_archFamilies.clear();
+}
+
+// Gives the collected rows to the table in one step, on the GUI thread.
+void YumIO::publishEntries()
+{
+    m_entries.clear();
+    m_entries.reserve(m_byKey.size());
+    for (Package::Entry *entry : std::as_const(m_byKey))
+        m_entries.append(entry);
+}
+
+void YumIO::clear()
+{
+    {
+        const PyGILStateWrapper lock(true);
+        if (m_yumIO)
+            const PyRef result(pyMethodCall(m_yumIO, "flush", "()"));
+    }
+    clearEntries();
+    const PyGILStateWrapper lock(true);
+    Py_CLEAR(m_yumIO);
+    if (m_yumIOClass)
+        createYumIO();
+}
+
+void YumIO::clearEntriesBeforeQuit()
+{
+    m_clearing = true;
+    releaseEntries(false);
+}
+
+QList<Package::Entry *>::const_iterator YumIO::begin() const
+{
+    return m_clearing ? m_noEntries.cbegin() : m_entries.cbegin();
+}
+
+QList<Package::Entry *>::const_iterator YumIO::end() const
+{
+    return m_clearing ? m_noEntries.cend() : m_entries.cend();
+}
+
+Package::Entry *YumIO::operator[](int row) const
+{
+    return m_clearing ? m_noEntries[row] : m_entries[row];
+}
+
+int YumIO::count() const
+{
+    return m_clearing ? 0 : int(m_entries.size());
+}

@@ -1,0 +1,27 @@
+#include "package.h"
+
+#include <cstdio>
+
+Package::Entry::~Entry()
+{
+    static bool warned = false;
+    if (po && !warned) {
+        warned = true;
+        std::fprintf(stderr,
+                     "Internal error: attempt to delete Package::Entry %p with extant python obj "
+                     "%p\n",
+                     static_cast<void *>(this), static_cast<void *>(po));
+    }
+    // Not recursive: a chain may be long.
+    while (next) {
+        Entry *follower = next;
+        next = follower->next;
+        follower->next = nullptr;
+        delete follower;
+    }
+}
+
+Package::EntryList::~EntryList()
+{
+    qDeleteAll(*this);
+}

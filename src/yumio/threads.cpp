@@ -1,0 +1,35 @@
+#include "threads.h"
+
+#include "yumio.h"
+
+void WorkThread::run()
+{
+    m_result = work();
+    m_loop.exit(0);
+}
+
+bool CollectThread::work()
+{
+    return m_engine->collectReal(m_reposUsed);
+}
+
+bool ClearEntriesThread::work()
+{
+    m_engine->clearEntriesReal();
+    return true;
+}
+
+bool CollectFileListsThread::work()
+{
+    return m_engine->collectFileListsReal();
+}
+
+bool CollectOtherDataThread::work()
+{
+    return m_engine->collectOtherDataReal();
+}
+
+bool ApplyThread::work()
+{
+    return m_engine->applyReal();
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QHash>
+#include <QString>
+#include <QThread>
+
+class YumIO;
+
+// The worker of one job: runs it and ends the event loop in which the GUI thread waits.
+class WorkThread : public QThread
+{
+public:
+    WorkThread(YumIO *engine, QEventLoop &loop) : m_engine(engine), m_loop(loop) {}
+    bool result() const { return m_result; }
+
+protected:
+    virtual bool work() = 0;
+    void run() override;
+
+    YumIO *m_engine;
+
+private:
+    QEventLoop &m_loop;
+    bool m_result = false;
+};
+
+class CollectThread : public WorkThread
+{
+public:
+    CollectThread(YumIO *engine, QEventLoop &loop, const QHash<QString, bool> &reposUsed)
+        : WorkThread(engine, loop), m_reposUsed(reposUsed)
+    {
+    }
+
+protected:
+    bool work() override;
+
+private:
+    const QHash<QString, bool> m_reposUsed;
+};
+
+class ClearEntriesThread : public WorkThread
+{
+public:
+    using WorkThread::WorkThread;
+
+protected:
+    bool work() override;
+};
+
+class CollectFileListsThread : public WorkThread
+{
+public:
+    using WorkThread::WorkThread;
+
+protected:
+    bool work() override;
+};
+
+class CollectOtherDataThread : public WorkThread
+{
+public:
+    using WorkThread::WorkThread;
+
+protected:
+    bool work() override;
+};
+
+class ApplyThread : public WorkThread
+{
+public:
+    using WorkThread::WorkThread;
+
+protected:
+    bool work() override;
+};
