@@ -31,6 +31,7 @@ MACROS = """%_topdir {top}
 %_invalid_encoding_terminates_build 0
 %debug_package %{{nil}}
 %__os_install_post %{{nil}}
+%__spec_install_pre %{{___build_pre}}
 %_buildhost build.aster.example
 %use_source_date_epoch_as_buildtime 1
 %source_date_epoch_from_changelog 1
@@ -115,7 +116,7 @@ def build(wanted):
         shutil.rmtree(wanted, ignore_errors=True)
         wanted.mkdir()
         # A short path: the key agent's socket lies in it.
-        with tempfile.TemporaryDirectory(prefix="vok-rpm-") as scratch:
+        with tempfile.TemporaryDirectory(prefix="vok-rpm-", dir=scratch_parent()) as scratch:
             workshop = Workshop(pathlib.Path(scratch), wanted)
             try:
                 workshop.make()
@@ -129,6 +130,18 @@ def build(wanted):
     for old in sorted(sets, key=lambda path: path.stat().st_mtime)[:-KEPT_SETS]:
         shutil.rmtree(old, ignore_errors=True)
     print(f"sandbox: built in {time.monotonic() - started:.1f} s", file=sys.stderr, flush=True)
+
+
+def scratch_parent():
+    """Memory where there is plenty, for tens of thousands of small files; else the usual place."""
+    memory = "/dev/shm"
+    try:
+        free = os.statvfs(memory)
+        if os.access(memory, os.W_OK) and free.f_bavail * free.f_frsize > 1 << 30:
+            return memory
+    except OSError:
+        pass
+    return None
 
 
 class Workshop:
@@ -185,17 +198,18 @@ class Workshop:
     def build_one(self, package):
         """Builds one package; returns the directory of its rpm files."""
         place = pathlib.Path(tempfile.mkdtemp(prefix=f"{package.name}-", dir=self.scratch / "tmp"))
+        # Filled before rpmbuild starts, which by the macros above does not empty it.
         content = place / "content"
         content.mkdir()
         lines = model.payload(package, str(content)) if not package.siblings else []
         spec = place / "package.spec"
-        spec.write_text(model.spec(package, content, lines), encoding=package.encoding)
+        spec.write_text(model.spec(package, lines), encoding=package.encoding)
         output = place / "rpms"
         target = [] if package.arch == "noarch" else ["--target", package.arch]
-        run(["rpmbuild", "-bb", "--quiet", *target, "--define", f"_topdir {place}",
+        run(["rpmbuild", "-bb", "--quiet", *target, "--buildroot", str(content),
+             "--define", f"_topdir {place}",
              "--define", f"_rpmdir {output}", "--define", "_build_name_fmt %%{NAME}-%%{VERSION}-"
              "%%{RELEASE}.%%{ARCH}.rpm", str(spec)], env=self.environment, cwd=place)
-        shutil.rmtree(content)
         return output
 
     def sign(self, table, places, pool):

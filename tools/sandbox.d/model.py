@@ -87,7 +87,8 @@ def payload(package, top):
         unit = f"{package.name}-{package.evr}" if package.side_by_side else package.name
         files = {f"/usr/{directory}/{unit}/module": f"{package.nevra}\n"}
     for number in range(package.many_files):
-        files[f"{own}/{number // 200:03}/file-{number:05}.txt"] = f"{number}\n"
+        # rpmbuild knows this ending and asks libmagic about none of these files: 10 s less.
+        files[f"{own}/{number // 200:03}/Module{number:05}.pm"] = f"{number}\n"
     files.update(package.files)
     lines = []
     for path, content in {**files, **package.configs}.items():
@@ -155,13 +156,13 @@ def siblings(package):
     return lines, copies
 
 
-def spec(package, top, payload_lines):
-    """The whole spec file; `top` is the directory that holds the payload."""
+def spec(package, payload_lines):
+    """The whole spec file, for a build root that holds the payload."""
     text = header(package)
     extra, copies = siblings(package)
     text += ["%description", escape(package.description or f"This is {package.name}, a package of "
                                     "the Aster system.\nIt holds a few small files."), ""]
-    text += ["%install", f"cp -a '{top}/.' %{{buildroot}}"] + copies
+    text += ["%install"] + copies
     for section, body in package.scripts.items():
         text += [f"%{section}", escape(body)]
     for section, body in package.triggers:
