@@ -14,8 +14,8 @@
 
 // Answers every dialog that is shown, as soon as the event loop comes round, by pressing the button
 // whose text is next in the list; the first button when the list is used up. Keeps what was shown.
-// Dialogs with the title `probeTitle` only serve to look at the program: the result of `observe` is
-// kept, and they are counted nowhere else.
+// Dialogs whose text holds `probeText` only serve to look at the program: the result of `observe`
+// is kept, and they are counted nowhere else.
 class Answers : public QObject
 {
 public:
@@ -49,7 +49,7 @@ public:
 
     QStringList answers;
     QList<Shown> shown;
-    QString probeTitle;
+    QString probeText;
     std::function<QString()> observe;
     QStringList observed;
 
@@ -66,16 +66,16 @@ protected:
 private:
     void answer(QDialog *dialog)
     {
-        if (observe && dialog->windowTitle() == probeTitle) {
-            observed.append(observe());
-            dialog->findChild<QPushButton *>()->click();
-            return;
-        }
         Shown record{dialog->windowTitle(), QString(), {}};
         if (auto *box = qobject_cast<QMessageBox *>(dialog))
             record.text = box->text();
         else if (auto *edit = dialog->findChild<QPlainTextEdit *>())
             record.text = edit->toPlainText();
+        if (observe && record.text.contains(probeText)) {
+            observed.append(observe());
+            dialog->findChild<QPushButton *>()->click();
+            return;
+        }
         const QString wanted = answers.isEmpty() ? QString() : answers.takeFirst();
         QPushButton *pressed = nullptr;
         for (QPushButton *button : dialog->findChildren<QPushButton *>()) {

@@ -27,7 +27,7 @@ public:
     {
         m_file.resize(0);
         m_file.seek(0);
-        m_file.write("def probe():\n    yumIOC.keyQuestion('', '', '', '')\n\n");
+        m_file.write("def probe():\n    yumIOC.lockWait(0, 'probe')\n\n");
         m_file.write(source.toUtf8());
         m_file.flush();
     }
@@ -81,7 +81,7 @@ public:
         if (!mark(marks))
             return false;
         write(source);
-        answers.probeTitle = QStringLiteral("VOK Key Import");
+        answers.probeText = QStringLiteral("probe (process 0)");
         answers.observe = [this] {
             return QStringLiteral("%1/%2 %3 %4")
                 .arg(totalBar.value())

@@ -1,5 +1,6 @@
 #include "enginecase.h"
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -175,7 +176,6 @@ yumIOC.userconfirm()
 yumIOC.log(9, 'key %r' % key)
 )"),
                      answers);
-        // The case's own probe has the same title; here nobody observes.
         QVERIFY(m_case.logged().contains(s("0/9 key %1").arg(answer)));
         const QString question = answers.texts().value(0);
         for (const char *part : {"ABCD", "Ann <a@b>", "01 02", "file:///k"})

@@ -179,11 +179,15 @@ private Q_SLOTS:
             const QByteArray character = QStringLiteral("\u20ac").toUtf8();
             for (const char byte : character)
                 writeAll(1, QByteArrayView(&byte, 1)), writeAll(2, "mark\n"), waitForErrors(engine);
-            writeAll(1, QByteArray("\n\xff\xfe bad\nzero\0end\n", 17));
+            writeAll(1, "\n\xe2\x82"); // cut off, and the line goes on
+            writeAll(2, "mark\n");
+            waitForErrors(engine);
+            writeAll(1, QByteArray("X\n\xff\xfe bad\nzero\0end\n", 18));
             writeAll(1, "\xe2\x82"); // never finished
         });
         QCOMPARE(texts(engine, Log::Kind::Ok),
-                 QStringList({QStringLiteral("\u20ac"), QStringLiteral("\ufffd\ufffd bad"),
+                 QStringList({QStringLiteral("\u20ac"), QStringLiteral("\ufffdX"),
+                              QStringLiteral("\ufffd\ufffd bad"),
                               QStringLiteral("zero") + QChar(0) + QStringLiteral("end"),
                               QStringLiteral("\ufffd")}));
     }
