@@ -5,6 +5,8 @@
 
 #include <QStringEncoder>
 
+#include <algorithm>
+
 namespace PackageTable {
 
 using Package::Entry;
@@ -132,8 +134,12 @@ void SortFilterProxyModel::clearCache()
 
 void SortFilterProxyModel::sourceAboutToBeReset()
 {
+    if (m_rankedColumn == ActionColumn)
+        m_rankedColumn = -1;
     if (m_sourcePackageModel->isRediscovering())
-        return; // the rows are the same, and so are the verdicts
+        return; // the rows are the same, and so are verdicts and order
+    m_rankedColumn = -1;
+    m_nameRanks.clear();
     clearCache();
     judgeAll();
 }
@@ -253,24 +259,72 @@ bool SortFilterProxyModel::matches(const char *text) const
     return m_regexStatus != 0 || regexec(&m_regex, text, 0, nullptr, 0) == 0;
 }
 
+// A sort of many rows compares each of them many times, so the order of a column is worked out once
+// and the comparisons are of numbers.
 bool SortFilterProxyModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
 {
-    const Entry *a = left.isValid() ? entryAt(left.row()) : nullptr;
-    const Entry *b = right.isValid() ? entryAt(right.row()) : nullptr;
-    if (!a || !b)
+    if (!left.isValid() || !right.isValid())
         return false;
     const int column = left.column();
-    if (Model::isNumberColumn(column)) {
-        const int numberA = Model::sortNumber(*a, column);
-        const int numberB = Model::sortNumber(*b, column);
-        if (numberA != numberB)
-            return numberA < numberB;
-    } else if (column != NameColumn) {
-        const int order = Model::text(*a, column).compare(Model::text(*b, column));
-        if (order != 0)
-            return order < 0;
+    if (m_rankedColumn != column || m_ranks.size() != size_t(m_yumIO->count())) {
+        m_ranks = ranks(column);
+        m_rankedColumn = column;
     }
-    return a->name < b->name;
+    const size_t count = m_ranks.size();
+    if (size_t(left.row()) >= count || size_t(right.row()) >= count)
+        return false;
+    return m_ranks[left.row()] < m_ranks[right.row()];
+}
+
+void SortFilterProxyModel::sort(int column, Qt::SortOrder order)
+{
+    if (column == ActionColumn)
+        m_rankedColumn = -1; // actions change at any time
+    HSortFilterProxyModel::sort(column, order);
+}
+
+// For each row its place in the ascending order of a column, ties broken by the name; rows that are
+// equal in both share a place.
+std::vector<int> SortFilterProxyModel::ranks(int column) const
+{
+    const size_t count = size_t(m_yumIO->count());
+    if (column != NameColumn && m_nameRanks.size() != count)
+        m_nameRanks = ranks(NameColumn);
+
+    struct Key
+    {
+        int number;
+        QString text;
+        int nameRank;
+        int row;
+        bool operator<(const Key &other) const
+        {
+            if (number != other.number)
+                return number < other.number;
+            if (const int order = QStringView(text).compare(other.text); order != 0)
+                return order < 0;
+            return nameRank < other.nameRank;
+        }
+    };
+    const bool byNumber = Model::isNumberColumn(column);
+    std::vector<Key> keys;
+    keys.reserve(count);
+    for (size_t row = 0; row < count; ++row) {
+        const Entry &entry = *(*m_yumIO)[int(row)];
+        keys.push_back({byNumber ? Model::sortNumber(entry, column) : 0,
+                        byNumber ? QString() : Model::text(entry, column),
+                        column == NameColumn ? 0 : m_nameRanks[row], int(row)});
+    }
+    std::sort(keys.begin(), keys.end());
+
+    std::vector<int> places(count);
+    int place = 0;
+    for (size_t i = 0; i < count; ++i) {
+        if (i > 0 && keys[i - 1] < keys[i])
+            ++place;
+        places[keys[i].row] = place;
+    }
+    return places;
 }
 
 void SortFilterProxyModel::setUpdateListed()

@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QHash>
 
+#include <vector>
+
 #include <regex.h>
 
 class YumIO;
@@ -41,6 +43,7 @@ public:
 
     // Sets Update on every listed entry that is out of date.
     void setUpdateListed();
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
     // True when the expression is found in the text, and when there is no expression.
     bool matches(const QString &text) const;
 
@@ -62,6 +65,7 @@ private:
     bool matches(const char *text) const;
     void sourceAboutToBeReset();
     void judgeAll();
+    std::vector<int> ranks(int column) const;
 
     Mode m_mode = Mode::Filter;
     bool m_filter = true;
@@ -75,6 +79,9 @@ private:
     int m_regexStatus = -1; // 0: m_regex holds the compiled expression
     regex_t m_regex;
     mutable QByteArray m_rowText;
+    mutable int m_rankedColumn = -1; // the column of m_ranks
+    mutable std::vector<int> m_ranks;
+    mutable std::vector<int> m_nameRanks;
 };
 
 } // namespace PackageTable
