@@ -39,7 +39,7 @@ def read_main():
     try:
         with open(opened, "rb"):
             pass
-        conf.read(opened)
+        conf.read(opened, _SET_BY_FILE)
     except OSError as error:
         raise SystemExit("Unable to read the main configuration file %s: %s"
                          % (opened, error.strerror)) from error

@@ -110,7 +110,9 @@ class RepositoryCallbacks(libdnf.repo.RepoCB):
 
     def handleMirrorFailure(self, msg, url, metadata):
         try:
-            text = report.clean("%s (%s)" % (msg, url))
+            if self.cancelled:
+                return 0
+            text = report.clean(msg if url in msg else "%s (%s)" % (msg, url))
             if text not in self.failures:
                 self.failures.append(text)
             self._meter(None)
@@ -175,8 +177,9 @@ class PackageProgress(dnf.callback.DownloadProgress):
         if not self.cancelled and report.cancelled():
             self.cancelled = True
         meter = self._meter(payload)
-        meter[2] = int(done)
-        report.yumIOC.applyGrabMeterUpdate(meter[0], meter[2])
+        if meter[2] != done:
+            meter[2] = int(done)
+            report.yumIOC.applyGrabMeterUpdate(meter[0], meter[2])
         return 1 if self.cancelled else 0
 
     def end(self, payload, status, msg):
@@ -188,7 +191,7 @@ class PackageProgress(dnf.callback.DownloadProgress):
             text = report.clean(msg or "download failed")
             if not self.cancelled:
                 self.failures.append("%s: %s" % (meter[0], text))
-            report.yumIOC.applyGrabMeterFailure(meter[0], text)
+                report.yumIOC.applyGrabMeterFailure(meter[0], text)
             if status == dnf.callback.STATUS_MIRROR:
                 meter[2] = 0
                 return

@@ -112,6 +112,7 @@ class Transaction:
             # rpm changes the root directory; this thread's alone, not that of the whole process.
             ctypes.CDLL(None).unshare(_CLONE_FS)
         interrupted.write(items)
+        base.history.log_scriptlet_output = HistoryOutput(base.history)
         failure = ""
         try:
             with errors.translated():
@@ -140,6 +141,29 @@ class Transaction:
                 report.errorlog(0, "%s %s: %s" % (name, outcome, reason))
         if report.offers("transactionReport"):
             report.yumIOC.transactionReport(rows)
+
+
+class HistoryOutput:
+    """Scriptlet output for DNF's history, which takes milliseconds for every line: the first lines of a
+    transaction. The program's log has all of it."""
+
+    LINES, CHARACTERS = 300, 1 << 18
+
+    def __init__(self, history):
+        self._record = type(history).log_scriptlet_output.__get__(history)
+        self._lines, self._characters = self.LINES, self.CHARACTERS
+
+    def __call__(self, output):
+        if not output or self._lines <= 0:
+            return
+        lines = output[:max(self._characters, 0)].splitlines()[:self._lines]
+        self._lines -= len(lines)
+        self._characters -= len(output)
+        if self._characters <= 0 or self._lines <= 0:
+            self._lines = 0
+            lines.append(b"(more output is not recorded)")
+        self._record(b"\n".join(line if isinstance(line, bytes) else line.encode("utf-8", "replace")
+                                for line in lines))
 
 
 class Outcomes:
