@@ -2,6 +2,8 @@
 
 import dnf.callback
 import dnf.exceptions
+import dnf.rpm.miscutils
+import dnf.rpm.transaction
 
 from yum import Errors
 
@@ -33,9 +35,17 @@ def check_signatures(base, packages):
         if result == 0:
             continue
         if result != 1:
+            if _is_damaged(base, pkg):
+                text = "its signature is wrong or the file is damaged (%s)" % text
             raise Errors.YumBaseError("%s cannot be trusted: %s. Nothing was changed."
                                       % (pkg, report.clean(text)))
         _import_key(base, pkg, report.clean(text))
+
+
+def _is_damaged(base, pkg):
+    """DNF calls a signature that does not match a problem of opening the file."""
+    reader = dnf.rpm.transaction.initReadOnlyTransaction(base.conf.installroot)
+    return dnf.rpm.miscutils.checkSig(reader, pkg.localPkg()) == 2
 
 
 def _import_key(base, pkg, reason):
