@@ -367,12 +367,6 @@ QString YumIO::getBiArch(const QString &arch)
     return pyStringDec(pyMethodCall(m_yumIO, "getBiArch", "(s)", arch.toUtf8().constData()));
 }
 
-Package::Kind YumIO::getPkgKind(PyObject *po)
-{
-    return simpleString(po, "group") == QLatin1String("Suite") ? Package::Kind::Suite
-                                                               : Package::Kind::Package;
-}
-
 Package::Entry *YumIO::findPackage(const QString &name)
 {
     return findPackage(name, nullptr);
