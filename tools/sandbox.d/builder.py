@@ -150,8 +150,9 @@ class Workshop:
     def __init__(self, scratch, wanted):
         self.scratch, self.wanted = scratch, wanted
         self.environment = dict(os.environ, HOME=str(scratch), GNUPGHOME=str(scratch / "gnupg"),
-                                LC_ALL="C.UTF-8", TZ="UTC", SOURCE_DATE_EPOCH="")
-        del self.environment["SOURCE_DATE_EPOCH"]
+                                LC_ALL="C.UTF-8", TZ="UTC")
+        # Set outside, it would stand in for the dates of the changelogs.
+        self.environment.pop("SOURCE_DATE_EPOCH", None)
 
     def make(self):
         for name in ("gnupg", "tmp", "db"):

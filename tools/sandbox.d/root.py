@@ -4,7 +4,6 @@ import json
 import os
 import pathlib
 import shutil
-import subprocess
 import sys
 
 import builder
