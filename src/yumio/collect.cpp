@@ -34,8 +34,7 @@ bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
     m_progress->startItem(tr("Preparing"), preparingUnits, 1);
     const bool collected = m_yumIO && takeLock() && readRepositories(reposUsed) &&
                            collectPackages() && collectAllGroups();
-    if (!collected)
-        m_progress->reset();
+    m_progress->reset();
     return collected;
 }
 

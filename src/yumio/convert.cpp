@@ -43,7 +43,7 @@ QString YumIO::pyStringX(PyObject *obj)
         return pyString(obj);
     if (PyList_Check(obj) || PyTuple_Check(obj)) {
         const Py_ssize_t size = PySequence_Size(obj);
-        if (size == 0 && PyList_Check(obj))
+        if (size == 0)
             return QString();
         QStringList items;
         for (Py_ssize_t i = 0; i < size; ++i) {
@@ -135,7 +135,11 @@ quint64 YumIO::sizeOf(PyObject *po)
 
 qint64 YumIO::buildTimeOf(PyObject *po)
 {
-    return pyTimeDec(pyMethodCall(po, "returnSimple", "(s)", "buildtime"));
+    pyExceptStart();
+    pyExceptExpect(PyExc_KeyError);
+    PyObject *time = pyMethodCall(po, "returnSimple", "(s)", "buildtime");
+    pyExceptClear();
+    return time ? pyTimeDec(time) : 0;
 }
 
 const char *YumIO::pyDescribe(PyObject *obj)

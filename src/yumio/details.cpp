@@ -494,12 +494,8 @@ bool YumIO::collectExtraReal(const QString &heading, const QString &total, const
     m_progress->startItem(tr("Reading repositories"), extraReadingUnits, 1);
     m_progress->setupItemActs(extraRepositoryUnits, 6 * Steps(m_enabledRepos.size()));
     const PyRef result(bracketedOrError(method, what));
-    if (!result) {
-        m_progress->reset();
-        return false;
-    }
-    m_progress->endItemActs();
-    return true;
+    m_progress->reset();
+    return bool(result);
 }
 
 bool YumIO::parseEnvra(const QString &text, QString &name, QString &epoch, QString &version,

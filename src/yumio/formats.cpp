@@ -43,7 +43,7 @@ QString bytesFormat(quint64 bytes)
         value /= std::pow(1024.0, double(power + 1));
         unit = units[power];
     }
-    const int decimals = value > 0 && value < 9.95 && bytes > 999 ? 1 : 0;
+    const int decimals = value > 0 && value < 9.95 ? 1 : 0;
     return QString::number(value, 'f', decimals) + QCoreApplication::translate("YumIO", unit);
 }
 

@@ -80,7 +80,7 @@ bool YumIO::failInitialize(const QString &message)
         handleException();
         PyErr_Clear();
     }
-    error(cause.isEmpty() ? message : message + QStringLiteral(":\n") + cause);
+    error(cause.isEmpty() ? message : message + u'\n' + cause);
     return false;
 }
 
@@ -96,7 +96,6 @@ bool YumIO::initialize()
     const PyRef argv(Py_BuildValue("[ss]", programName().toUtf8().constData(), "info"));
     PySys_SetObject("argv", argv.get());
 
-    setEnablePythonSIGINTHandler(false);
     if (!runScript() || !createYumIO())
         return false;
     return lookUpExceptionTypes();
@@ -111,11 +110,12 @@ bool YumIO::runScript()
     m_rpmDict = PyModule_GetDict(rpm.get()); // kept alive by sys.modules
     if (!m_rpmDict)
         return failInitialize(tr("Internal error: cannot find python rpm dict"));
+    setEnablePythonSIGINTHandler(false);
 
     QFile file(Share::absolute(QStringLiteral("python/YumIO.py")));
     if (!file.open(QIODevice::ReadOnly)) {
         return failInitialize(tr("Internal error: unable to open YumIO.py") +
-                              QStringLiteral(":\n%1: %2").arg(file.fileName(), file.errorString()));
+                              QStringLiteral("\n%1: %2").arg(file.fileName(), file.errorString()));
     }
     const QByteArray source = file.readAll();
     file.close();
