@@ -186,10 +186,10 @@ private Q_SLOTS:
             writeAll(1, "\xe2\x82"); // never finished
         });
         QCOMPARE(texts(engine, Log::Kind::Ok),
-                 QStringList({QStringLiteral("\u20ac"), QStringLiteral("\ufffdX"),
+                 QStringList({QStringLiteral("\u20ac"), QStringLiteral("\ufffd\ufffdX"),
                               QStringLiteral("\ufffd\ufffd bad"),
                               QStringLiteral("zero") + QChar(0) + QStringLiteral("end"),
-                              QStringLiteral("\ufffd")}));
+                              QStringLiteral("\ufffd\ufffd")}));
     }
 
     void bearsAFloodWithoutLines()

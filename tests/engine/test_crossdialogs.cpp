@@ -29,7 +29,7 @@ QString s(const char *text)
 
 } // namespace
 
-class TestDialogs : public QObject
+class TestCrossDialogs : public QObject
 {
     Q_OBJECT
 
@@ -112,5 +112,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDialogs)
-#include "test_dialogs.moc"
+QTEST_MAIN(TestCrossDialogs)
+#include "test_crossdialogs.moc"
