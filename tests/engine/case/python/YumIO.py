@@ -66,7 +66,7 @@ class Package:
         return {"repoid": self.repoid, "group": self.group, "summary": "", "buildtime": "0"}[key]
 
     def localPkg(self):
-        return __file__ if self.local else "/nonexistent/%s.rpm" % self.name
+        return os.environ["VOKSHARE"] if self.local else "/nonexistent/%s.rpm" % self.name
 
     localHdr = localPkg
 
