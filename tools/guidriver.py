@@ -10,6 +10,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import warnings
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
@@ -88,6 +89,8 @@ class Program:
         """Starts command, with its output in the file log."""
         import gi
 
+        # The accessibility library's newer names are not everywhere yet.
+        warnings.simplefilter("ignore", DeprecationWarning)
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi, GLib
 
