@@ -84,8 +84,28 @@ void YumIO::walkback()
     Py_XDECREF(traceback);
 }
 
+// True when the pending exception says that the user cancelled, which the user knows: a line in the
+// log is enough.
+bool YumIO::isCancellation() const
+{
+    PyObject *const type = m_cancelled ? PyErr_Occurred() : nullptr;
+    if (!type || !PyType_Check(type))
+        return false;
+    PyObject *const bases = reinterpret_cast<PyTypeObject *>(type)->tp_mro;
+    for (Py_ssize_t i = 0; bases && i < PyTuple_GET_SIZE(bases); ++i) {
+        auto *const base = reinterpret_cast<PyTypeObject *>(PyTuple_GET_ITEM(bases, i));
+        if (std::strcmp(base->tp_name, "CancelledError") == 0)
+            return true;
+    }
+    return false;
+}
+
 bool YumIO::commExceptRaised(PyObject *result, const QString &what)
 {
+    if (!result && isCancellation()) {
+        log(Log::Kind::Warning, 0, exceptionText());
+        return true;
+    }
     const auto raised = [&](PyObject *type) { return type && pyExceptMatches(result, type); };
 
     if (raised(PyExc_IOError)) {
@@ -154,6 +174,10 @@ void YumIO::pythonException(const QString &text)
 
 void YumIO::pythonExceptionV(const QString &text)
 {
+    if (isCancellation()) {
+        log(Log::Kind::Warning, 0, exceptionText());
+        return;
+    }
     // Both lines belong to the report, so the mark is set before the first when there is none.
     const int outerMark = m_logMark;
     if (m_logMark == -1) {

@@ -76,7 +76,7 @@ void YumIO::dsTsInfo(const char *text)
     } else if (line.startsWith(obsoleting)) {
         const qsizetype begin = obsoleting.size();
         const qsizetype end = line.indexOf(blank, begin);
-        const qsizetype link = end == -1 ? -1 : line.indexOf(with, end + 1);
+        const qsizetype link = end == -1 ? -1 : line.indexOf(with, end);
         const qsizetype secondBegin = link + with.size();
         const qsizetype secondEnd = link == -1 ? -1 : line.indexOf(blank, secondBegin);
         if (secondEnd == -1)

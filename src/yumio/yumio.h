@@ -380,6 +380,7 @@ private:
     void commExceptSetup();
     bool commExceptRaised(PyObject *result, const QString &what);
     QString exceptionText();
+    bool isCancellation() const;
     void walkback();
     QString errorLinesSince(qsizetype start);
     void pythonException(const QString &text);

@@ -99,6 +99,8 @@ yumIOC.log(5, '%s %s %s' % (names(installs), names(updates), names(removes)))
         row("marked in the cache", "Marking delta-1-1.noarch as install for x", "", 0, 1);
         row("obsoletes", "Obsoleting 0:old-1-1.x86_64 (base) with 0:beta-1-1.x86_64 (base)", "", 1,
             2);
+        row("obsoletes, with nothing between",
+            "Obsoleting 0:old-1-1.x86_64 with 0:delta-1-1.noarch for x", "", 0, 2);
         row("other line", "Removing something", "", 0, 0);
         row("no blank", "Updating alpha", "Internal error: unexpected TSINFO: Updating alpha", 0,
             0);

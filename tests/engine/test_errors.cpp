@@ -95,6 +95,42 @@ private Q_SLOTS:
         QVERIFY(!m_case.totalBar.isEnabled());
     }
 
+    // A cancellation is no failure that needs a dialog; the same exception without one is.
+    void cancelsQuietly_data()
+    {
+        QTest::addColumn<bool>("cancel");
+        QTest::newRow("cancelled") << true;
+        QTest::newRow("only said so") << false;
+    }
+
+    void cancelsQuietly()
+    {
+        QFETCH(bool, cancel);
+        Answers answers;
+        const auto connection = connect(
+            &m_case.engine, qOverload<const QString &, bool>(&YumIO::jobState), this,
+            [&](const QString &state, bool) {
+                if (cancel && state == s("download"))
+                    m_case.engine.cancel();
+            },
+            Qt::DirectConnection);
+        m_case.apply({},
+                     s("class CancelledError(YumBaseError): pass\n"
+                       "yumIOC.log(9, 'first %d' % yumIOC.cancelled())\n"
+                       "yumIOC.jobState('download', 1)\n"
+                       "yumIOC.log(9, 'then %d' % yumIOC.cancelled())\n"
+                       "raise CancelledError('Cancelled by the user')"),
+                     answers);
+        disconnect(connection);
+        QCOMPARE(answers.shown.size(), cancel ? 0 : 1);
+        const QStringList logged = m_case.logged();
+        QVERIFY(logged.contains(s("0/9 first 0")));
+        QVERIFY(logged.contains(cancel ? s("0/9 then 1") : s("0/9 then 0")));
+        QVERIFY(logged.contains(cancel ? s("2/0 Cancelled by the user")
+                                       : s("3/0 Cancelled by the user")));
+        QVERIFY(logged.contains(s("0/0 cleaned up")));
+    }
+
     void reapsChildren()
     {
         const pid_t child = ::fork();
