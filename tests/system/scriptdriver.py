@@ -12,6 +12,7 @@ A scenario may hold
     key                 answer to keyQuestion (default no)
     lockWait            answers, in order; then "give up"
     cancelAt            name of a callback: from its first call on the job is cancelled
+    killAt              [callback, number]: the process is killed in that call
     without             callbacks that this program does not offer
 The result holds `calls` (a list of [callback, arguments...]), `values` (one for each step) and `errors`
 ([exception's class, text] or null for each step).
@@ -20,6 +21,7 @@ The result holds `calls` (a list of [callback, arguments...]), `values` (one for
 import json
 import os
 import pathlib
+import signal
 import subprocess
 import sys
 import tempfile
@@ -46,6 +48,8 @@ def run(root, scenario, environment=None, timeout=120):
         done = subprocess.run([SANDBOX, "run", root, "--", "/usr/bin/python3", __file__, result],
                               input=json.dumps(scenario), text=True, capture_output=True,
                               errors="replace", env=variables, timeout=timeout)
+        if "killAt" in scenario and done.returncode in (-signal.SIGKILL, 128 + signal.SIGKILL):
+            return None
         if done.returncode or not result.exists():
             raise AssertionError("the driver ended with %d\n%s\n%s"
                                  % (done.returncode, done.stdout, done.stderr))
@@ -61,6 +65,7 @@ class Recorder:
         self.calls = []
         self.cancelled_now = False
         self._scenario = scenario
+        self._counts = {}
         self._answers = {name: list(scenario.get(key, ())) for name, key in
                          (("userconfirm", "confirm"), ("lockWait", "lockWait"))}
         self.module = types.ModuleType("yumIOC")
@@ -75,6 +80,9 @@ class Recorder:
             self.calls.append([name, *map(plain, arguments)])
             if name == self._scenario.get("cancelAt"):
                 self.cancelled_now = True
+            self._counts[name] = self._counts.get(name, 0) + 1
+            if [name, self._counts[name]] == self._scenario.get("killAt"):
+                os.kill(os.getpid(), signal.SIGKILL)
             return self._answer(name)
         return call
 

@@ -1,5 +1,7 @@
 """One session with DNF: configuration, repositories, package sack. A session runs one transaction."""
 
+import weakref
+
 import dnf
 import dnf.exceptions
 import rpm
@@ -64,21 +66,37 @@ def _load(repo):
 
 
 class Session:
-    """What one YumIO object works with. `base` is DNF's; `spent` is set once a transaction ran."""
+    """What one YumIO object works with. `base` is DNF's; `spent` is set once a transaction ran. There is
+    one at a time: a new session closes the former, so that two package sacks never fill the memory."""
+
+    _open = lambda: None  # a weak reference to the session that is open
+    _plugins = None       # the classes of DNF's plugins, which it loads once in a process
 
     def __init__(self):
+        former = Session._open()
+        if former is not None:
+            former.close()
         self.conf = config.read_main()
         if root.prefix() and rpm.expandMacro("%{_dbpath}") != _DATABASE:
             rpm.addMacro("_dbpath", _DATABASE)
         self.spent = False
         self.base = Base(self.conf)
+        Session._open = weakref.ref(self)
         with errors.translated():
             if self.conf.plugins:
-                self.base.init_plugins()
-                self.base.pre_configure_plugins()
+                self._init_plugins()
             config.read_repositories(self.conf, self.base.repos)
             if self.conf.plugins:
                 self.base.configure_plugins()
+
+    def _init_plugins(self):
+        if Session._plugins is None:
+            self.base.init_plugins()
+            Session._plugins = list(self.base._plugins.plugin_cls)
+        else:
+            self.base._plugins.plugin_cls = list(Session._plugins)
+            self.base._plugins._run_init(self.base)
+        self.base.pre_configure_plugins()
 
     def close(self):
         """Ends the session and frees what it holds. Package objects stay readable."""

@@ -31,7 +31,7 @@ def read_main():
     path = main_file()
     if path is None:
         raise SystemExit("There is no main configuration file: neither %s exists."
-                         % " nor ".join(root.resolve(name) for name in MAIN_FILES))
+                         % " nor ".join(MAIN_FILES))
     opened = root.resolve(path)
     conf = dnf.conf.Conf()
     conf.installroot = root.prefix() or "/"
@@ -42,10 +42,10 @@ def read_main():
         conf.read(opened, _SET_BY_FILE)
     except OSError as error:
         raise SystemExit("Unable to read the main configuration file %s: %s"
-                         % (opened, error.strerror)) from error
+                         % (path, error.strerror)) from error
     except (dnf.exceptions.Error, RuntimeError) as error:
         raise SystemExit("The main configuration file %s is malformed: %s"
-                         % (opened, report.clean(error))) from error
+                         % (path, _reason(error))) from error
     _settings(conf)
     _substitutions(conf, opened)
     _directories(conf)
@@ -80,7 +80,7 @@ def _protected_by_files():
                     for line in lines:
                         yield from line.partition("#")[0].replace(",", " ").split()
             except OSError as error:
-                report.errorlog(1, "%s cannot be read: %s" % (path, error.strerror))
+                report.errorlog(1, "%s cannot be read: %s" % (root.shown(path), error.strerror))
 
 
 def _substitutions(conf, opened):
@@ -139,7 +139,7 @@ def _directories(conf):
             os.makedirs(path, exist_ok=True)
         except OSError as error:
             raise SystemExit("Unable to make the directory %s: %s"
-                             % (path, error.strerror)) from error
+                             % (root.shown(path), error.strerror)) from error
     if conf._get_priority("reposdir") < _SET_BY_FILE:
         conf.reposdir = list(REPO_DIRECTORIES)
     conf.reposdir = [root.resolve(path) for path in conf.reposdir]
@@ -167,7 +167,12 @@ def read_repositories(conf, repositories):
 
 
 def _left_out(path, reason):
-    report.errorlog(0, "The repository file %s is left out: %s" % (path, report.clean(reason)))
+    report.errorlog(0, "The repository file %s is left out: %s" % (root.shown(path), _reason(reason)))
+
+
+def _reason(error):
+    """The parser's own words, without the file names that were put before them."""
+    return report.clean(error).rsplit(" failed: ", 1)[-1]
 
 
 def _place_inside(repo):

@@ -13,6 +13,7 @@ from . import errors, report, root
 
 LOCK_FILE = "/run/vok/vok.lock"
 _PAUSE = 0.3  # seconds between two attempts
+_SHOWN = 200  # characters of a command line
 _held = {}    # path of the lock file: its descriptor
 
 
@@ -24,30 +25,25 @@ def command_of(pid):
                 data = stream.read(4096)
         except OSError:
             continue
-        text = report.clean(data.replace(b"\0", b" ") if join else data).strip()
+        text = " ".join(report.clean(data.replace(b"\0", b" ") if join else data).split())
         if text:
-            return text
+            return text[:_SHOWN]
     return ""
 
 
 def acquire(conf):
     """Takes VOK's lock unless this process has it, and sees that DNF's rpm database lock is free.
-    Raises LockError naming the holder; where the program can ask, the user decides how long to wait.
+    Raises LockError naming the holder; where the program can ask, the user decides whether to wait.
     A user without the right to change the system gets on without a lock."""
     if os.geteuid() != 0:
         return
-    waited = False
-    try:
-        while True:
-            holder = _take() or _database_holder(conf)
-            if holder is None:
-                return
-            _release()
-            waited = True
-            _wait(*holder)
-    finally:
-        if waited:
-            report.job_state("metadata", True)
+    waiter = _Waiter()
+    while True:
+        holder = _take() or _database_holder(conf)
+        if holder is None:
+            return
+        _release()
+        waiter.wait(*holder)
 
 
 def held():
@@ -106,26 +102,33 @@ def _database_holder(conf):
     return pid, command_of(pid)
 
 
-def _wait(pid, command):
-    """One round of waiting. Raises LockError when nobody can be asked or the user gives up."""
-    report.job_state("lock", True)
-    errors.check_cancelled(Errors.CancelledLockError)
-    text = "The package database is in use by process %d (%s)." % (pid, command or "unknown command")
-    if not report.offers("lockWait"):
-        raise Errors.LockError(text, pid)
-    if not report.yumIOC.lockWait(pid, report.clean(command)):
-        raise Errors.LockError(text, pid)
-    errors.check_cancelled(Errors.CancelledLockError)
-    time.sleep(_PAUSE)
+class _Waiter:
+    """Waiting for one lock. The user is asked once about every holder."""
+
+    def __init__(self):
+        self._agreed = None  # the holder that the user is willing to wait for
+
+    def wait(self, pid, command):
+        """One round. Raises LockError when nobody can be asked, the user gives up or cancels."""
+        report.job_state("lock", True)
+        errors.check_cancelled(Errors.CancelledLockError)
+        if self._agreed != pid:
+            if not report.offers("lockWait") or not report.yumIOC.lockWait(pid, command):
+                raise Errors.LockError("The package database is in use by process %d (%s)."
+                                       % (pid, command or "unknown command"), pid)
+            self._agreed = pid
+        errors.check_cancelled(Errors.CancelledLockError)
+        time.sleep(_PAUSE)
 
 
 def guarded(state, can_cancel, call):
     """Runs `call`, an operation of DNF that takes one of DNF's locks before it does anything, again
     and again while another process holds the lock and the user is willing to wait. `state` is the
     job's state to return to."""
+    waiter = _Waiter()
     while True:
         try:
             return call()
         except dnf.exceptions.ProcessLockError as error:
-            _wait(error.pid, command_of(error.pid))
+            waiter.wait(error.pid, command_of(error.pid))
             report.job_state(state, can_cancel)
