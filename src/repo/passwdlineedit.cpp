@@ -69,6 +69,7 @@ PasswdLineEdit::~PasswdLineEdit()
 void PasswdLineEdit::setRealText(const QString &text)
 {
     m_real->setText(text);
+    carryToVisible(); // the same text again moves the cursor all the same
 }
 
 QString PasswdLineEdit::realText() const
@@ -169,6 +170,7 @@ void PasswdLineEdit::redo()
 void PasswdLineEdit::clear()
 {
     m_real->clear();
+    carryToVisible();
 }
 
 bool PasswdLineEdit::event(QEvent *event)
@@ -202,11 +204,16 @@ void PasswdLineEdit::keyPressEvent(QKeyEvent *event)
         QLineEdit::keyPressEvent(event);
         return;
     }
-    // The keys that copy: the real editor would copy the true text.
+    // The keys that copy, or leave a selection, which becomes the primary one: the real editor
+    // would give away the true text.
     if (event->matches(QKeySequence::Copy)) {
         copy();
     } else if (event->matches(QKeySequence::Cut)) {
         cut();
+    } else if (event->matches(QKeySequence::Undo)) {
+        undo();
+    } else if (event->matches(QKeySequence::Redo)) {
+        redo();
     } else if (event->matches(QKeySequence::DeleteEndOfLine)) {
         setSelection(cursorPosition(), int(text().size()));
         cut();

@@ -96,6 +96,7 @@ PasswdTextEdit::~PasswdTextEdit()
 void PasswdTextEdit::setRealPlainText(const QString &text)
 {
     m_real->setPlainText(text);
+    carryToVisible();
 }
 
 QString PasswdTextEdit::realPlainText() const

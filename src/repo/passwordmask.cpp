@@ -75,17 +75,20 @@ QString PasswordMask::maskAll(const QString &text, const QRegularExpression &exp
 PasswordMask::Edit PasswordMask::difference(const QString &before, const QString &after,
                                             qsizetype cursor)
 {
-    // Mask characters all look the same, so the cursor has the first say where the edit was.
     const qsizetype shorter = std::min(before.size(), after.size());
-    const qsizetype mostBehind = std::min(shorter, after.size() - std::min(cursor, after.size()));
-    qsizetype behind = 0;
-    while (behind < mostBehind &&
+    qsizetype ahead = 0, behind = 0;
+    while (ahead < shorter && before.at(ahead) == after.at(ahead))
+        ++ahead;
+    while (behind < shorter &&
            before.at(before.size() - 1 - behind) == after.at(after.size() - 1 - behind))
         ++behind;
-    qsizetype start = 0;
-    while (start < shorter - behind && before.at(start) == after.at(start))
-        ++start;
-    return {start, before.size() - behind - start, after.mid(start, after.size() - behind - start)};
+    // Among characters that look the same an insertion or a removal may have been in several
+    // places; the cursor, which stands behind it, says in which.
+    const qsizetype inserted = std::max<qsizetype>(after.size() - shorter, 0);
+    if (ahead + behind >= shorter)
+        ahead = std::clamp(cursor - inserted, shorter - behind, ahead);
+    behind = std::min(behind, shorter - ahead);
+    return {ahead, before.size() - behind - ahead, after.mid(ahead, after.size() - behind - ahead)};
 }
 
 qsizetype PasswordMask::wholeCharacter(const QString &text, qsizetype position)
