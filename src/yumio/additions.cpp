@@ -68,7 +68,7 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
     const PyRef iterator(PyObject_GetIter(elements));
     if (!iterator)
         return nullptr;
-    QStringList done, failed, skipped;
+    QStringList done, troubled, failed, skipped;
     while (const PyRef element = PyRef(PyIter_Next(iterator.get()))) {
         const char *name, *outcome, *reason;
         const PyRef fields(PySequence_Tuple(element.get()));
@@ -79,16 +79,17 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
             line += QStringLiteral(": ") + QString::fromUtf8(reason);
         const bool isDone = qstrcmp(outcome, "done") == 0;
         const bool isSkipped = qstrcmp(outcome, "skipped") == 0;
-        (isDone ? done : isSkipped ? skipped : failed).append(line);
+        (isDone ? (*reason ? troubled : done) : isSkipped ? skipped : failed).append(line);
     }
     if (PyErr_Occurred())
         return nullptr;
 
     const QString summary = tr("Transaction: %1 done, %2 failed, %3 skipped")
-                                .arg(done.size())
+                                .arg(done.size() + troubled.size())
                                 .arg(failed.size())
                                 .arg(skipped.size());
-    const bool complete = failed.isEmpty() && skipped.isEmpty();
+    // One that is there although its last scriptlet failed is done, but not as it should be.
+    const bool complete = failed.isEmpty() && skipped.isEmpty() && troubled.isEmpty();
     log(complete ? Log::Kind::Ok : Log::Kind::Error, 0, summary);
     if (complete)
         Py_RETURN_NONE;
@@ -103,6 +104,7 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
     };
     section(tr("Failed:"), failed, Log::Kind::Error);
     section(tr("Skipped:"), skipped, Log::Kind::Warning);
+    section(tr("Done, with errors:"), troubled, Log::Kind::Warning);
     section(tr("Done:"), done, Log::Kind::Ok);
     if (m_dialogs)
         m_dialogs->scrollable(tr("VOK Transaction Report"), text);

@@ -35,6 +35,7 @@ public:
     // Collects afresh and marks rows: "name action" items, groups as "@name action".
     bool mark(const QStringList &marks)
     {
+        m_file.resize(0);
         engine.clear();
         if (!engine.collect({}))
             return false;
@@ -81,6 +82,23 @@ public:
         if (!mark(marks))
             return false;
         write(source);
+        observeBars(answers);
+        return engine.apply();
+    }
+
+    // Runs `source` as the loading of the repositories' metadata.
+    bool collect(const QString &source, Answers &answers)
+    {
+        engine.clear();
+        write(source);
+        observeBars(answers);
+        const bool collected = engine.collect({});
+        m_file.resize(0);
+        return collected;
+    }
+
+    void observeBars(Answers &answers)
+    {
         answers.probeText = QStringLiteral("probe (process 0)");
         answers.observe = [this] {
             return QStringLiteral("%1/%2 %3 %4")
@@ -89,7 +107,6 @@ public:
                 .arg(itemBar.maximum())
                 .arg(itemBar.text().section(QStringLiteral(" ("), 0, 0));
         };
-        return engine.apply();
     }
 
     HProgressBar totalBar;

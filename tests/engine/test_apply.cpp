@@ -344,6 +344,7 @@ probe()
     }
 
     void showsDownloads();
+    void showsMetadata();
     void refusesWrongArguments();
 
 private:
@@ -382,6 +383,51 @@ yumIOC.applyGrabMeterStart('c', '/c/x', '', 'x', 'large', 'x')
                           s("Internal error: unexpected progress filename")}));
     QVERIFY(m_case.logged().contains(
         s("2/1 Downloading beta-1-1.x86_64: no route to http://u:**@host")));
+}
+
+// Six acts for each repository: the first for its index, one more whenever there turns out to be
+// more to load. What the last file fails to give is made up for by the next repository.
+void TestApply::showsMetadata()
+{
+    Answers answers;
+    QVERIFY(m_case.collect(s(R"(
+start, update = yumIOC.collectGrabMeterStart, yumIOC.collectGrabMeterUpdate
+yumIOC.collectGrabMultiMeterStart(1, 0); probe()
+yumIOC.collectGrabMultiMeterNew('base')
+start('base', '', 'http://h/', 'repomd', None, 'base'); probe()
+update('base', 10)
+yumIOC.collectGrabMeterFailure('base', 'http://u:pw@h/repomd.xml: 404')
+update('base', 20)
+for size in 100, 200, 300, 400, 500, 600:
+    start('base', '', 'http://h/', 'repomd', size, 'base')
+    update('base', size - 10)
+    probe()
+yumIOC.collectGrabMeterEnd('base', 600)
+yumIOC.collectGrabMultiMeterRemove('base')
+yumIOC.collectGrabMultiMeterEnd()
+yumIOC.collectProgress(1, 2, 'base'); probe()
+start('odd', '', '', 'primary', 'big', '')
+)"),
+                           answers));
+    QStringList expected = {s("1000/24000 1 Downloading repository contents for 1 repositories"),
+                            s("1000/24000 1 Downloading repository repomd for base")};
+    for (int act = 1; act <= 5; ++act) {
+        expected.append(s("%1/24000 %2 Downloading repository base")
+                            .arg(1000 + 14000 * act / 6)
+                            .arg(100 * act));
+    }
+    QCOMPARE(answers.observed.size(), 9);
+    for (int i = 0; i < expected.size(); ++i)
+        QCOMPARE(answers.observed[i].section(u'/', 1), expected[i].section(u'/', 1));
+    // The total never falls, and never runs ahead of the act that it is in.
+    for (int i = 1; i < answers.observed.size(); ++i) {
+        const int before = answers.observed[i - 1].section(u'/', 0, 0).toInt();
+        const int now = answers.observed[i].section(u'/', 0, 0).toInt();
+        QVERIFY2(now >= before, qPrintable(answers.observed.join(u'|')));
+        QVERIFY2(now <= 1000 + 14000 * i / 6, qPrintable(answers.observed.join(u'|')));
+    }
+    QVERIFY(answers.observed.constLast().endsWith(s("Reading repository base")));
+    QCOMPARE(answers.texts(), QStringList(s("Internal error: collect grab size not understood")));
 }
 
 // Each callback must refuse what does not fit its format, so that the script hears of it.

@@ -183,13 +183,14 @@ void TestCollect::oddValues()
 void TestCollect::groups()
 {
     Answers answers;
-    QVERIFY(m_case.collect("updates = [Package('old', '2')]\n"
-                           "installed = [Package('old', '1'), Package('new')]\n"
-                           "groups = [Group('Absent'), Group('Current', True, ['new', 'unknown']),\n"
-                           "          Group('Stale', True, ['new', 'old']),\n"
-                           "          Group('Missing', False, ['old']),\n"
-                           "          Group('Current', False), Group('Hidden', visible=False),\n"
-                           "          Group('old', True)]\n"));
+    QVERIFY(
+        m_case.collect("updates = [Package('old', '2')]\n"
+                       "installed = [Package('old', '1'), Package('new')]\n"
+                       "groups = [Group('Absent'), Group('Current', True, ['new', 'unknown']),\n"
+                       "          Group('Stale', True, ['new', 'old']),\n"
+                       "          Group('Missing', False, ['old']),\n"
+                       "          Group('Current', False), Group('Hidden', visible=False),\n"
+                       "          Group('old', True)]\n"));
     QCOMPARE(m_case.rows().filter(QRegularExpression(QStringLiteral("^1"))),
              (QStringList{QStringLiteral("10 Stale"), QStringLiteral("11 Absent"),
                           QStringLiteral("11 Missing"), QStringLiteral("12 Current"),
@@ -227,13 +228,13 @@ void TestCollect::repositories()
     QStringList calls = m_case.calls();
     calls = calls.mid(0, calls.indexOf(QStringLiteral("setupTs")));
     calls.sort(); // the choices come in no order
-    QCOMPARE(calls, QStringLiteral("a=1 b=0 c=1 d=1|disable b|enable a|enable d|setupRepos")
-                        .replace(u' ', u' ')
-                        .split(u'|')
-                        .join(u'|')
-                        .replace(QStringLiteral("a=1 b=0 c=1 d=1"),
-                                 QStringLiteral("a=1|b=0|c=1|d=1"))
-                        .split(u'|'));
+    QCOMPARE(calls,
+             QStringLiteral("a=1 b=0 c=1 d=1|disable b|enable a|enable d|setupRepos")
+                 .replace(u' ', u' ')
+                 .split(u'|')
+                 .join(u'|')
+                 .replace(QStringLiteral("a=1 b=0 c=1 d=1"), QStringLiteral("a=1|b=0|c=1|d=1"))
+                 .split(u'|'));
     QCOMPARE(answers.texts(),
              QStringList(QStringLiteral("unable to setup repository d:\nno such mirror")));
 }
@@ -249,17 +250,18 @@ void TestCollect::failures_data()
                        "When reporting this issue, please include the contents of the\n"
                        "Log window, which should contain a walkback.");
     const auto row = [](const char *scenario, const QStringList &texts, const char *last) {
-        QTest::newRow(scenario) << QByteArray(scenario) + '\n' << texts << QString::fromLatin1(last);
+        QTest::newRow(scenario) << QByteArray(scenario) + '\n'
+                                << texts << QString::fromLatin1(last);
     };
     const auto failed = [&](const char *method) {
-        return QStringList{
-            unexpected,
-            QStringLiteral("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(method))};
+        return QStringList{unexpected,
+                           QStringLiteral("Internal error: execution of yumIO.%1 failed")
+                               .arg(QLatin1String(method))};
     };
     const auto one = [](const char *text) { return QStringList(QString::fromLatin1(text)); };
 
-    row("repos = type('R', (Repos,), {'repos': property(lambda self: 1 / 0)})({})"
-            .replace(", {'repos': property(lambda self: 1 / 0)})({})", ""),
+    row("repos = type('R', (Repos,), {'repos': property(lambda self: 1 / 0)})({})".replace(
+            ", {'repos': property(lambda self: 1 / 0)})({})", ""),
         {}, "");
     row("repos = Repos(5)", one("Internal error: yumIO.repos.repos not a dictionary"), "");
     row("repos = {}",

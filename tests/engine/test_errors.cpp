@@ -228,10 +228,15 @@ yumIOC.log(9, 'key %r' % key)
                                   << s("1/0 Transaction: 1 done, 0 failed, 0 skipped");
         QTest::newRow("some not")
             << s("[('0:a-1-1.x', 'done', ''), ('0:b-1-1.x', 'failed', 'scriptlet'),"
-                 " ('0:c-1-1.x', 'skipped', '')]")
-            << s("Transaction: 1 done, 1 failed, 1 skipped\n\nFailed:\n\t0:b-1-1.x: scriptlet\n\n"
-                 "Skipped:\n\t0:c-1-1.x\n\nDone:\n\t0:a-1-1.x\n")
-            << s("3/0 Transaction: 1 done, 1 failed, 1 skipped");
+                 " ('0:c-1-1.x', 'skipped', ''), ('0:d-1-1.x', 'done', '%post')]")
+            << s("Transaction: 2 done, 1 failed, 1 skipped\n\nFailed:\n\t0:b-1-1.x: scriptlet\n\n"
+                 "Skipped:\n\t0:c-1-1.x\n\nDone, with errors:\n\t0:d-1-1.x: %post\n\n"
+                 "Done:\n\t0:a-1-1.x\n")
+            << s("3/0 Transaction: 2 done, 1 failed, 1 skipped");
+        QTest::newRow("done badly") << s("[('0:d-1-1.x', 'done', '%post')]")
+                                    << s("Transaction: 1 done, 0 failed, 0 skipped\n\n"
+                                         "Done, with errors:\n\t0:d-1-1.x: %post\n")
+                                    << s("3/0 Transaction: 1 done, 0 failed, 0 skipped");
     }
 
     void reportsTheTransaction()

@@ -1,7 +1,7 @@
 """A script whose packages are fixed and whose transaction is what the running test case says.
 
-The case is Python source in the file named by VOK_TEST_CASE, run afresh at every call of `apply`
-and the clean methods, with the names of this module, `io` (the script object) and `installs`,
+The case is Python source in the file named by VOK_TEST_CASE, run afresh at every call of `apply`,
+`setupRepos` and the clean methods, with the names of this module, `io` (the script object) and `installs`,
 `updates` and `removes`. Whatever it stores in `result` is returned."""
 
 import os
@@ -139,7 +139,12 @@ class YumIO:
     def lock(self):
         return True
 
-    unlock = setupRepos = setupTs = setupTsGroup = collectDone = flush = lock
+    def setupRepos(self):
+        """The case may load metadata in here."""
+        if os.path.getsize(os.environ["VOK_TEST_CASE"]):
+            self._run(collecting=True)
+
+    unlock = setupTs = setupTsGroup = collectDone = flush = lock
 
     def collectUpdates(self):
         return UPDATES
