@@ -409,16 +409,15 @@ yumIOC.collectProgress(1, 2, 'base'); probe()
 start('odd', '', '', 'primary', 'big', '')
 )"),
                            answers));
-    QStringList expected = {s("1000/24000 1 Downloading repository contents for 1 repositories"),
-                            s("1000/24000 1 Downloading repository repomd for base")};
-    for (int act = 1; act <= 5; ++act) {
-        expected.append(s("%1/24000 %2 Downloading repository base")
-                            .arg(1000 + 14000 * act / 6)
-                            .arg(100 * act));
-    }
-    QCOMPARE(answers.observed.size(), 9);
-    for (int i = 0; i < expected.size(); ++i)
-        QCOMPARE(answers.observed[i].section(u'/', 1), expected[i].section(u'/', 1));
+    QStringList items = {s("24000 1 Downloading repository contents for 1 repositories"),
+                         s("24000 1 Downloading repository repomd for base")};
+    for (int act = 1; act <= 5; ++act)
+        items.append(s("24000 %1 Downloading repository base").arg(100 * act));
+    items.append(s("24000 500 Downloading repository base"));
+    items.append(s("24000 500 Reading repository base"));
+    QCOMPARE(answers.observed.size(), items.size());
+    for (int i = 0; i < items.size(); ++i)
+        QCOMPARE(answers.observed[i].section(u'/', 1), items[i]);
     // The total never falls, and never runs ahead of the act that it is in.
     for (int i = 1; i < answers.observed.size(); ++i) {
         const int before = answers.observed[i - 1].section(u'/', 0, 0).toInt();
@@ -426,7 +425,6 @@ start('odd', '', '', 'primary', 'big', '')
         QVERIFY2(now >= before, qPrintable(answers.observed.join(u'|')));
         QVERIFY2(now <= 1000 + 14000 * i / 6, qPrintable(answers.observed.join(u'|')));
     }
-    QVERIFY(answers.observed.constLast().endsWith(s("Reading repository base")));
     QCOMPARE(answers.texts(), QStringList(s("Internal error: collect grab size not understood")));
 }
 
