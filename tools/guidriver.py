@@ -143,12 +143,13 @@ class Program:
             stack.extend(child for child in reversed(children) if child is not None)
 
     def look(self, role, name=None, top=None):
-        """The first object with that role (a name or several) and name that is on the screen, or
-        None."""
+        """The first object with that role (a name, several, or None for any) and name that is on the
+        screen, or None."""
         roles = (role,) if isinstance(role, str) else role
         for item in self.walk(top):
             try:
-                if item.get_role_name() in roles and (name is None or item.get_name() == name) \
+                if (roles is None or item.get_role_name() in roles) \
+                        and (name is None or item.get_name() == name) \
                         and self.has(item, "SHOWING"):
                     return item
             except self.glib.Error:
