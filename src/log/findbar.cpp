@@ -65,10 +65,17 @@ void Log::FindBar::findPrevious()
         open();
 }
 
-void Log::FindBar::textGrew()
+void Log::FindBar::textGrew(int from)
 {
-    if (isVisible() && !m_found)
-        findTyped();
+    if (!isVisible() || m_found)
+        return;
+    QTextCursor start(m_area->document());
+    start.setPosition(from);
+    const QTextCursor match = m_area->document()->find(m_edit->text(), start);
+    if (match.isNull())
+        return;
+    m_area->setTextCursor(match);
+    showFound(true);
 }
 
 // A longer text may still be found where the shorter one was.

@@ -23,8 +23,8 @@ public Q_SLOTS:
     void close();
     void findNext();
     void findPrevious();
-    // To be called when the area has more text: what did not occur may now.
-    void textGrew();
+    // To be called when the area has more text, from a position on: what did not occur may now.
+    void textGrew(int from);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

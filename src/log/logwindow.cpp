@@ -25,8 +25,8 @@ constexpr int highestLevel = 10;
 constexpr int defaultLevel = 2;
 
 // One slice of rendering, and what is rendered between two looks at the clock.
-constexpr qint64 sliceMs = 15;
-constexpr qsizetype batchEntries = 50;
+constexpr qint64 sliceMs = 10;
+constexpr qsizetype batchEntries = 25;
 // Entries looked at in one go when few of them are shown.
 constexpr qsizetype batchScan = 20000;
 constexpr qint64 eventsMs = 50;
@@ -180,10 +180,10 @@ bool Log::Window::render()
     QScrollBar *bar = m_text->verticalScrollBar();
     const bool follow = isAtEnd(bar);
     const qsizetype before = m_shownCount;
+    const int end = m_text->document()->characterCount() - 1;
     if (renderSlice())
         m_sliceTimer.start(0);
-    else
-        m_findBar->textGrew();
+    m_findBar->textGrew(end);
     if (follow)
         bar->setValue(bar->maximum());
     return m_shownCount != before;

@@ -64,6 +64,8 @@ void ScrollableDialog::setDefaultButton(QPushButton *button)
 {
     button->setDefault(true);
     button->setFocus();
+    // By itself a window takes two thirds of the screen at most.
+    resize(sizeHint());
 }
 
 QSize ScrollableDialog::sizeHint() const
