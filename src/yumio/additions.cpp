@@ -48,9 +48,9 @@ PyObject *YumIO::keyQuestion(PyObject *, PyObject *args)
     if (!PyArg_ParseTuple(args, "ssss", &id, &user, &fingerprint, &source))
         return nullptr;
     const QString key = QString::fromUtf8(id);
-    const QString text = tr("Packages are signed with a key that this system does not know.\n\n"
+    const QString text = tr("Something is signed with a key that this system does not know.\n\n"
                             "Key: %1\nOwner: %2\nFingerprint: %3\nSource: %4\n\n"
-                            "Import the key, and trust packages signed with it?")
+                            "Import the key, and trust what is signed with it?")
                              .arg(key, QString::fromUtf8(user), QString::fromUtf8(fingerprint),
                                   QString::fromUtf8(source));
     const bool yes = m_dialogs && m_dialogs->warning(tr("VOK Key Import"), text, tr("Yes"),
