@@ -52,8 +52,6 @@ PasswdLineEdit::PasswdLineEdit(const QRegularExpression &mask, QWidget *parent)
     m_real->setGeometry(geometry());
     m_real->hide();
     connect(m_real, &QLineEdit::textChanged, this, &PasswdLineEdit::textChanged);
-    connect(m_real, &QLineEdit::returnPressed, this, &QLineEdit::returnPressed);
-    connect(m_real, &QLineEdit::editingFinished, this, &QLineEdit::editingFinished);
 
     connect(this, &QLineEdit::cursorPositionChanged, this, &PasswdLineEdit::carryToReal);
     connect(this, &QLineEdit::selectionChanged, this, &PasswdLineEdit::carryToReal);
@@ -141,14 +139,16 @@ void PasswdLineEdit::cut()
     if (isReadOnly() || !hasSelectedText())
         return;
     copy();
-    insertReal(QString());
+    m_real->del();
+    carryToVisible();
 }
 
 void PasswdLineEdit::paste()
 {
-    const QString text = QGuiApplication::clipboard()->text();
-    if (!isReadOnly() && (!text.isEmpty() || hasSelectedText()))
-        insertReal(text);
+    if (isReadOnly())
+        return;
+    m_real->paste();
+    carryToVisible();
 }
 
 void PasswdLineEdit::undo()
@@ -200,16 +200,14 @@ bool PasswdLineEdit::event(QEvent *event)
 
 void PasswdLineEdit::keyPressEvent(QKeyEvent *event)
 {
-    if (isReadOnly() || PasswordMask::movesCursor(event)) {
+    if (isReadOnly()) {
         QLineEdit::keyPressEvent(event);
         return;
     }
-    // The keys that copy, or leave a selection, which becomes the primary one: the real editor
-    // would give away the true text.
-    if (event->matches(QKeySequence::Copy)) {
-        copy();
-    } else if (event->matches(QKeySequence::Cut)) {
+    if (event->matches(QKeySequence::Cut)) {
         cut();
+    } else if (event->matches(QKeySequence::Paste)) {
+        paste();
     } else if (event->matches(QKeySequence::Undo)) {
         undo();
     } else if (event->matches(QKeySequence::Redo)) {
@@ -220,9 +218,12 @@ void PasswdLineEdit::keyPressEvent(QKeyEvent *event)
     } else if (event->matches(QKeySequence::DeleteCompleteLine)) {
         selectAll();
         cut();
-    } else {
+    } else if (PasswordMask::editsText(event)) {
         m_real->keyPressEvent(event);
         carryToVisible();
+        return;
+    } else {
+        QLineEdit::keyPressEvent(event);
         return;
     }
     event->accept();

@@ -35,6 +35,12 @@ QString plainText(const QTextEdit &edit)
     return text;
 }
 
+bool breaksLine(const QKeyEvent *event)
+{
+    return event->matches(QKeySequence::InsertParagraphSeparator) ||
+           event->matches(QKeySequence::InsertLineSeparator) || event->key() == Qt::Key_Tab;
+}
+
 void place(QTextEdit &edit, int anchor, int position)
 {
     QTextCursor cursor = edit.textCursor();
@@ -169,7 +175,10 @@ void PasswdTextEdit::visibleEdited()
 // In place of what is selected. The copy follows even if the real text is as it was.
 void PasswdTextEdit::insertReal(const QString &text)
 {
-    m_real->textCursor().insertText(text);
+    QTextCursor cursor = m_real->textCursor();
+    cursor.beginEditBlock(); // one step to undo
+    cursor.insertText(text);
+    cursor.endEditBlock();
     showMasked();
     carryToVisible();
     ensureCursorVisible();
@@ -253,22 +262,28 @@ bool PasswdTextEdit::viewportEvent(QEvent *event)
 
 void PasswdTextEdit::keyPressEvent(QKeyEvent *event)
 {
-    if (isReadOnly() || PasswordMask::movesCursor(event)) {
+    if (isReadOnly()) {
         HTextEdit::keyPressEvent(event);
         return;
     }
-    // The keys that copy: the real editor has nothing to give.
-    if (event->matches(QKeySequence::Copy)) {
-        copy();
-    } else if (event->matches(QKeySequence::Cut)) {
+    if (event->matches(QKeySequence::Cut)) {
         cut();
-    } else {
+    } else if (event->matches(QKeySequence::Undo)) {
+        undo();
+    } else if (event->matches(QKeySequence::Redo)) {
+        redo();
+    } else if (PasswordMask::editsText(event) || breaksLine(event) ||
+               event->matches(QKeySequence::DeleteEndOfLine)) {
         m_real->keyPressEvent(event);
         carryToVisible();
         ensureCursorVisible();
         return;
+    } else {
+        HTextEdit::keyPressEvent(event);
+        return;
     }
     event->accept();
+    ensureCursorVisible();
 }
 
 void PasswdTextEdit::keyReleaseEvent(QKeyEvent *event)

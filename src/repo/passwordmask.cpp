@@ -99,15 +99,18 @@ qsizetype PasswordMask::wholeCharacter(const QString &text, qsizetype position)
     return inside ? position + 1 : position;
 }
 
-bool PasswordMask::movesCursor(const QKeyEvent *event)
+bool PasswordMask::editsText(const QKeyEvent *event)
 {
-    if (event->matches(QKeySequence::SelectAll) || event->matches(QKeySequence::Deselect))
+    if (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete ||
+        event->matches(QKeySequence::DeleteStartOfWord) ||
+        event->matches(QKeySequence::DeleteEndOfWord))
         return true;
-    for (int key = QKeySequence::MoveToNextChar; key <= QKeySequence::SelectEndOfDocument; ++key) {
-        if (event->matches(QKeySequence::StandardKey(key)))
-            return true;
-    }
-    return false;
+    const auto modifiers = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    if (event->text().isEmpty() || modifiers == Qt::ControlModifier)
+        return false;
+    const QChar first = event->text().at(0);
+    return first.isPrint() || first.isSurrogate() || first.category() == QChar::Other_Format ||
+           first.category() == QChar::Other_PrivateUse;
 }
 
 void PasswordMask::hideFromAccessibility()

@@ -26,8 +26,9 @@ Edit difference(const QString &before, const QString &after, qsizetype cursor);
 // The position, or the next one when it lies between the two halves of one character.
 qsizetype wholeCharacter(const QString &text, qsizetype position);
 
-// Whether the key only moves the cursor or changes the selection.
-bool movesCursor(const QKeyEvent *event);
+// Whether the key types or deletes something, so that nothing is selected afterwards. A key that
+// leaves a selection would make what the real editor has selected the primary selection.
+bool editsText(const QKeyEvent *event);
 
 // Keeps the real editors, which are children of a window like any other widget, from telling
 // assistive technology what they hold.
