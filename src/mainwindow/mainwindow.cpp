@@ -130,8 +130,16 @@ void MainWindow::showMainArea()
 
 void MainWindow::collect()
 {
+    // A search needs data that the collection has not loaded yet.
+    const bool searches = searchesExtraData();
+    if (searches)
+        m_proxy->setFilter(false);
     const bool collected = m_yumIO->collect(m_reposUsed);
     m_model->reset();
+    if (searches && !m_quitAsked) {
+        prepareFilterSearch();
+        m_proxy->setFilter(true);
+    }
     tell(collected ? QString() : tr("The packages were not collected. Refresh tries again."));
 }
 
@@ -330,6 +338,12 @@ bool MainWindow::isSearchMode() const
     return m_modeCombo->currentIndex() == int(PackageTable::Mode::Search);
 }
 
+bool MainWindow::searchesExtraData() const
+{
+    const QString text = m_regexpEdit->text();
+    return isSearchMode() && !text.isEmpty() && text != QStringLiteral(".*");
+}
+
 // A search asks the engine for every package, which takes its time; a filter does not.
 void MainWindow::changeFilter(const std::function<void()> &change)
 {
@@ -356,10 +370,8 @@ void MainWindow::filtersearch()
 // before they are there.
 void MainWindow::prepareFilterSearch()
 {
-    const QString text = m_regexpEdit->text();
-    if (!m_engineReady || !isSearchMode() || text.isEmpty() || text == QStringLiteral(".*"))
-        return;
-    if (m_yumIO->hasFileLists() && m_yumIO->hasOtherData())
+    if (!m_engineReady || !searchesExtraData() ||
+        (m_yumIO->hasFileLists() && m_yumIO->hasOtherData()))
         return;
     m_proxy->setFilter(false);
     m_yumIO->collectFileLists();

@@ -121,6 +121,7 @@ private:
     void recollect();
     void cleanAndCollect(bool (YumIO::*operation)());
     bool isSearchMode() const;
+    bool searchesExtraData() const;
     void changeFilter(const std::function<void()> &change);
     void prepareFilterSearch();
     void anyFilterChanged();

@@ -229,6 +229,9 @@ bool SortFilterProxyModel::acceptFields(const Entry &entry) const
     const auto any = [&](std::initializer_list<Getter> getters) {
         return std::any_of(getters.begin(), getters.end(), found);
     };
+    // Those of an installed package are in the rpm database. Those of the others may not have been
+    // loaded, because the user cancelled it; asking for them would load them, at every package.
+    const bool known = entry.state == State::Installed;
     switch (entry.kind) {
     case Kind::Group:
         return anySimple({&YumIO::getName}) ||
@@ -244,7 +247,9 @@ bool SortFilterProxyModel::acceptFields(const Entry &entry) const
                any({&YumIO::getInstallTime, &YumIO::getBinaryRpm, &YumIO::getSourceRpm,
                     &YumIO::getLicense, &YumIO::getPackager, &YumIO::getUrl, &YumIO::getRelocations,
                     &YumIO::getProvides, &YumIO::getRequires, &YumIO::getConflicts,
-                    &YumIO::getObsoletes, &YumIO::getFiles, &YumIO::getChangeLog});
+                    &YumIO::getObsoletes}) ||
+               ((known || m_yumIO->hasFileLists()) && any({&YumIO::getFiles})) ||
+               ((known || m_yumIO->hasOtherData()) && any({&YumIO::getChangeLog}));
     }
     return false;
 }

@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 
 #include <limits>
+#include <utility>
 
 namespace PackageTable {
 
@@ -125,22 +126,24 @@ QModelIndexList View::selectedRows() const
     return rows;
 }
 
+// A reset drops the current row without telling.
 void View::reset()
 {
-    const bool hadCurrent = currentIndex().isValid();
     HTableView::reset();
-    // A reset drops the current row without telling.
-    if (hadCurrent && !currentIndex().isValid())
-        Q_EMIT currentChanged(-1, -1);
+    tellCurrent(m_proxy->mapToSource(currentIndex()).row());
 }
 
 void View::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     HTableView::currentChanged(current, previous);
-    const int currentRow = m_proxy->mapToSource(current).row();
-    const int previousRow = m_proxy->mapToSource(previous).row();
-    if (currentRow != previousRow)
-        Q_EMIT currentChanged(currentRow, previousRow);
+    tellCurrent(m_proxy->mapToSource(current).row());
+}
+
+void View::tellCurrent(int row)
+{
+    const int previous = std::exchange(m_currentRow, row);
+    if (row != previous)
+        Q_EMIT currentChanged(row, previous);
 }
 
 void View::paintEvent(QPaintEvent *event)

@@ -43,6 +43,7 @@ protected:
     const QAbstractItemModel *measuredModel() const override;
 
 private:
+    void tellCurrent(int row);
     void toggleAction(const QModelIndex &index);
     void showContextMenu(const QModelIndex &index, const QPoint &globalPos);
 
@@ -50,6 +51,7 @@ private:
     SortFilterProxyModel *m_proxy;
     ActionContextMenu *m_actionContextMenu = nullptr;
     OtherContextMenu *m_otherContextMenu = nullptr;
+    int m_currentRow = -1; // the model's
     bool m_measureAll = false;
 };
 

@@ -1,0 +1,240 @@
+#include "packagetable/menus.h"
+#include "packagetable/view.h"
+#include "tablecase.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using namespace PackageTable;
+using namespace Qt::StringLiterals;
+using Package::Action;
+
+class TestView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_case.start());
+        m_view = std::make_unique<View>(m_case.model.get(), m_case.proxy.get(), nullptr);
+        m_view->resize(900, 600);
+        m_view->show();
+        m_view->resizeColumnsToContents();
+        QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+    }
+
+    void init()
+    {
+        m_case.model->clearActions();
+        m_view->clearSelection();
+        m_case.proxy->setFilterRegExp(QString());
+    }
+
+    void startsSortedByKind()
+    {
+        QCOMPARE(m_view->horizontalHeader()->sortIndicatorSection(), int(KindColumn));
+        QCOMPARE(m_case.listed().first(), QStringLiteral("tools-suite"));
+        QCOMPARE(m_case.listed().last(), QStringLiteral("pair"));
+    }
+
+    void headerClicksSort()
+    {
+        const QHeaderView *header = m_view->horizontalHeader();
+        const auto click = [&](int column) {
+            const QPoint pos(header->sectionViewportPosition(column) + 8, header->height() / 2);
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, pos);
+        };
+        click(NameColumn);
+        QCOMPARE(m_case.listed().first(), QStringLiteral("Attic"));
+        click(NameColumn);
+        QCOMPARE(m_case.listed().first(), QStringLiteral("tools-suite"));
+        QCOMPARE(m_case.proxy->filterKeyColumn(), int(NameColumn));
+        click(KindColumn);
+        QCOMPARE(m_case.listed().first(), QStringLiteral("tools-suite"));
+        QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
+    }
+
+    void clicksAndSpaceToggle()
+    {
+        QSignalSpy changed(m_view.get(), &View::stateChanged);
+        Package::Entry *beta = m_case.entry(QStringLiteral("beta"));
+        click(QStringLiteral("beta"), ActionColumn);
+        QCOMPARE(beta->action, Action::Install);
+        QCOMPARE(changed.takeLast(), QVariantList({m_case.row(QStringLiteral("beta"))}));
+        click(QStringLiteral("beta"), NameColumn);
+        QCOMPARE(beta->action, Action::Install);
+        QVERIFY(changed.isEmpty());
+        QTest::keyClick(m_view.get(), Qt::Key_Space);
+        QCOMPARE(beta->action, Action::None);
+        QCOMPARE(changed.size(), 1);
+    }
+
+    // Rows in the signal and in the selection are the model's.
+    void tellsRowsOfTheModel()
+    {
+        QSignalSpy current(m_view.get(), qOverload<int, int>(&View::currentChanged));
+        click(QStringLiteral("echo"), NameColumn);
+        QCOMPARE(current.takeLast()[0].toInt(), m_case.row(QStringLiteral("echo")));
+        const QModelIndexList rows = m_view->selectedRows();
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(rows[0].model(), m_case.model.get());
+        QCOMPARE(rows[0].row(), m_case.row(QStringLiteral("echo")));
+        m_case.proxy->setFilterRegExp(QStringLiteral("nothing at all"));
+        QCOMPARE(current.takeLast()[0].toInt(), -1);
+    }
+
+    void actionMenu_data()
+    {
+        QTest::addColumn<QStringList>("selected");
+        QTest::addColumn<QString>("at");
+        QTest::addColumn<QString>("enabled");
+        QTest::addColumn<QString>("choice");
+        QTest::addColumn<QString>("actions"); // of alpha (updatable), beta (installable), echo
+        QTest::newRow("installed") << QStringList{} << "echo"
+                                   << "RN"
+                                   << "R"
+                                   << "--R";
+        QTest::newRow("updatable") << QStringList{} << "alpha"
+                                   << "URN"
+                                   << "R"
+                                   << "R--";
+        QTest::newRow("installable") << QStringList{} << "beta"
+                                     << "IN"
+                                     << "I"
+                                     << "-I-";
+        QTest::newRow("selection: install where it fits")
+            << QStringList{u"alpha"_s, u"beta"_s, u"echo"_s} << "echo"
+            << "UIRN"
+            << "I"
+            << "-I-";
+        QTest::newRow("selection: remove where it fits")
+            << QStringList{u"alpha"_s, u"beta"_s, u"echo"_s} << "beta"
+            << "UIRN"
+            << "R"
+            << "R-R";
+        QTest::newRow("the selection decides, not the row") << QStringList{u"beta"_s} << "alpha"
+                                                            << "IN"
+                                                            << "I"
+                                                            << "-I-";
+    }
+
+    void actionMenu()
+    {
+        QFETCH(QStringList, selected);
+        QFETCH(QString, at);
+        QFETCH(QString, choice);
+        for (const QString &name : selected) {
+            m_view->selectionModel()->select(cell(name, NameColumn), QItemSelectionModel::Select |
+                                                                         QItemSelectionModel::Rows);
+        }
+        QString enabled;
+        answerMenu([&](QMenu *menu) {
+            for (QAction *action : menu->actions()) {
+                const QChar letter = letterOf(action);
+                if (action->isEnabled())
+                    enabled += letter;
+                if (letter == choice[0])
+                    action->trigger();
+            }
+        });
+        QSignalSpy changed(m_view.get(), &View::stateChanged);
+        rightClick(m_view->visualRect(cell(at, ActionColumn)).center());
+        QTEST(enabled, "enabled");
+        QCOMPARE(changed.size(), 1);
+        QString actions;
+        for (const char *name : {"alpha", "beta", "echo"})
+            actions += QStringLiteral("UIR-")[int(m_case.entry(QString::fromLatin1(name))->action)];
+        QTEST(actions, "actions");
+    }
+
+    // What is not there yet is not offered as if it were.
+    void otherMenu()
+    {
+        QString shown;
+        answerMenu([&](QMenu *menu) {
+            for (QAction *action : menu->actions()) {
+                if (action->isVisible())
+                    shown += action->text() + (action->isEnabled() ? u'+' : u'-');
+            }
+        });
+        rightClick(m_view->visualRect(cell(QStringLiteral("beta"), RepositoryColumn)).center());
+        QCOMPARE(shown, QStringLiteral("&Describe-Browse Repository-"));
+        shown.clear();
+        answerMenu([&](QMenu *menu) {
+            for (QAction *action : menu->actions()) {
+                if (action->isVisible())
+                    shown += action->text();
+            }
+        });
+        rightClick({20, m_view->viewport()->height() - 2}); // below the last row
+        QCOMPARE(shown, QStringLiteral("&Describe"));
+    }
+
+    // A package that is not listed decides the widths too, and the list stays as it is.
+    void widthsOfUnlistedPackages()
+    {
+        m_view->resizeColumnsToContents();
+        const int width = m_view->columnWidth(NameColumn);
+        m_case.proxy->setFilterRegExp(QStringLiteral("^echo "));
+        m_view->resizeColumnsToContents();
+        QCOMPARE(m_view->columnWidth(NameColumn), width);
+        QCOMPARE(m_case.listed(), QStringList{QStringLiteral("echo")});
+        m_view->setColumnWidth(NameColumn, 10);
+        m_view->HTableView::resizeColumnsToContents();
+        QVERIFY(m_view->columnWidth(NameColumn) < width);
+        m_view->resizeColumnsToContents();
+    }
+
+    void disabledColours()
+    {
+        const QModelIndex alpha = cell(QStringLiteral("alpha"), NameColumn);
+        const QVariant colour = alpha.data(Qt::ForegroundRole);
+        m_view->setEnabled(false);
+        QVERIFY(alpha.data(Qt::ForegroundRole) != colour);
+        m_view->setEnabled(true);
+        QCOMPARE(alpha.data(Qt::ForegroundRole), colour);
+    }
+
+private:
+    QModelIndex cell(const QString &name, int column)
+    {
+        const QModelIndex source = m_case.model->index(m_case.row(name), column);
+        const QModelIndex index = m_case.proxy->mapFromSource(source);
+        m_view->scrollTo(index);
+        return index;
+    }
+
+    void click(const QString &name, int column)
+    {
+        QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {},
+                          m_view->visualRect(cell(name, column)).center());
+    }
+
+    void rightClick(const QPoint &pos) { Q_EMIT m_view->customContextMenuRequested(pos); }
+
+    static QChar letterOf(const QAction *action)
+    {
+        return action->text()[action->text().indexOf(QLatin1Char('&')) + 1];
+    }
+
+    // Does something with the menu that is about to open, and closes it.
+    void answerMenu(const std::function<void(QMenu *)> &answer)
+    {
+        QTimer::singleShot(0, this, [answer] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QVERIFY(menu);
+            answer(menu);
+            menu->close();
+        });
+    }
+
+    TableCase m_case;
+    std::unique_ptr<View> m_view;
+};
+
+QTEST_MAIN(TestView)
+#include "test_view.moc"
