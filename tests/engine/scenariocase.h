@@ -20,7 +20,7 @@ public:
             return false;
         qputenv("VOK_TEST_SCENARIO", m_file.fileName().toUtf8());
         qputenv("VOKSHARE", ENGINE_SCENARIO_DIR);
-        engine.setup(&m_window, &totalBar, &itemBar);
+        engine.setup(&window, &totalBar, &itemBar);
         return engine.initialize();
     }
 
@@ -83,6 +83,7 @@ public:
         });
     }
 
+    QWidget window;
     HProgressBar totalBar;
     HProgressBar itemBar;
     YumIO engine;
@@ -106,7 +107,6 @@ private:
         return result;
     }
 
-    QWidget m_window;
     QTemporaryFile m_file;
     qsizetype m_logStart = 0;
 };

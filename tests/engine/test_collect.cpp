@@ -274,8 +274,9 @@ void TestCollect::failures_data()
     QTest::addColumn<QString>("last");      // the last call of the script
 
     const auto row = [](const char *scenario, const QStringList &texts, const char *last) {
-        QTest::newRow(scenario) << QByteArray(scenario) + '\n'
-                                << texts << QString::fromLatin1(last);
+        QTest::newRow(QByteArray(scenario).replace("\n", "; "))
+            << QByteArray(scenario) + '\n'
+            << texts << QString::fromLatin1(last);
     };
     const auto failed = [](const char *method) {
         return QStringList{unexpected,
