@@ -7,15 +7,28 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace {
 
 const QString organisation = QStringLiteral("VOK");
 const QString application = QStringLiteral("vok");
 const QString geometryKey = QStringLiteral("mainWindow/geometry");
+constexpr int declineMs = 100;
+
+// Nobody may be there any more to answer what the job asks, now or later, before it ends.
+void declineQuestion()
+{
+    QWidget *question = QApplication::activeModalWidget();
+    if (auto *dialog = qobject_cast<QDialog *>(question))
+        dialog->reject();
+    else if (question)
+        question->close();
+}
 
 } // namespace
 
@@ -70,6 +83,12 @@ void MainWindow::quit()
 // The job goes on until it can be stopped, or until it has ended.
 void MainWindow::askToQuit()
 {
+    if (!m_quitAsked) {
+        auto *decliner = new QTimer(this);
+        decliner->setObjectName(QStringLiteral("decliner"));
+        connect(decliner, &QTimer::timeout, this, declineQuestion);
+        decliner->start(declineMs);
+    }
     m_quitAsked = true;
     m_cancelButton->setEnabled(false);
     if (m_canCancel) {
@@ -78,9 +97,6 @@ void MainWindow::askToQuit()
     } else {
         tell(tr("VOK quits when the running operation is done."));
     }
-    // An open question of the job is answered by declining it.
-    if (QWidget *question = QApplication::activeModalWidget())
-        question->close();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
