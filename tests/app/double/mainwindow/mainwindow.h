@@ -11,7 +11,10 @@ class MainWindow
 public:
     void setMode(PackageTable::Mode mode) { note("mode", QString::number(int(mode))); }
     void setRegexp(const char *regexp) { note("regexp", QString::fromLocal8Bit(regexp)); }
-    void setStateFilter(PackageTable::StateFilter state) { note("state", QString::number(int(state))); }
+    void setStateFilter(PackageTable::StateFilter state)
+    {
+        note("state", QString::number(int(state)));
+    }
     void setDups(bool dups) { note("dups", QString::number(dups)); }
     void setGroups(bool groups) { note("groups", QString::number(groups)); }
     void setStartInEditor(bool start) { note("editor", QString::number(start)); }

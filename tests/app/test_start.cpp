@@ -1,0 +1,131 @@
+#include "app/main/commandline.h"
+#include "app/main/defaultstyle.h"
+#include "mainwindow/mainwindow.h"
+
+#include <QApplication>
+#include <QSettings>
+#include <QStyle>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <getopt.h>
+
+class TestStart : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void options_data()
+    {
+        QTest::addColumn<QString>("arguments"); // separated by blanks; '' is an empty one
+        QTest::addColumn<QString>("calls");
+        const auto row = [](const char *arguments, const char *calls) {
+            QTest::newRow(arguments)
+                << QString::fromLatin1(arguments) << QString::fromLatin1(calls);
+        };
+        row("-m f", "mode 0");
+        row("-m ''", "mode 0");
+        row("--mode=search", "mode 1");
+        row("-s ''", "state 0");
+        row("-su", "state 0");
+        row("--state i", "state 1");
+        row("--state=rem", "state 2");
+        row("-s al", "state 3");
+        row("-e ^kernel.*", "regexp ^kernel.*");
+        row("--regexp=", "regexp ");
+        row("--duplicates", "dups 0");
+        row("-grl", "groups 1,editor 1,log 1");
+        row("--groups --repo-editor --log", "groups 1,editor 1,log 1");
+        row("-s a -m s -s u", "state 3,mode 1,state 0");
+        row("--", "");
+    }
+
+    void options()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(QString, calls);
+        QCOMPARE(apply(arguments).join(u','), calls);
+    }
+
+    void repositories()
+    {
+        const QStringList calls = apply(QStringLiteral("--enablerepo=a* --disablerepo b"));
+        QCOMPARE(calls.size(), 2);
+        QVERIFY(calls[0].startsWith(QStringLiteral("enable ")));
+        QVERIFY(calls[1].startsWith(QStringLiteral("disable ")));
+        // The patterns are wildcards.
+        QVERIFY(YumRepoEnabled(true, QStringLiteral("a*")).matches(QStringLiteral("a/b")));
+        QVERIFY(calls[0].endsWith(YumRepoEnabled(true, QStringLiteral("a*")).pattern.pattern()));
+        QVERIFY(calls[1].endsWith(YumRepoEnabled(true, QStringLiteral("b")).pattern.pattern()));
+    }
+
+    void style_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("inSettings");
+        QTest::addColumn<bool>("isSet");
+        const auto words = [](const char *text) { return QString::fromLatin1(text).split(u' '); };
+        QTest::newRow("nothing") << words("vok -l") << false << true;
+        QTest::newRow("option") << words("vok -style windows") << false << false;
+        QTest::newRow("option with value") << words("vok -l -style=windows") << false << false;
+        QTest::newRow("other option") << words("vok -stylesheet=x") << false << true;
+        QTest::newRow("program name") << words("-style") << false << true;
+        QTest::newRow("settings") << words("vok") << true << false;
+    }
+
+    void style()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(bool, inSettings);
+        QFETCH(bool, isSet);
+        QTemporaryDir dir;
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dir.path());
+        if (inSettings) {
+            QSettings settings(QSettings::UserScope, QStringLiteral("Trolltech"));
+            settings.setValue(QStringLiteral("Qt/style"), QStringLiteral("windows"));
+        }
+        QApplication::setStyle(QStringLiteral("windows"));
+        QPalette odd;
+        odd.setColor(QPalette::Window, Qt::magenta);
+        QApplication::setPalette(odd);
+
+        Arguments raw(arguments);
+        DefaultStyle style(raw.count(), const_cast<const char **>(raw.data()));
+        style.set(*qApp, QStringLiteral("plastique"));
+        QCOMPARE(QApplication::style()->name(),
+                 isSet ? QStringLiteral("fusion") : QStringLiteral("windows"));
+        QCOMPARE(QApplication::palette().color(QPalette::Window) == QColor(Qt::magenta), !isSet);
+    }
+
+private:
+    class Arguments
+    {
+    public:
+        explicit Arguments(const QStringList &words)
+        {
+            for (const QString &word : words)
+                m_words.append(word == QStringLiteral("''") ? QByteArray() : word.toLocal8Bit());
+            for (QByteArray &word : m_words)
+                m_pointers.append(word.data());
+            m_pointers.append(nullptr);
+        }
+        int count() const { return int(m_words.size()); }
+        char **data() { return m_pointers.data(); }
+
+    private:
+        QList<QByteArray> m_words;
+        QList<char *> m_pointers;
+    };
+
+    static QStringList apply(const QString &arguments)
+    {
+        Arguments raw(QStringLiteral("vok ").append(arguments).split(u' '));
+        MainWindow window;
+        optind = 0; // starts anew
+        applyCommandLine(raw.count(), raw.data(), window);
+        return window.calls;
+    }
+};
+
+QTEST_MAIN(TestStart)
+#include "test_start.moc"
