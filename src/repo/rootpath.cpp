@@ -57,6 +57,12 @@ QByteArray RootPath::locate(const QString &path)
     return SysRoot::prefix().isEmpty() ? QFile::encodeName(path) : walk(path, true);
 }
 
+bool RootPath::status(const QString &path, struct stat &status)
+{
+    const QByteArray located = locate(path);
+    return !located.isEmpty() && stat(located.constData(), &status) == 0;
+}
+
 QByteArray RootPath::target(const QString &path)
 {
     return walk(path, true);

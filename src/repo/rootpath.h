@@ -3,12 +3,17 @@
 #include <QByteArray>
 #include <QString>
 
+#include <sys/stat.h>
+
 // Where paths inside the system root lie for the C library.
 namespace RootPath {
 
 // What to open for reading `path`. Links are followed inside the root: one to "/etc/x" leads to
 // the root's own /etc/x. Empty with errno set when links lead nowhere near an end.
 QByteArray locate(const QString &path);
+
+// stat() of what `path` leads to.
+bool status(const QString &path, struct stat &status);
 
 // The file itself that `path` leads to, with no link in it any more; it need not exist.
 QByteArray target(const QString &path);

@@ -14,7 +14,7 @@ namespace {
 bool exists(const QString &path)
 {
     struct stat status;
-    return stat(RootPath::locate(path).constData(), &status) == 0;
+    return RootPath::status(path, status);
 }
 
 } // namespace

@@ -135,7 +135,7 @@ bool YumConfIO::readReposDir(const QString &directory)
             continue;
         const QString path = directory + QLatin1Char('/') + name;
         struct stat status;
-        if (stat(RootPath::locate(path).constData(), &status) != 0) {
+        if (!RootPath::status(path, status)) {
             error(tr("Unable to stat repository configuration file %1").arg(path));
             return false;
         }

@@ -40,7 +40,7 @@ QStringList repoFiles(const QString &directory)
 bool isDirectory(const QString &path)
 {
     struct stat status;
-    return stat(RootPath::locate(path).constData(), &status) == 0 && S_ISDIR(status.st_mode);
+    return RootPath::status(path, status) && S_ISDIR(status.st_mode);
 }
 
 bool carriesPassword(const QString &text)
@@ -235,7 +235,7 @@ bool YumConfIO::removeUnusedFiles(const QSet<QString> &usedFiles)
     for (const QString &directory : std::as_const(reposdirs)) {
         for (const QString &path : repoFiles(directory)) {
             struct stat status;
-            if (stat(RootPath::locate(path).constData(), &status) != 0) {
+            if (!RootPath::status(path, status)) {
                 error(tr("Unable to stat repository configuration file %1").arg(path));
                 return false;
             }
