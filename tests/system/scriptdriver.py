@@ -21,12 +21,14 @@ The result holds `calls` (a list of [callback, arguments...]), `values` (one for
 import json
 import os
 import pathlib
+import shutil
 import signal
 import subprocess
 import sys
 import tempfile
 import traceback
 import types
+import unittest
 
 CHECKOUT = pathlib.Path(__file__).resolve().parent.parent.parent
 SANDBOX = CHECKOUT / "tools" / "sandbox"
@@ -56,6 +58,63 @@ def run(root, scenario, environment=None, timeout=120):
         answer = json.loads(result.read_text(encoding="utf-8"))
         answer["stdout"] = done.stdout
         return answer
+
+
+def quick_place():
+    """A directory in memory, where rpm's and DNF's many synchronous writes cost nothing; None when
+    there is none with room for the roots."""
+    place = "/dev/shm"
+    try:
+        return place if shutil.disk_usage(place).free > 2 << 30 and os.access(place, os.W_OK) else None
+    except OSError:
+        return None
+
+
+class Case(unittest.TestCase):
+    """Tests that each work on a copy of one sandbox, made once for a class."""
+
+    @classmethod
+    def setUpClass(cls):
+        place = tempfile.TemporaryDirectory(prefix="vok-script-", dir=quick_place())
+        cls.addClassCleanup(place.cleanup)
+        cls.place = pathlib.Path(place.name)
+        subprocess.run([SANDBOX, "create", cls.place / "model"], check=True,
+                       stdout=subprocess.DEVNULL)
+        cls.count = 0
+
+    def root(self):
+        type(self).count += 1
+        root = self.place / ("root%d" % self.count)
+        subprocess.run([SANDBOX, "copy", self.place / "model", root], check=True)
+        self.addCleanup(subprocess.run, ["rm", "-rf", root])
+        return root
+
+    @staticmethod
+    def packages(root):
+        """The installed packages as name-version-release.arch, without their keys."""
+        return {line for line in tool(root, "rpm", "-qa").split()
+                if not line.startswith("gpg-pubkey-")}
+
+    def apply(self, root, marks, **scenario):
+        """Collects and applies; returns the result, its value and its error."""
+        result = run(root, dict(steps=[{"do": "collect"}, dict(marks, do="apply")], **scenario))
+        self.assertIsNone(result["errors"][0])
+        return result, result["values"][1], result["errors"][1]
+
+
+def tool(root, name, *arguments, check=True):
+    """The output of rpm or dnf on a root."""
+    done = subprocess.run([SANDBOX, name, root, *arguments], text=True, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, errors="replace")
+    if check and done.returncode:
+        raise AssertionError("%s %s ended with %d\n%s" % (name, " ".join(arguments),
+                                                          done.returncode, done.stdout))
+    return done.stdout
+
+
+def calls(result, name):
+    """The arguments of each call of a callback."""
+    return [call[1:] for call in result["calls"] if call[0] == name]
 
 
 class Recorder:
