@@ -72,9 +72,10 @@ PyObject *Python::pyExceptValue()
     PyObject *localType = Py_XNewRef(type);
     PyObject *localValue = Py_XNewRef(value);
     PyObject *localTraceback = Py_XNewRef(traceback);
-    PyErr_Restore(type, value, traceback);
+    // With nothing pending: making the value's object runs interpreter code.
     if (localType)
         PyErr_NormalizeException(&localType, &localValue, &localTraceback);
+    PyErr_Restore(type, value, traceback);
     Py_XDECREF(localType);
     Py_XDECREF(localTraceback);
     return localValue;

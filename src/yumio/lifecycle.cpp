@@ -95,6 +95,13 @@ bool YumIO::initialize()
         return failInitialize(tr("Internal error: cannot create python module yumIOC"));
     const PyRef argv(Py_BuildValue("[ss]", programName().toUtf8().constData(), "info"));
     PySys_SetObject("argv", argv.get());
+    // Until the script has its own way: why it could not start belongs in the log, and, since the
+    // program ends then, on the terminal.
+    py("import sys, types, yumIOC\n"
+       "def _write(text):\n"
+       "    yumIOC.stderrWrite(text)\n"
+       "    if sys.__stderr__: sys.__stderr__.write(text)\n"
+       "sys.stderr = types.SimpleNamespace(write=_write, flush=lambda: None)\n");
 
     if (!runScript() || !createYumIO())
         return false;

@@ -308,6 +308,14 @@ void TestPython::exceptionTexts()
     QVERIFY(!m_python->pyCall("fail", "(O,s)", PyExc_ValueError, "by str"));
     const PyRef plain(m_python->pyExceptValuef());
     QCOMPARE(m_python->pyString(plain.get()), "by str");
+    PyErr_Clear();
+
+    // One that the interpreter has not made an object of yet.
+    PyErr_SetString(PyExc_SystemExit, "by C");
+    const PyRef raw(m_python->pyExceptValuef());
+    QCOMPARE(m_python->pyString(raw.get()), "by C");
+    QVERIFY(m_python->pyExceptMatches(nullptr, PyExc_SystemExit));
+    PyErr_SetString(PyExc_ValueError, "the last");
     QVERIFY(m_python->pyExceptMatches(nullptr, PyExc_ValueError));
     m_python->pyExceptClear();
     QCOMPARE(m_python->take(), QStringList());
