@@ -82,16 +82,6 @@ private Q_SLOTS:
         QCOMPARE(m_bar->text(), QStringLiteral("40%"));
     }
 
-    void tipIsAskedFor()
-    {
-        QSignalSpy asked(m_bar, &HProgressBar::toolTip);
-        QHelpEvent help(QEvent::ToolTip, QPoint(7, 8), m_bar->mapToGlobal(QPoint(7, 8)));
-        QApplication::sendEvent(m_bar, &help);
-        QCOMPARE(asked.size(), 1);
-        QCOMPARE(asked.at(0).at(0).toPoint(), QPoint(7, 8));
-        QVERIFY(help.isAccepted());
-    }
-
     void tipRows_data()
     {
         QTest::addColumn<QList<ThreadState>>("states");
@@ -132,42 +122,25 @@ private Q_SLOTS:
         QVERIFY(!GeneralTip::current());
     }
 
-    void tipHides_data()
-    {
-        QTest::addColumn<QEvent::Type>("type");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<bool>("hides");
-        const Qt::KeyboardModifiers none = Qt::NoModifier;
-        QTest::newRow("shift") << QEvent::KeyPress << int(Qt::Key_Shift) << none << false;
-        QTest::newRow("alt up") << QEvent::KeyRelease << int(Qt::Key_Alt) << none << false;
-        QTest::newRow("a") << QEvent::KeyPress << int(Qt::Key_A) << none << true;
-        QTest::newRow("ctrl+a") << QEvent::KeyPress << int(Qt::Key_A)
-                                << Qt::KeyboardModifiers(Qt::ControlModifier) << false;
-        QTest::newRow("wheel") << QEvent::Wheel << 0 << none << true;
-        QTest::newRow("leave") << QEvent::Leave << 0 << none << true;
-        QTest::newRow("other window") << QEvent::WindowDeactivate << 0 << none << true;
-        QTest::newRow("move") << QEvent::Move << 0 << none << false;
-    }
-
     void tipHides()
     {
-        QFETCH(QEvent::Type, type);
-        QFETCH(int, key);
-        QFETCH(Qt::KeyboardModifiers, modifiers);
-        QFETCH(bool, hides);
-        QString text = QStringLiteral("Tip");
-        GeneralTip::showTip(QPoint(10, 10), setupLabel, &text, m_bar, true);
-        const QPointer<GeneralTip> tip = GeneralTip::current();
-        QVERIFY(tip->isVisible());
-        // To an object without handlers of its own; the tip listens to the whole application.
-        QObject receiver;
-        QEvent plain(type);
-        QKeyEvent pressed(type, key, modifiers);
-        QApplication::sendEvent(&receiver, key ? &pressed : &plain);
-        QCOMPARE(tip->isVisible(), !hides);
-        if (hides)
-            QTRY_VERIFY(!tip);
+        const auto hides = [this](QEvent *event) {
+            QString text = QStringLiteral("Tip");
+            GeneralTip::showTip(QPoint(10, 10), setupLabel, &text, m_bar, true);
+            // To an object without handlers of its own: the tip listens to the whole application.
+            QObject receiver;
+            QApplication::sendEvent(&receiver, event);
+            return !GeneralTip::current()->isVisible();
+        };
+        QKeyEvent shift(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
+        QEvent move(QEvent::Move);
+        QVERIFY(!hides(&shift) && !hides(&held) && !hides(&move));
+        QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+        QEvent wheel(QEvent::Wheel);
+        QEvent otherWindow(QEvent::WindowDeactivate);
+        QVERIFY(hides(&letter) && hides(&wheel) && hides(&otherWindow));
+        QTRY_VERIFY(!GeneralTip::current());
     }
 
     void onlyOneTip()

@@ -1,10 +1,7 @@
 #include "app/colors.h"
 #include "widgets/hframelabel.h"
-#include "widgets/hscrollarea.h"
 #include "widgets/htextedit.h"
 
-#include <QLabel>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
@@ -14,16 +11,6 @@ class TestKit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textEditHint()
-    {
-        const HTextEdit small(2, 20);
-        const HTextEdit large(10, 80);
-        const QFontMetrics metrics = large.fontMetrics();
-        QCOMPARE(large.sizeHint().height() - small.sizeHint().height(), 8 * metrics.lineSpacing());
-        QCOMPARE(large.sizeHint().width() - small.sizeHint().width(),
-                 60 * metrics.averageCharWidth());
-    }
-
     // Rows and columns are whole ones: a text of that size needs no scroll bar.
     void textEditRoom()
     {
@@ -64,27 +51,6 @@ private Q_SLOTS:
         label.setText(QStringLiteral("<i>x"));
         QCOMPARE(label.grab().toImage().pixelColor(30, 4), Colors::errorBg());
         QVERIFY(label.sizeHint().width() > label.fontMetrics().horizontalAdvance(label.text()));
-    }
-
-    void scrollArea_data()
-    {
-        QTest::addColumn<QSize>("contents");
-        QTest::newRow("small") << QSize(120, 80);
-        QTest::newRow("large") << QSize(100000, 100000);
-    }
-
-    void scrollArea()
-    {
-        QFETCH(QSize, contents);
-        HScrollArea area;
-        auto *widget = new QWidget;
-        widget->setMinimumSize(contents);
-        area.setWidget(widget);
-        const QSize screen = area.screen()->availableSize();
-        QVERIFY(area.sizeHint().width() < screen.width());
-        QVERIFY(area.sizeHint().height() < screen.height());
-        if (contents.width() < screen.width() / 2)
-            QVERIFY(area.sizeHint().width() >= contents.width());
     }
 };
 
