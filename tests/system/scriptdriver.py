@@ -181,12 +181,12 @@ class Program:
     """What the program does with the object yumIO."""
 
     def __init__(self, make):
-        self._make = make
+        self.make = make
         self.yumio = None
         self.updates = self.all = self.groups = None
 
     def collect(self, step, scenario):
-        self.yumio = io = self._make()
+        self.yumio = io = self.make()
         io.lock()
         for name in scenario.get("enable", ()):
             io.repos.enableRepo(name)

@@ -1,0 +1,254 @@
+"""What the script does when a transaction cannot be had, is stopped, or fails half-way."""
+
+import pathlib
+import re
+import subprocess
+import unittest
+
+import httpserver
+from scriptdriver import Case, calls, run, tool
+
+# Marks that cannot be resolved as they are; words of the explanation; the question, when there is a way
+# out; what comes and goes after a yes.
+UNRESOLVABLE = {
+    "a missing provider": ({"install": ["broken"]}, ["broken-1.0-1.noarch needs no-such-thing >= 2"]),
+    "an update in the same case": ({"update": ["stuck"]}, ["needs libmissing.so.3"]),
+    "an excluded provider": ({"install": ["needs-shunned"]},
+                             ["shunned-1.0-1.noarch is excluded", "repository extras", "exclude=shunned"]),
+    "a protected package": ({"remove": ["vital"]}, ["vital, which is protected"]),
+    "what a protected package needs": ({"remove": ["vital-libs"]}, ["vital, which is protected"]),
+    "what would push a protected package out": ({"install": ["usurper"]}, ["vital"]),
+}
+WAYS_OUT = {
+    "leaving out what is broken": ({"install": ["broken", "abacus"]}, "The rest can be done without:",
+                                   (), ("abacus-1.2-1.x86_64",)),
+    "erasing what conflicts": ({"install": ["mail-beta"]}, "It can be done by removing:",
+                               ("mail-alpha-1.0-1.noarch",), ("mail-beta-1.0-1.noarch",)),
+    "erasing beside a removal": ({"install": ["mail-beta"], "remove": ["clock"]}, "Remove it too?",
+                                 ("mail-alpha-1.0-1.noarch", "clock-1.0-1.x86_64"),
+                                 ("mail-beta-1.0-1.noarch",)),
+}
+# Marks; what is reported of each element that is not simply done; what came and what went.
+HALF_WAY = {
+    "%pre": ({"install": ["fail-pre", "abacus"]}, {"fail-pre": ("failed", "%prein")},
+             {"abacus"}, set()),
+    "%pre in Lua": ({"install": ["fail-lua"]}, {"fail-lua": ("failed", "on purpose")}, set(), set()),
+    "%pretrans": ({"install": ["fail-pretrans", "abacus"]},
+                  {"fail-pretrans": ("failed", "%pretrans")}, {"abacus"}, set()),
+    "%pre of an update": ({"update": ["fail-update"]}, {"fail-update": ("failed", "%prein"),
+                          "fail-update old": ("skipped", "was not installed")}, set(), set()),
+    "%post": ({"install": ["fail-post"]}, {"fail-post": ("done", "%post")}, {"fail-post"}, set()),
+    "%preun": ({"remove": ["fail-preun", "clock"]}, {"fail-preun": ("failed", "%preun")},
+               set(), {"clock"}),
+    "%preun of the old version": ({"update": ["doubles"]}, {"doubles old": ("failed", "%preun")},
+                                  {"doubles"}, set()),
+    "a trigger": ({"install": ["badwire"]}, {"badwire": ("done", "%triggerin(bad-watcher")},
+                  {"badwire"}, set()),
+    "a missing interpreter": ({"install": ["no-shell"]}, {"no-shell": ("done", "no-such-shell")},
+                              {"no-shell"}, set()),
+    "what needs a package that failed": ({"install": ["needs-fail-pre"]},
+                                         {"fail-pre": ("failed", "%prein")}, {"needs-fail-pre"}, set()),
+}
+
+
+def name_of(package):
+    return package.rpartition(":")[2].rsplit("-", 2)[0]
+
+
+class Failures(Case):
+    def change(self, root, before):
+        after = self.packages(root)
+        return set(after - before), set(before - after)
+
+    def test_unresolvable(self):
+        root = self.root()
+        before = self.packages(root)
+        steps = [dict(marks, do="apply") for marks, _ in UNRESOLVABLE.values()]
+        result = run(root, {"steps": [{"do": "collect"}, *steps]})
+        for (name, (_, words)), error in zip(UNRESOLVABLE.items(), result["errors"][1:]):
+            with self.subTest(name):
+                self.assertEqual(error[0], "YumBaseError")
+                for word in words:
+                    self.assertIn(word, error[1])
+        self.assertEqual(calls(result, "userconfirm"), [])
+        self.assertEqual(self.packages(root), before)
+
+    def test_ways_out(self):
+        for name, (marks, question, gone, came) in WAYS_OUT.items():
+            with self.subTest(name):
+                root = self.root()
+                before = self.packages(root)
+                declined, value, error = self.apply(root, marks, confirm=[0])
+                self.assertEqual((value, error), (False, None))
+                self.assertEqual(calls(declined, "listTransaction"), [])
+                self.assertTrue(any(question in text for _, text in calls(declined, "log")))
+                self.assertEqual(self.packages(root), before)
+                _, value, error = self.apply(root, marks, confirm=[1, 1])
+                self.assertEqual((value, error), (True, None))
+                self.assertEqual(self.change(root, before), (set(came), set(gone)))
+
+    def test_half_way(self):
+        for name, (marks, reported, came, gone) in HALF_WAY.items():
+            with self.subTest(name):
+                root = self.root()
+                before = self.packages(root)
+                result, value, error = self.apply(root, marks)
+                self.assertEqual((value, error), (True, None))
+                found = {}
+                for package, outcome, reason in calls(result, "transactionReport")[0][0]:
+                    old = package.partition(":")[2] in before and package not in str(marks) \
+                        and name_of(package) in marks.get("update", ())
+                    found[name_of(package) + " old" * old] = outcome, reason
+                self.assertEqual({key for key, row in found.items() if row != ("done", "")},
+                                 set(reported))
+                for key, (outcome, word) in reported.items():
+                    self.assertEqual(found[key][0], outcome)
+                    self.assertIn(word, found[key][1])
+                new, lost = self.change(root, before)
+                self.assertEqual((set(map(name_of, new)), set(map(name_of, lost))), (came, gone))
+
+    def test_file_conflict(self):
+        root = self.root()
+        for marks in ({"install": ["clash-left", "clash-right"]}, {"install": ["clash-calendar"]}):
+            result, value, error = self.apply(root, marks)
+            self.assertEqual((value, error[0]), (None, "YumBaseError"))
+            self.assertRegex(error[1], "file /.+ conflicts ")
+            self.assertEqual(calls(result, "tsEvent"), [])
+
+    def test_signatures(self):
+        """Nothing is changed for a package that must not be trusted; a key is imported on a yes."""
+        for marked, key, enabled, outcome in (
+                ("unsigned", True, (), "unsigned-1.0-1.noarch cannot be trusted: .* not signed"),
+                ("damaged", True, (), "damaged-1.0-1.noarch cannot be trusted: .* damaged"),
+                ("foreign-key", False, (), "foreign-key-1.0-1.noarch cannot be trusted"),
+                ("needs-foreign", True, (), None),
+                ("anvil", True, ("foundry",), None)):
+            with self.subTest(marked):
+                root = self.root()
+                before = self.packages(root)
+                result, value, error = self.apply(root, {"install": [marked, "abacus"]}, key=key,
+                                                  enable=enabled)
+                questions = calls(result, "keyQuestion")
+                if outcome is None:
+                    self.assertEqual((value, error), (True, None))
+                    self.assertIn(marked, map(name_of, self.change(root, before)[0]))
+                else:
+                    self.assertRegex(error[1], outcome)
+                    self.assertEqual(self.packages(root), before)
+                    self.assertEqual(calls(result, "tsInitCallback"), [])
+                if marked in ("unsigned", "damaged"):
+                    continue
+                for key_id, owner, fingerprint, source in questions:
+                    self.assertTrue(fingerprint.endswith(key_id))
+                    self.assertIn("@foundry.example", owner)
+                    self.assertIn("file:///srv/repos/RPM-GPG-KEY-foundry", source)
+                self.assertEqual(len(questions), 2 if enabled else 1)
+        refused = run(self.root(), {"enable": ["foundry"], "steps": [{"do": "collect"}]})
+        self.assertEqual(refused["errors"][0][0], "RepoError")
+        self.assertIn("GPG", refused["errors"][0][1])
+
+    def test_downloads(self):
+        """Servers that fail, and one that takes over."""
+        packages = "{};only=*.rpm"
+        for name, kind, behaviour, second, extra, step, error, word in (
+                ("not found", "http", "status=404", None, "", 0, "RepoError", "Status code: 404"),
+                ("refused", "closed", "", None, "", 0, "RepoError", "connect"),
+                ("certificate", "expired", "", None, "", 0, "RepoError", "certificate"),
+                ("a page instead", "http", "html", None, "", 0, "RepoError", "repomd"),
+                ("left out", "http", "status=503", None, "skip_if_unavailable=1", 0, None, ""),
+                ("vanished", "http", packages.format("status=404"), None, "", 1,
+                 "NoMoreMirrorsRepoError", "Status code: 404"),
+                ("corrupt", "http", packages.format("flip"), None, "", 1, "NoMoreMirrorsRepoError",
+                 "checksum"),
+                ("mirror", "http", packages.format("status=503"), "", "", 1, None, "")):
+            with self.subTest(name):
+                root = self.root()
+                directory = pathlib.Path(root, "srv/repos/9/x86_64/extras")
+                with httpserver.Server(directory, tls=kind == "expired") as server:
+                    urls = [server.url("", behaviour, kind)]
+                    urls += [server.url("", second)] if second is not None else []
+                    self.serve(root, urls, extra)
+                    install = {"do": "apply", "install": ["chess"]}
+                    result = run(root, {"steps": [{"do": "collect"}] + [install] * step})
+                last = result["errors"][step]
+                self.assertEqual(last and last[0], error)
+                self.assertIn(word, str(last))
+                failures = calls(result, "collectGrabMeterFailure" if not step
+                                 else "applyGrabMeterFailure")
+                self.assertEqual(bool(failures), name != "a page instead")
+                if name == "left out":
+                    told = " ".join(text for _, text in calls(result, "errorlog"))
+                    self.assertIn("Repository extras: ", told)
+                    self.assertIn("Status code: 503", told)
+
+    @staticmethod
+    def serve(root, urls, extra=""):
+        path = pathlib.Path(root, "etc/yum.repos.d/aster-extras.repo")
+        text = re.sub("baseurl = .*", "baseurl = " + "\n  ".join(urls), path.read_text())
+        path.write_text(text + "\ntimeout=5\nretries=1\n%s\n" % extra)
+
+    def test_cancel(self):
+        """A cancel ends what is running; the packages and the session are as before."""
+        for at, step, error in (("collectGrabMeterUpdate", 0, "CancelledRepoError"),
+                                ("collectProgress", 0, "CancelledError"),
+                                ("dsTsCheck", 1, "CancelledError"),
+                                ("applyGrabMeterUpdate", 1, "CancelledError")):
+            with self.subTest(at):
+                root = self.root()
+                before = self.packages(root)
+                directory = pathlib.Path(root, "srv/repos/9/x86_64/extras")
+                with httpserver.Server(directory) as server:
+                    self.serve(root, [server.url("", "rate=40000;only=*.rpm")])
+                    result = run(root, {"cancelAt": at, "steps": [
+                        {"do": "collect"}, {"do": "apply", "install": ["heavy"]}][:step + 1]})
+                self.assertEqual(result["errors"][step], [error, "Cancelled by the user"])
+                self.assertEqual(self.packages(root), before)
+                opened = calls(result, "applyGrabMultiMeterStart")
+                self.assertEqual(len(opened), len(calls(result, "applyGrabMultiMeterEnd")))
+
+    def test_locks(self):
+        root = self.root()
+        run(root, {"steps": [{"do": "collect"}]})
+        code = "import fcntl, os, sys; stream = open(sys.argv[1], 'r+'); " \
+               "fcntl.flock(stream, fcntl.LOCK_EX); stream.write(str(os.getpid())); stream.flush(); " \
+               "print(flush=True); sys.stdin.read()"
+        collect = {"steps": [{"do": "collect"}]}
+        for name, path in (("ours", "run/vok/vok.lock"), ("dnf's", "var/lib/dnf/rpmdb_lock.pid")):
+            with self.subTest(name):
+                lock = pathlib.Path(root, path)
+                lock.touch()
+                holder = subprocess.Popen(["/usr/bin/python3", "-c", code, lock], text=True,
+                                          stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+                holder.stdout.readline()
+                for scenario in ({"without": ["lockWait"]}, {}):
+                    result = run(root, dict(collect, **scenario))
+                    self.assertEqual(result["errors"][0][0], "LockError")
+                    self.assertRegex(result["errors"][0][1],
+                                     r"process %d \(/usr/bin/python3 -c" % holder.pid)
+                self.assertEqual([pid for pid, _ in calls(result, "lockWait")], [holder.pid])
+                result = run(root, dict(collect, cancelAt="lockWait", lockWait=[1]))
+                self.assertEqual(result["errors"][0][0], "CancelledLockError")
+                holder.communicate("")
+                self.assertIsNone(run(root, collect)["errors"][0])
+
+    def test_killed(self):
+        """The start after a kill says what rpm left, once; the database is sound."""
+        marks = {"do": "apply", "install": ["shell-hello"], "update": ["clock", "weather"],
+                 "remove": ["orphan"]}
+        for at, twice in ((1, 0), (8, 1), (12, 2), (18, 2)):
+            with self.subTest(at):
+                root = self.root()
+                self.assertIsNone(run(root, {"killAt": ["tsEvent", at],
+                                             "steps": [{"do": "collect"}, marks]}))
+                steps = [{"do": "collect"}, {"do": "interrupted"}]
+                lines, = run(root, {"steps": steps})["values"][1:]
+                self.assertIn("interrupted", lines[0])
+                self.assertEqual(len([line for line in lines if "Installed twice" in line]), twice)
+                doubled = tool(root, "dnf", "-q", "check", check=False).count("is a duplicate with")
+                self.assertEqual(doubled, twice)
+                tool(root, "rpm", "--verifydb")
+                self.assertEqual(run(root, {"steps": steps})["values"][1], [])
+
+
+if __name__ == "__main__":
+    unittest.main()
