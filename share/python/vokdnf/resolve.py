@@ -91,7 +91,7 @@ class Resolver:
     def _offer_skipping(self, erasing):
         if not self._marks.wanted or not self._try(False, erasing):
             return None
-        there = {packages.envra(item.pkg) for item in self._base.transaction
+        there = {packages.envra(item.pkg) for item in tsinfo.elements(self._base.transaction)
                  if item.action not in tsinfo.ERASING}
         left_out = [pkg for pkg in self._marks.wanted if packages.envra(pkg) not in there]
         if not left_out or not len(self._base.transaction):

@@ -9,11 +9,12 @@ import traceback  # noqa: F401
 import dnf.drpm
 import dnf.exceptions
 import dnf.repo
+import rpm
 
 from yum import Errors
 
 from . import display, errors, groups, interrupted, keys, locks, meters, packages, report, resolve
-from . import tsinfo
+from . import root, tsinfo
 
 _CLONE_FS = 0x200
 
@@ -36,6 +37,7 @@ class Transaction:
         the callback transactionReport tells what failed."""
         if self._session.spent:
             raise Errors.YumBaseError("A transaction has run already; the packages must be read again.")
+        _check_writable()
         try:
             with errors.translated():
                 if not self._prepare():
@@ -61,7 +63,7 @@ class Transaction:
         if not len(self._base.transaction) and not self._noted:
             report.log(0, "Nothing to do.")
             return False
-        self._fill_tsinfo(self._base.transaction)
+        self._fill_tsinfo(tsinfo.elements(self._base.transaction))
         install = list(self._base.transaction.install_set)
         report.yumIOC.listTransaction(self._yumio)
         report.yumIOC.reportDownloadSize([packages.Package(pkg) for pkg in install
@@ -105,7 +107,7 @@ class Transaction:
         base, session = self._base, self._session
         report.job_state("transaction", False)
         report.yumIOC.tsInitCallback(1)
-        items = list(base.transaction)
+        items = tsinfo.elements(base.transaction)
         shown = display.Display(items)
         base.args = ["vok"]  # what DNF's history shows as the command line
         if base.conf.installroot != "/":
@@ -141,6 +143,15 @@ class Transaction:
                 report.errorlog(0, "%s %s: %s" % (name, outcome, reason))
         if report.offers("transactionReport"):
             report.yumIOC.transactionReport(rows)
+
+
+def _check_writable():
+    """Says early that this user, or this file system, takes no transaction."""
+    path = rpm.expandMacro("%{_dbpath}")
+    if not os.access(root.resolve(path), os.W_OK):
+        reason = "this needs the rights of the administrator" if os.geteuid() else \
+            "the file system is read-only, or the directory is missing"
+        raise Errors.YumBaseError("The package database in %s cannot be written: %s." % (path, reason))
 
 
 class HistoryOutput:

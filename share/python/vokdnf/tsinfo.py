@@ -17,6 +17,13 @@ REPLACED = (kinds.TransactionItemAction_UPGRADED, kinds.TransactionItemAction_DO
 ERASING = (REMOVE, OBSOLETED) + REPLACED
 
 
+def elements(transaction):
+    """The items of a transaction of DNF that stand for a package: a removal also changes the reasons of
+    what it leaves without a need, in items that have none."""
+    return [item for item in transaction
+            if item.action != kinds.TransactionItemAction_REASON_CHANGE]
+
+
 class Member:
     """One package of a transaction. Texts: `repoid`, `epoch`, `ver`, `rel`; `pkgtup` is (name, arch,
     epoch, version, release); `po` the package object; `relatedto` pairs of such a tuple and a relation,
