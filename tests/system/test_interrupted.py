@@ -1,0 +1,170 @@
+"""A program that is killed in the middle of a transaction: what the next start tells, and that the system
+is sound and can be brought to where it was to go."""
+
+import concurrent.futures
+import json
+import os
+import pathlib
+import re
+import signal
+import subprocess
+import sys
+import unittest
+
+from scriptdriver import CHECKOUT, SANDBOX, Case, calls, run, tool
+
+sys.path.insert(0, str(CHECKOUT / "tools"))
+from guidriver import wait_for  # noqa: E402
+
+UPDATE, REMOVE = ["clock", "bellows", "confy"], ["compass"]
+NEVER = {"killAt": ["never", 0]}  # allows that a scenario is killed from outside
+MARKER = "var/lib/vok/transaction.json"
+
+
+def event(name, code, started=True):
+    """A condition: rpm begins with an element, or is in the midst of it."""
+    def holds(arguments):
+        package, its_code, done, total = arguments[:4]
+        return name in package and its_code == code and (done == 0 if started else 0 < done < total)
+    return holds
+
+
+def line(start):
+    return lambda arguments: arguments[1].startswith(start)
+
+
+# What is installed beside the updates and the removal; a callback and what its arguments hold in the call
+# that kills; whether rpm had begun by then.
+IN_A_CALLBACK = {
+    "while it resolves": ("abacus", "dsTsCheck", lambda _: True, False),
+    "while the user is asked": ("abacus", "userconfirm", lambda _: True, False),
+    "before rpm begins": ("abacus", "tsInitCallback", lambda _: True, False),
+    "while rpm prepares": ("abacus", "log", line("Preparing"), True),
+    "between two elements": ("abacus", "tsEvent", event("confy", 10), True),
+    "while a large file is unpacked": ("heavy", "tsEvent", event("heavy", 30, False), True),
+    "at the removal": ("abacus", "tsEvent", event("compass", 40), True),
+    "in the cleanup of an update": ("abacus", "tsEvent", event("clock", 90), True),
+    "at the last element": ("abacus", "tsEvent", event("bellows", 90), True),
+    "while the result is verified": ("abacus", "log", line("Verifying"), True),
+}
+# A scriptlet's own words: it is killed while that runs.
+IN_A_SCRIPTLET = {"slow-1 pre": "slow-1", "slow-2 post": "slow-2"}
+
+
+def name_of(package):
+    return package.rsplit("-", 2)[0]
+
+
+def check(root):
+    """What dnf finds wrong with a root; empty when nothing is."""
+    return subprocess.run([SANDBOX, "dnf", root, "-q", "check"], text=True, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT).stdout
+
+
+def kill_in_scriptlet(root, words, process):
+    """Kills a process once rpm runs the scriptlet of a root that holds these words."""
+    def runs():
+        for path in pathlib.Path(root, "var/tmp").glob("rpm-tmp.*"):
+            try:
+                if words in path.read_text(encoding="utf-8"):
+                    return True
+            except OSError:
+                pass
+        return False
+
+    wait_for(runs, "the scriptlet of %s" % words)
+    os.kill(process(), signal.SIGKILL)
+
+
+class Interrupted(Case):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.rehearsals = {}
+
+    def rehearse(self, install):
+        """How a transaction goes when nobody kills it: the marks, the result, the packages before and
+        after."""
+        if install not in self.rehearsals:
+            root = self.root()
+            marks = {"install": [install], "update": UPDATE, "remove": REMOVE}
+            before = self.packages(root)
+            result, value, error = self.apply(root, marks)
+            self.assertEqual((value, error), (True, None))
+            self.rehearsals[install] = marks, result, before, self.packages(root)
+        self.marks, self.result, self.before, self.after = self.rehearsals[install]
+
+    def kill_in_callback(self, root, callback, condition):
+        number = [condition(arguments) for arguments in calls(self.result, callback)].index(True) + 1
+        done = run(root, {"steps": [{"do": "collect"}, dict(self.marks, do="apply")],
+                          "killAt": [callback, number]})
+        self.assertIsNone(done, "it was not killed")
+
+    def kill_in_scriptlet(self, root, words):
+        with concurrent.futures.ThreadPoolExecutor(1) as pool:
+            done = pool.submit(run, root, dict(NEVER, steps=[{"do": "collect"},
+                                                             dict(self.marks, do="apply")]))
+            kill_in_scriptlet(root, words,
+                              lambda: json.loads((root / MARKER).read_text(encoding="utf-8"))["pid"])
+            self.assertIsNone(done.result())
+
+    def verify(self, root, begun):
+        """The next start tells what the database shows; the rest can then be done."""
+        tool(root, "rpm", "--verifydb")
+        left = self.packages(root)
+        missing = self.after - self.before - left
+        remaining = (self.before - self.after) & left
+        doubled = {old for old in remaining if name_of(old) in map(name_of, left - self.before)}
+        self.assertEqual(sorted(match[1] for match in re.finditer(
+            r"^(\S+) is a duplicate with", check(root), re.M)), sorted(doubled))
+
+        result = run(root, {"steps": [{"do": "collect"}, {"do": "interrupted"}, {"do": "collect"},
+                                      {"do": "interrupted"}]})
+        self.assertEqual(set(result["errors"]), {None})
+        _, lines, _, again = result["values"]
+        self.assertEqual(again, [], "it is told once")
+        self.assertEqual(bool(lines), begun, lines)
+        if begun:
+            total = len(self.after ^ self.before)
+            self.assertIn("%d of its %d steps" % (total - len(missing) - len(remaining), total),
+                          lines[1])
+            for pattern, expected in ((r"Not installed: 0:(\S+)\. If", missing),
+                                      (r"Installed twice: 0:(\S+) beside 0:\S+\.$", doubled),
+                                      (r"Not removed: 0:(\S+)$", remaining - doubled)):
+                matches = [re.match(pattern, one) for one in lines]
+                self.assertEqual({match[1] for match in matches if match}, expected, lines)
+        self.complete(root, left, doubled)
+
+    def complete(self, root, left, doubled):
+        """The user marks what is missing, and the older of what is there twice for removal."""
+        missing, there = set(map(name_of, self.after - left)), set(map(name_of, left))
+        marks = {"install": sorted(missing.intersection(self.marks["install"])),
+                 "update": sorted(missing.intersection(UPDATE)),
+                 "remove": ["0:" + one for one in doubled] + sorted(there.intersection(REMOVE))}
+        if any(marks.values()):
+            _, value, error = self.apply(root, marks)
+            self.assertEqual((value, error), (True, None))
+        self.assertEqual(self.packages(root), self.after)
+        self.assertEqual(check(root), "")
+        tool(root, "rpm", "--verifydb")
+        self.assertEqual(tool(root, "rpm", "-V", *self.marks["install"], *UPDATE), "")
+
+    def test_killed_in_a_callback(self):
+        for name, (install, callback, condition, begun) in IN_A_CALLBACK.items():
+            with self.subTest(name):
+                self.rehearse(install)
+                root = self.root()
+                self.kill_in_callback(root, callback, condition)
+                self.verify(root, begun)
+
+    def test_killed_in_a_scriptlet(self):
+        for words, install in IN_A_SCRIPTLET.items():
+            with self.subTest(words):
+                self.rehearse(install)
+                root = self.root()
+                self.kill_in_scriptlet(root, words)
+                self.verify(root, True)
+
+
+if __name__ == "__main__":
+    unittest.main()
