@@ -8,8 +8,8 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <fcntl.h>
+#include <mutex>
 #include <unistd.h>
 
 namespace {
@@ -18,13 +18,15 @@ constexpr qsizetype chunkSize = 64 * 1024;
 constexpr qsizetype notificationLimit = 4 * chunkSize;
 constexpr qsizetype defaultPipeSize = 1024 * 1024;
 
-std::atomic<int> messageFd = -1;
+std::mutex messageMutex; // guards the next
+int messageFd = -1;
 
 // During a capture descriptor 2 is a pipe that the GUI thread reads, so a message of the GUI thread
 // itself could wait for ever in a full one.
 void writeMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     const QByteArray line = text.toLocal8Bit() + '\n';
+    const std::lock_guard lock(messageMutex);
     [[maybe_unused]] const auto written = ::write(messageFd, line.constData(), size_t(line.size()));
 }
 
@@ -163,11 +165,7 @@ YumIOCapturers::YumIOCapturers(YumIO *engine) : m_engine(engine)
         m_engine->error(YumIO::tr("Unable to open pipe to capture rpm transaction output"));
         return;
     }
-    if (messageFd == -1 && m_saved[1] != -1) {
-        messageFd = m_saved[1];
-        m_outerHandler = qInstallMessageHandler(writeMessage);
-        m_handlerInstalled = true;
-    }
+    divertMessages();
     if (!redirect()) {
         m_engine->error(YumIO::tr("Unable to dup2 pipe to capture rpm transaction output"));
         return;
@@ -187,6 +185,17 @@ bool YumIOCapturers::openPipes()
         ::fcntl(ends[0], F_SETFL, O_NONBLOCK);
     }
     return true;
+}
+
+// The outermost capture sends the program's own messages to where they went before.
+void YumIOCapturers::divertMessages()
+{
+    const std::lock_guard lock(messageMutex);
+    if (messageFd != -1 || m_saved[1] == -1)
+        return;
+    messageFd = m_saved[1];
+    m_outerHandler = qInstallMessageHandler(writeMessage);
+    m_diverting = true;
 }
 
 bool YumIOCapturers::redirect()
@@ -228,8 +237,9 @@ YumIOCapturers::~YumIOCapturers()
         closeFd(m_readEnds[0]);
         closeFd(m_readEnds[1]);
     }
-    if (m_handlerInstalled) {
+    if (m_diverting) {
         qInstallMessageHandler(m_outerHandler);
+        const std::lock_guard lock(messageMutex);
         messageFd = -1;
     }
     closeFd(m_saved[0]);

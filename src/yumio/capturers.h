@@ -61,6 +61,7 @@ public:
 
 private:
     bool openPipes();
+    void divertMessages();
     bool redirect();
     bool restore();
 
@@ -70,7 +71,7 @@ private:
     int m_writeEnds[2] = {-1, -1};
     bool m_redirected[2] = {false, false};
     QtMessageHandler m_outerHandler = nullptr;
-    bool m_handlerInstalled = false;
+    bool m_diverting = false;
     YumIOCapturersMinion *m_minion = nullptr;
 };
 
