@@ -257,6 +257,8 @@ QLayout *MainWindow::createBarsRow()
     m_itemBar = new HProgressBar(parent);
     m_itemBar->setObjectName(QStringLiteral("itemBar"));
     m_itemBar->setAccessibleName(tr("Progress of the current step"));
+    m_totalBar->setEnabled(false);
+    m_itemBar->setEnabled(false);
     m_cancelButton = new QPushButton(tr("Ca&ncel"), parent);
     describeControl(m_cancelButton, "cancelButton",
                     tr("Stops the running operation.\nAn rpm transaction that has begun cannot be "

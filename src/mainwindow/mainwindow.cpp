@@ -27,6 +27,7 @@ MainWindow::MainWindow() : m_yumIO(new YumIO)
 {
     setWindowTitle(tr("VOK"));
     setObjectName(QStringLiteral("mainWindow"));
+    m_yumIO->setParent(this);
     createMenuBar();
     createCentralWidget();
     m_yumIO->setup(this, m_totalBar, m_itemBar);

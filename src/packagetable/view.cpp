@@ -32,8 +32,8 @@ View::View(Model *model, SortFilterProxyModel *proxy, QWidget *parent)
     header->setSectionsMovable(true);
     header->setSectionsClickable(true);
     header->setHighlightSections(false);
-    header->setSortIndicatorShown(true);
     setHorizontalHeader(header);
+    header->setSortIndicatorShown(true); // which setting the header has taken away
 
     sortByColumn(KindColumn, Qt::AscendingOrder);
     m_proxy->setFilterKeyColumn(KindColumn);

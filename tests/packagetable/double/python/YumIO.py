@@ -2,7 +2,7 @@
 
 VOK_TEST_ROWS adds so many available packages. While the file named by VOK_TEST_HOLD exists, the
 reading of repositories and a transaction wait in the state that it names ("metadata", "transaction")
-until it goes, or until the user cancels where that is allowed."""
+until it goes, or until the user cancels where that is allowed; NAME.held exists meanwhile."""
 
 import os
 import sys
@@ -69,6 +69,10 @@ class Package:
     def returnPrco(self, kind):
         return [(self.name + "-" + kind, None, (None, None, None))]
 
+    def localPkg(self):
+        return "/nonexistent"
+
+    localHdr = localPkg
     changelog = ()
 
     def returnChangelog(self):
@@ -123,10 +127,15 @@ def hold(state):
     if not os.path.exists(path) or open(path).read() != state:
         return
     yumIOC.jobState(state, int(state != "transaction"))
-    while os.path.exists(path):
-        if state != "transaction" and yumIOC.cancelled():
-            raise RepoError("cancelled by the user")
-        time.sleep(0.01)
+    held = open(path + ".held", "w")
+    try:
+        while os.path.exists(path):
+            if state != "transaction" and yumIOC.cancelled():
+                raise RepoError("cancelled by the user")
+            time.sleep(0.01)
+    finally:
+        held.close()
+        os.remove(held.name)
     yumIOC.jobState("done", 0)
 
 

@@ -1,0 +1,315 @@
+#include "../packagetable/tablecase.h"
+#include "mainwindow/mainwindow.h"
+#include "packagetable/view.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+using namespace PackageTable;
+using namespace Qt::StringLiterals;
+
+// One window over the scripted packages for all cases, in their order; the last one ends it.
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        QDir(m_dir.path()).mkpath(u"root/etc/yum.repos.d"_s);
+        write(u"root/etc/yum.conf"_s, "[main]\ncachedir=/cache/here\n[base]\nenabled=1\n");
+        qputenv("VOKROOT", m_dir.filePath(u"root"_s).toUtf8());
+        qputenv("XDG_CONFIG_HOME", m_dir.filePath(u"config"_s).toUtf8());
+        qputenv("VOK_TEST_HOLD", m_dir.filePath(u"hold"_s).toUtf8());
+        QVERIFY(TableCase::share(m_share));
+        m_window = std::make_unique<MainWindow>();
+        m_window->setStateFilter(StateFilter::All);
+        m_window->setRegexp("^[a-z]");
+        m_window->setGroups(true);
+        m_view = child<View>("view");
+    }
+
+    // The first collection shows a placeholder, both bars and a live Cancel; then the table.
+    void starts()
+    {
+        hold("metadata");
+        QTimer probe;
+        bool seen = false;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            if (!child<QPushButton>("cancelButton")->isEnabled())
+                return;
+            seen = child<QLabel>("placeholder")->isVisible() && !m_view->isVisible() &&
+                   child<QWidget>("totalBar")->isVisible() &&
+                   child<QWidget>("itemBar")->isVisible() && !action("quitAction")->isEnabled() &&
+                   !action("cleanAllAction")->isEnabled() && action("logAction")->isEnabled() &&
+                   QApplication::overrideCursor();
+            release();
+            probe.stop();
+        });
+        probe.start(5);
+        m_window->show();
+        QTRY_VERIFY_WITH_TIMEOUT(m_view->isVisible() && m_view->isEnabled(), 20000);
+        QVERIFY(seen);
+        QVERIFY(!child<QLabel>("placeholder")->isVisible());
+        QVERIFY(!child<QPushButton>("cancelButton")->isEnabled());
+        QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(m_window->focusWidget(), m_view);
+        QVERIFY(m_view->currentIndex().isValid());
+        QCOMPARE(listed(), u"tools-suite alpha beta echo grüße kernel modules pair pair"_s);
+    }
+
+    void offersWhatCanBeDone()
+    {
+        QVERIFY(!action("cleanPickledCacheAction")->isEnabled());
+        QVERIFY(action("cleanSqliteCacheAction")->isEnabled());
+        for (const char *name :
+             {"editConfigurationAction", "manualHtmlAction", "manualPdfAction"}) {
+            QVERIFY(!action(name)->isEnabled());
+            QVERIFY(action(name)->toolTip() != action(name)->text());
+        }
+        QVERIFY(action("cleanAllAction")->toolTip().contains(u"/cache/here"_s));
+    }
+
+    // No two controls answer to one key, and all tell a screen reader what they are.
+    void keysAndNames()
+    {
+        QSet<QKeySequence> keys;
+        for (const auto *button : m_window->findChildren<QPushButton *>()) {
+            if (button->shortcut().isEmpty())
+                continue;
+            QVERIFY2(!keys.contains(button->shortcut()), qPrintable(button->text()));
+            keys.insert(button->shortcut());
+        }
+        for (const auto *menuAction : m_window->findChildren<QMenuBar *>()[0]->actions()) {
+            const QKeySequence key = QKeySequence::mnemonic(menuAction->text());
+            QVERIFY2(!keys.contains(key), qPrintable(menuAction->text()));
+            keys.insert(key);
+        }
+        for (const char *name :
+             {"modeCombo", "regexpEdit", "stateCombo", "view", "totalBar", "itemBar"})
+            QVERIFY2(!child<QWidget>(name)->accessibleName().isEmpty(), name);
+    }
+
+    void filters_data()
+    {
+        QTest::addColumn<QString>("expression");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("dups");
+        QTest::addColumn<bool>("groups");
+        QTest::addColumn<QString>("names");
+        QTest::newRow("updatable") << ".*" << 0 << true << false << "alpha kernel";
+        QTest::newRow("duplicates left out") << "^pair" << 3 << false << true << "pair";
+        QTest::newRow("groups") << "" << 2 << true << true << "Workshop alpha echo kernel modules";
+    }
+
+    void filters()
+    {
+        QFETCH(QString, expression);
+        QFETCH(int, state);
+        QFETCH(bool, dups);
+        QFETCH(bool, groups);
+        child<QLineEdit>("regexpEdit")->setText(expression);
+        QTest::keyClick(child<QLineEdit>("regexpEdit"), Qt::Key_Return);
+        child<QComboBox>("stateCombo")->setCurrentIndex(state);
+        child<QCheckBox>("dupsCheck")->setChecked(dups);
+        child<QCheckBox>("groupsCheck")->setChecked(groups);
+        QTEST(listed(), "names");
+    }
+
+    void actionsAndTheWarning()
+    {
+        showAll();
+        auto *apply = child<QPushButton>("applyButton");
+        auto *warning = child<QLabel>("unlistedLabel");
+        QVERIFY(!apply->isEnabled());
+        m_view->setCurrentIndex(m_view->model()->index(row(u"alpha"_s), NameColumn));
+        QTest::keyClick(m_view, Qt::Key_Space);
+        QVERIFY(apply->isEnabled());
+        QVERIFY(warning->text().isEmpty());
+
+        const QSize room = warning->size();
+        filter(u"^beta"_s);
+        QCOMPARE(warning->text(), u"Unlisted Actions"_s);
+        QVERIFY(!warning->toolTip().isEmpty());
+        QCOMPARE(warning->size(), room);
+        press("clearActionsButton");
+        QVERIFY(warning->text().isEmpty());
+        QVERIFY(!apply->isEnabled());
+
+        m_view->selectAll();
+        press("setSelectedButton");
+        QVERIFY(apply->isEnabled());
+        press("clearActionsButton");
+        showAll();
+        press("setUpdateListedButton");
+        QVERIFY(apply->isEnabled());
+    }
+
+    // The mode decides the texts, and a search loads the extra data once.
+    void searches()
+    {
+        showAll();
+        filter(u"needle"_s);
+        QCOMPARE(listed(), QString());
+        auto *mode = child<QComboBox>("modeCombo");
+        QVERIFY(mode->toolTip().endsWith(u"(Must load extra data.)"_s));
+        mode->setCurrentIndex(int(Mode::Search));
+        QCOMPARE(child<QPushButton>("filterSearchButton")->text(), u"Search"_s);
+        QCOMPARE(listed(), u"beta"_s);
+        QVERIFY(!mode->toolTip().contains(u"Must load"_s));
+        press("refreshButton");
+        QCOMPARE(listed(), u"beta"_s);
+        mode->setCurrentIndex(int(Mode::Filter));
+        QCOMPARE(child<QPushButton>("filterSearchButton")->text(), u"Filter"_s);
+        showAll();
+    }
+
+    void cancels()
+    {
+        hold("metadata");
+        QTimer probe;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            // The job's failure is told in a box, which nobody else closes here.
+            if (auto *box = QApplication::activeModalWidget())
+                box->close();
+            else if (child<QPushButton>("cancelButton")->isEnabled())
+                press("cancelButton");
+        });
+        probe.start(5);
+        press("refreshButton");
+        probe.stop();
+        release();
+        QVERIFY(!child<QPushButton>("cancelButton")->isEnabled());
+        QCOMPARE(m_view->model()->rowCount(), 0);
+        QVERIFY(m_window->statusBar()->isVisible());
+        press("refreshButton");
+        QVERIFY(!m_window->statusBar()->isVisible());
+        QVERIFY(m_view->model()->rowCount() > 0);
+    }
+
+    // A job that is running is not doubled, and a transaction is not cut off by closing the window.
+    void applies()
+    {
+        press("setUpdateListedButton");
+        hold("transaction");
+        int closed = 0;
+        QStringList boxes;
+        int seen = 0;
+        QTimer probe;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            if (auto *box = QApplication::activeModalWidget()) {
+                boxes.append(box->property("text").toString());
+                box->close();
+            }
+            // What the job told before it was seen to wait has arrived by the next time.
+            if (!QFile::exists(m_dir.filePath(u"hold.held"_s)) || seen++ == 0)
+                return;
+            m_window->refresh();
+            m_window->apply();
+            if (closed++ == 0)
+                QVERIFY(!m_window->close());
+            QVERIFY(m_window->statusBar()->currentMessage().contains(u"cannot be stopped"_s));
+            release();
+            probe.stop();
+        });
+        probe.start(5);
+        press("applyButton");
+        QCOMPARE(boxes, QStringList());
+        QCOMPARE(closed, 1);
+        QVERIFY(m_window->isVisible());
+        QVERIFY(m_view->isEnabled());
+        // Nothing was confirmed, so the marks stay.
+        QVERIFY(child<QPushButton>("applyButton")->isEnabled());
+    }
+
+    // Asked to quit, the window cancels what can be cancelled and goes when it has stopped.
+    void quitsWhenTheJobHasStopped()
+    {
+        hold("metadata");
+        QTimer probe;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            if (auto *box = QApplication::activeModalWidget())
+                box->close();
+            else if (child<QPushButton>("cancelButton")->isEnabled())
+                m_window->quit();
+        });
+        probe.start(5);
+        press("refreshButton");
+        probe.stop();
+        QVERIFY(!m_window->isVisible());
+        QVERIFY(!QApplication::overrideCursor());
+        QVERIFY(QFile::exists(m_dir.filePath(u"hold"_s)));
+        QVERIFY(
+            !QSettings(u"VOK"_s, u"vok"_s).value("mainWindow/geometry").toByteArray().isEmpty());
+        m_window->quit();
+        m_window.reset();
+    }
+
+private:
+    template <typename T> T *child(const char *name)
+    {
+        auto *found = m_window->findChild<T *>(QLatin1String(name));
+        if (!found)
+            qFatal("no %s", name);
+        return found;
+    }
+    QAction *action(const char *name) { return child<QAction>(name); }
+    void press(const char *name) { QTest::mouseClick(child<QPushButton>(name), Qt::LeftButton); }
+
+    void filter(const QString &expression)
+    {
+        child<QLineEdit>("regexpEdit")->setText(expression);
+        press("filterSearchButton");
+    }
+    void showAll()
+    {
+        filter(u".*"_s);
+        child<QComboBox>("stateCombo")->setCurrentIndex(int(StateFilter::All));
+    }
+
+    int row(const QString &name) const
+    {
+        const QAbstractItemModel *model = m_view->model();
+        for (int i = 0; i < model->rowCount(); ++i) {
+            if (model->index(i, NameColumn).data().toString() == name)
+                return i;
+        }
+        return -1;
+    }
+    QString listed() const
+    {
+        QStringList names;
+        const QAbstractItemModel *model = m_view->model();
+        for (int i = 0; i < model->rowCount(); ++i)
+            names.append(model->index(i, NameColumn).data().toString());
+        return names.join(u' ');
+    }
+
+    void write(const QString &name, const QByteArray &text)
+    {
+        QFile file(m_dir.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+    void hold(const char *state) { write(u"hold"_s, state); }
+    void release() { QFile::remove(m_dir.filePath(u"hold"_s)); }
+
+    QTemporaryDir m_dir;
+    QTemporaryDir m_share;
+    std::unique_ptr<MainWindow> m_window;
+    View *m_view = nullptr;
+};
+
+QTEST_MAIN(TestMainWindow)
+#include "test_mainwindow.moc"
