@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QObject>
+#include <QTimer>
+
+#include <atomic>
+#include <thread>
+
+// Measures how long the event loop of its thread stands still. A timer beats every few
+// milliseconds; a beat that comes late is a gap. Each gap is told with what the thread did in it:
+// `cpu` it was computing, `queued` it wanted to but another process had the processor; the rest it
+// slept or waited for a lock. With stacks a second thread looks at the first one's stack during a
+// gap. Times are in milliseconds.
+class Heartbeat : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Heartbeat(QObject *parent);
+    ~Heartbeat() override;
+
+    void enableStacks();
+    // Names what runs; empty while nothing does, then gaps do not count.
+    void setActivity(const QString &activity) { m_activity = activity; }
+    // Longest first: {"at", "wall", "own" (wall without queued), "cpu", "queued", "activity",
+    // "stack"}.
+    QJsonArray gaps() const;
+    qint64 now() const { return m_clock.elapsed(); }
+
+Q_SIGNALS:
+    void beat();
+
+private:
+    struct Gap
+    {
+        double at, wall, cpu, queued;
+        QString activity;
+        QStringList stack;
+    };
+    struct Reading
+    {
+        double time, cpu, queued;
+    };
+
+    void tick();
+    Reading read() const;
+
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    Reading m_last;
+    QString m_activity;
+    QList<Gap> m_gaps;
+    int m_schedstat;
+    std::thread m_watcher;
+    std::atomic<bool> m_ended = false;
+    std::atomic<qint64> m_lastTick = 0;
+};

@@ -1,0 +1,242 @@
+#include "recorder.h"
+
+#include "log/logwindow.h"
+#include "mainwindow/mainwindow.h"
+#include "packagetable/model.h"
+#include "progress/generaltip.h"
+#include "progress/hprogressbar.h"
+#include "yumio/yumio.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QSocketNotifier>
+#include <QSpinBox>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Later, from the event loop: a job runs inside the click that starts it.
+void later(QObject *object, const char *slot)
+{
+    QMetaObject::invokeMethod(object, slot, Qt::QueuedConnection);
+}
+
+} // namespace
+
+Recorder::Recorder(MainWindow *window, int answers)
+    : m_window(window), m_engine(window->findChild<YumIO *>()), m_heartbeat(this),
+      m_recording(window, &m_heartbeat, this), m_dialogs(this)
+{
+    (void) m_answers.open(answers, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
+    connect(m_engine, qOverload<const QString &, bool>(&YumIO::jobState), this,
+            &Recorder::jobState);
+    connect(&m_heartbeat, &Heartbeat::beat, this, &Recorder::beat);
+    auto *quit = window->findChild<QAction *>(u"quitAction"_s);
+    connect(quit, &QAction::enabledChanged, this, [this](bool enabled) {
+        m_busy = !enabled;
+        m_started = m_started || m_busy;
+        m_heartbeat.setActivity(m_busy ? u"busy"_s : QString());
+    });
+    auto *notifier = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &Recorder::readCommands);
+}
+
+void Recorder::readCommands()
+{
+    char bytes[4096];
+    const ssize_t count = read(STDIN_FILENO, bytes, sizeof bytes);
+    if (count <= 0)
+        _exit(2); // nobody listens any more
+    m_input += QByteArray(bytes, count);
+    for (;;) {
+        const qsizetype end = m_input.indexOf('\n');
+        if (end == -1)
+            return;
+        const QJsonObject command = QJsonDocument::fromJson(m_input.left(end)).object();
+        m_input.remove(0, end + 1);
+        obey(command);
+    }
+}
+
+void Recorder::obey(const QJsonObject &command)
+{
+    const QString what = command.value(u"do"_s).toString();
+    QJsonObject result;
+    bool done = true;
+    if (what == u"wait" || what == u"until" || what == u"dialog") {
+        m_waiting = command;
+        return;
+    }
+    if (what == u"press")
+        done = press(command.value(u"button"_s).toString());
+    else if (what == u"mark")
+        done = mark(command);
+    else if (what == u"answer")
+        m_dialogs.setRules(command.value(u"rules"_s).toArray());
+    else if (what == u"cancelAt")
+        m_cancelAt = command.value(u"state"_s).toString();
+    else if (what == u"rows")
+        result.insert(u"table"_s, rows());
+    else if (what == u"log")
+        result.insert(u"log"_s, log());
+    else if (what == u"recording")
+        result.insert(u"recording"_s, m_recording.lines());
+    else if (what == u"gaps")
+        result.insert(u"gaps"_s, m_heartbeat.gaps());
+    else if (what == u"stacks")
+        m_heartbeat.enableStacks();
+    else if (what == u"tip")
+        showTip();
+    else if (what == u"showLog")
+        showLog(command.value(u"level"_s).toInt());
+    else if (what == u"picture")
+        done = picture(command);
+    else
+        done = false;
+    if (!done)
+        result.insert(u"failed"_s, command);
+    answer(result);
+}
+
+void Recorder::beat()
+{
+    m_dialogs.look();
+    if (!m_cancelAt.isEmpty() && m_state == m_cancelAt) {
+        auto *button = m_window->findChild<QAbstractButton *>(u"cancelButton"_s);
+        if (button->isEnabled()) {
+            m_cancelAt.clear();
+            later(button, "click");
+        }
+    }
+    if (!m_waiting.isEmpty() && isOver(m_waiting)) {
+        m_waiting = QJsonObject();
+        answer();
+    }
+}
+
+bool Recorder::isOver(const QJsonObject &command) const
+{
+    const QString what = command.value(u"do"_s).toString();
+    if (what == u"wait")
+        return m_started && !m_busy && !m_dialogs.isOpen();
+    if (what == u"dialog")
+        return m_dialogs.isOpen();
+    if (m_state != command.value(u"state"_s).toString())
+        return false;
+    const auto *bar = m_window->findChild<HProgressBar *>(u"itemBar"_s);
+    return double(bar->value()) * 100 >=
+           command.value(u"percent"_s).toDouble() * double(bar->maximum());
+}
+
+void Recorder::answer(QJsonObject result)
+{
+    result.insert(u"dialogs"_s, m_dialogs.takeDialogs());
+    result.insert(u"states"_s, QJsonArray::fromStringList(m_states));
+    result.insert(u"rows"_s, m_engine->count());
+    result.insert(u"placeholder"_s, m_window->findChild<QLabel *>(u"placeholder"_s)->isVisible());
+    m_states.clear();
+    m_answers.write(QJsonDocument(result).toJson(QJsonDocument::Compact) + '\n');
+    m_answers.flush();
+}
+
+void Recorder::jobState(const QString &state, bool canCancel)
+{
+    if (m_states.isEmpty() || m_states.last() != state)
+        m_states.append(state);
+    m_state = state;
+    m_heartbeat.setActivity(m_busy ? state : QString());
+    m_recording.addState(state, canCancel);
+}
+
+bool Recorder::press(const QString &button)
+{
+    if (DialogWatcher::press(button))
+        return true;
+    if (auto *found = m_window->findChild<QAbstractButton *>(button)) {
+        if (!found->isEnabled())
+            return false;
+        later(found, "click");
+        // What the click starts shall have begun when the next command comes.
+        m_busy = m_busy || button == u"applyButton" || button == u"refreshButton";
+        return true;
+    }
+    auto *action = m_window->findChild<QAction *>(button);
+    if (!action || !action->isEnabled())
+        return false;
+    later(action, "trigger");
+    return true;
+}
+
+bool Recorder::mark(const QJsonObject &command)
+{
+    auto *model = m_window->findChild<PackageTable::Model *>();
+    const auto action = Package::Action(command.value(u"action"_s).toInt());
+    QStringList names;
+    for (const QJsonValue &name : command.value(u"names"_s).toArray())
+        names.append(name.toString());
+    for (int row = 0; row < m_engine->count(); ++row) {
+        if (names.removeOne((*m_engine)[row]->name))
+            model->setAction(model->index(row, 0), action);
+    }
+    m_window->stateChanged(-1);
+    return names.isEmpty();
+}
+
+QJsonObject Recorder::rows() const
+{
+    QJsonObject table;
+    for (const Package::Entry *entry : *m_engine) {
+        table.insert(entry->name,
+                     QJsonArray{int(entry->state), entry->verRel, entry->repo, int(entry->action)});
+    }
+    return table;
+}
+
+QJsonArray Recorder::log() const
+{
+    QJsonArray result;
+    QMutexLocker lock(&m_engine->logList().mutex());
+    for (const Log::Entry &entry : std::as_const(m_engine->logList().entries()))
+        result.append(QJsonArray{int(entry.kind), int(entry.level), entry.text});
+    return result;
+}
+
+void Recorder::showTip()
+{
+    auto *bar = m_window->findChild<HProgressBar *>(u"itemBar"_s);
+    m_window->activateWindow();
+    const QPoint middle = bar->rect().center();
+    QHelpEvent event(QEvent::ToolTip, middle, bar->mapToGlobal(middle));
+    QCoreApplication::sendEvent(bar, &event);
+}
+
+void Recorder::showLog(int level)
+{
+    m_window->displayLog();
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *window = qobject_cast<Log::Window *>(widget))
+            window->findChild<QSpinBox *>()->setValue(level);
+    }
+}
+
+bool Recorder::picture(const QJsonObject &command) const
+{
+    const QString of = command.value(u"of"_s).toString();
+    QWidget *widget = m_window;
+    if (of == u"dialog")
+        widget = QApplication::activeModalWidget();
+    else if (of == u"tip")
+        widget = GeneralTip::current();
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (of == u"log" && qobject_cast<Log::Window *>(top))
+            widget = top;
+    }
+    return widget && widget->grab().save(command.value(u"path"_s).toString());
+}

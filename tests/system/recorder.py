@@ -1,0 +1,76 @@
+"""Runs the program vok_recorder, VOK's window with a driver inside, on a sandbox root. The commands and
+their answers are described in tests/gui/recorder.h."""
+
+import json
+import os
+import pathlib
+import select
+import shlex
+import subprocess
+import time
+
+CHECKOUT = pathlib.Path(__file__).resolve().parent.parent.parent
+SANDBOX = CHECKOUT / "tools" / "sandbox"
+BUILD = pathlib.Path(os.environ.get("VOK_BUILD", CHECKOUT / "build" / "release"))
+UPDATE, INSTALL, REMOVE, NONE = range(4)
+
+
+class Recorder:
+    """A running window, as a context. `before` is a shell command that runs first, in a mount namespace
+    of its own when it is given; `display` False shows the window nowhere."""
+
+    def __init__(self, root, before="", display=False):
+        program = str(BUILD / "bin" / "vok_recorder")
+        command = [SANDBOX, "run", root, "--", program]
+        if before:
+            user = ["--user", "--map-root-user"] if os.geteuid() else []
+            inner = f"{before} && exec {shlex.quote(program)}"
+            command = ["unshare", *user, "--mount", SANDBOX, "run", root, "--", "sh", "-c", inner]
+        environment = dict(os.environ, VOKSHARE=str(BUILD / "share" / "vok"), LC_ALL="C.UTF-8")
+        if not display:
+            environment["QT_QPA_PLATFORM"] = "offscreen"
+        self.process = subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        env=environment)
+        self._buffer = b""
+
+    def do(self, what, timeout=60, **fields):
+        """Gives one command; returns its answer. Fails when the program ends or does not answer."""
+        self.process.stdin.write(json.dumps(dict(fields, do=what)).encode() + b"\n")
+        self.process.stdin.flush()
+        end = time.monotonic() + timeout
+        while b"\n" not in self._buffer:
+            left = end - time.monotonic()
+            if left <= 0 or not select.select([self.process.stdout], [], [], left)[0]:
+                raise AssertionError(f"no answer to {what} {fields} within {timeout} s")
+            data = os.read(self.process.stdout.fileno(), 1 << 20)
+            if not data:
+                raise AssertionError(f"the program ended with {self.process.wait(10)} at {what} {fields}")
+            self._buffer += data
+        line, _, self._buffer = self._buffer.partition(b"\n")
+        answer = json.loads(line)
+        if "failed" in answer:
+            raise AssertionError(f"cannot do {answer['failed']}")
+        return answer
+
+    def job(self, button):
+        """Presses a button that starts a job; returns the answer at the job's end."""
+        self.do("press", button=button)
+        return self.do("wait")
+
+    def close(self):
+        """Ends the program by its menu, or by force when a job still runs; returns its exit status."""
+        try:
+            self.do("press", button="quitAction", timeout=5)
+            return self.process.wait(20)
+        except (AssertionError, OSError, subprocess.TimeoutExpired):
+            self.process.kill()
+            return self.process.wait()
+        finally:
+            self.process.stdin.close()
+            self.process.stdout.close()
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
