@@ -128,11 +128,10 @@ def _directories(conf):
         else:
             setattr(conf, option, libdnf.conf.ConfigParser.substitute(getattr(conf, option),
                                                                        conf.substitutions))
-    own = root.user_cache()
     if not root.writable(conf.cachedir):
-        conf.cachedir = own
+        conf.cachedir = root.user_cache()
     if not root.writable(conf.logdir):
-        conf.logdir = own
+        conf.logdir = root.user_cache()
     conf._set_value("system_cachedir", conf.cachedir)
     for path in (conf.cachedir, conf.logdir):
         try:

@@ -118,23 +118,32 @@ class Display(dnf.callback.TransactionProgress):
         if not _TROUBLE.search(text) and "\nerror: " not in text and "\nwarning: " not in text:
             report.write_out(text)
         else:
+            troubles = []
             for line in text.splitlines(keepends=True):
                 trouble = _TROUBLE.match(line)
                 (report.write_err if trouble else report.write_out)(line)
                 if trouble:
-                    self._note(line.strip())
+                    troubles.append(line.strip()[trouble.end():])
+            self._note(troubles)
         if not text.endswith("\n"):
             report.write_out("\n")
 
-    def _note(self, line):
-        """Remembers a line of rpm as a reason for the element that it is about."""
-        text = _TROUBLE.sub("", line, count=1)
-        element = next((one for one in self._elements if one in text), self._current_name)
-        if element is None:
-            return
-        texts = self.reasons.setdefault(element, [])
-        if text not in texts:
-            texts.append(text)
+    def _note(self, troubles):
+        """Remembers lines of rpm as reasons for the elements that they are about. A line that names none
+        is about the one named next: rpm first says what happened and then to which package."""
+        unnamed = []
+        for text in troubles:
+            unnamed.append(text)
+            element = next((one for one in self._elements if one in text), None)
+            if element is not None:
+                self._blame(element, unnamed)
+                unnamed = []
+        if self._current_name is not None:
+            self._blame(self._current_name, unnamed)
+
+    def _blame(self, element, texts):
+        known = self.reasons.setdefault(element, [])
+        known += [text for text in texts if text not in known]
 
     @_contained
     def error(self, message):
@@ -142,7 +151,7 @@ class Display(dnf.callback.TransactionProgress):
         report.errorlog(0, text)
         # The scriptlets' own failures come with rpm's line about them; the others only here.
         if not _SCRIPTLET.match(text):
-            self._note(text)
+            self._note([text])
 
     @_contained
     def finish(self):

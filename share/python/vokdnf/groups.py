@@ -2,6 +2,7 @@
 
 import dnf.comps
 import libcomps
+import libdnf.error
 
 from yum import Errors
 
@@ -54,9 +55,20 @@ class GroupInfo:
 
     def __init__(self, session):
         names = {pkg.name for pkg in session.sack.query().installed()}
-        recorded = session.base.history.group
-        self.visible_groups = [Group(group, recorded.get(group.id) is not None, names)
+        recorded = _recorded_groups(session.base)
+        self.visible_groups = [Group(group, group.id in recorded, names)
                                for group in session.base.comps.groups]
+
+
+def _recorded_groups(base):
+    """The identifiers of the groups that DNF's records call installed; none when there are no records
+    and this file system takes no new ones."""
+    try:
+        history = base.history.group
+        return {group.id for group in base.comps.groups if history.get(group.id) is not None}
+    except libdnf.error.Error as error:
+        report.errorlog(2, "DNF's group records cannot be read: %s" % report.clean(error))
+        return set()
 
 
 def setup(session):

@@ -1,7 +1,11 @@
 """Where the system is: "/" or the directory of VOKROOT. Paths are spoken of as they are inside it;
 the prefix is added only where a file is opened."""
 
+import atexit
+import functools
 import os
+import shutil
+import tempfile
 
 
 def prefix():
@@ -41,10 +45,17 @@ def inside(path):
     return path
 
 
+@functools.lru_cache(None)
 def user_cache():
-    """A cache directory of the user for this system; not made yet."""
+    """A directory for caches of the user and this system; where even that cannot be written, one that
+    goes with the process."""
     base = os.environ.get("XDG_CACHE_HOME") or os.path.expanduser("~/.cache")
-    return os.path.join(base, "vok", prefix().strip("/").replace("/", "-") or "system")
+    path = os.path.join(base, "vok", prefix().strip("/").replace("/", "-") or "system")
+    if writable(path):
+        return path
+    path = tempfile.mkdtemp(prefix="vok-cache-")
+    atexit.register(shutil.rmtree, path, True)
+    return path
 
 
 def writable(path):

@@ -13,8 +13,8 @@ import rpm
 
 from yum import Errors
 
-from . import display, errors, groups, interrupted, keys, locks, meters, packages, report, resolve
-from . import root, tsinfo
+from . import clean, display, errors, groups, interrupted, keys, locks, meters, packages, report
+from . import resolve, root, tsinfo
 
 _CLONE_FS = 0x200
 
@@ -198,7 +198,7 @@ class Outcomes:
         if (key in self._installed) != erasing or key in self._new and erasing:
             return "done", reason
         if reason:
-            return "failed", reason
+            return "failed", reason + (_lack_of_room(item.pkg) if "write failed" in reason else "")
         return "skipped", self._why_skipped(item)
 
     def _why_skipped(self, item):
@@ -214,6 +214,22 @@ class Outcomes:
         """[(epoch:name-version-release.arch, outcome, reason)], a reinstalled package once."""
         return [(packages.envra(item.pkg), *self.of(item)) for item in self._items
                 if not (item.action in tsinfo.ERASING and packages.envra(item.pkg) in self._new)]
+
+
+def _lack_of_room(pkg):
+    """rpm often names another error than the full disk that it met; the end of the reason that says so,
+    "" when there is room."""
+    free = []
+    for path in ("/", "/usr", "/usr/share", "/var", "/opt"):
+        try:
+            status = os.statvfs(root.resolve(path))
+        except OSError:
+            continue
+        free.append(status.f_bavail * status.f_frsize)
+    if min(free, default=pkg.installsize) >= pkg.installsize:
+        return ""
+    return " (the package needs %s, and a file system has only %s left)" % (
+        clean.size_text(pkg.installsize), clean.size_text(min(free)))
 
 
 def forget(session):
