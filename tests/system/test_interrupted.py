@@ -14,7 +14,9 @@ import unittest
 from scriptdriver import CHECKOUT, SANDBOX, Case, calls, run, tool
 
 sys.path.insert(0, str(CHECKOUT / "tools"))
-from guidriver import wait_for  # noqa: E402
+from guidriver import Program, Screen, key, wait_for  # noqa: E402
+
+BUILD = pathlib.Path(os.environ.get("VOK_BUILD", CHECKOUT / "build" / "release"))
 
 UPDATE, REMOVE = ["clock", "bellows", "confy"], ["compass"]
 NEVER = {"killAt": ["never", 0]}  # allows that a scenario is killed from outside
@@ -164,6 +166,48 @@ class Interrupted(Case):
                 root = self.root()
                 self.kill_in_scriptlet(root, words)
                 self.verify(root, True)
+
+
+class RealProgram(Case):
+    """The program itself, with mouse and keys on a virtual display."""
+
+    def start(self, root, *arguments):
+        program = Program([SANDBOX, "run", root, "--", BUILD / "bin/vok", *arguments],
+                          self.place / "output")
+        self.addCleanup(program.kill)
+        return program
+
+    def mark(self, program):
+        """Marks the only row that is listed."""
+        program.wait_enabled(program.find("push button", "Refresh"), "the window")
+        table = program.find(("table", "tree table"))
+        wait_for(lambda: len(program.cells(table)) == 1, "the row alone in the table")
+        program.click(table.get_table_iface().get_accessible_at(0, 0))
+        program.wait_enabled(program.find("push button", "Apply Actions"), "Apply Actions")
+
+    def test_killed_and_started_again(self):
+        root = self.root()
+        with Screen():
+            os.environ["VOKSHARE"] = str(BUILD / "share/vok")
+            self.addCleanup(os.environ.pop, "VOKSHARE")
+            program = self.start(root, "-s", "all", "-e", "^slow-1 ")
+            self.mark(program)
+            program.click(program.find("push button", "Apply Actions"))
+            program.click(program.find("push button", "OK", program.find("dialog", "Apply")))
+            kill_in_scriptlet(root, "slow-1 post", lambda: program.process.pid)
+            program.process.wait()
+            tool(root, "rpm", "--verifydb")
+
+            program = self.start(root)
+            dialog = program.find("dialog", "VOK Interrupted Transaction")
+            text = "\n".join(map(program.texts, program.walk(dialog)))
+            self.assertIn("The last transaction was interrupted.\n1 of its 1 steps had been done.", text)
+            key("Return")
+            program.wait_enabled(program.find("push button", "Refresh"), "the window")
+            self.assertIsNone(program.look("dialog"))
+            key("ctrl+q")
+            self.assertEqual(program.end(), 0)
+        self.assertEqual(check(root), "")
 
 
 if __name__ == "__main__":
