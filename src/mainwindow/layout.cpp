@@ -1,5 +1,6 @@
 #include "mainwindow/mainwindow.h"
 
+#include "mainwindow/wraplayout.h"
 #include "packagetable/model.h"
 #include "packagetable/sortfilterproxymodel.h"
 #include "packagetable/view.h"
@@ -188,9 +189,9 @@ QLayout *MainWindow::createFilterRow()
     describeControl(m_groupsCheck, "groupsCheck",
                     tr("Whether or not filter should include package groups"));
 
-    auto *row = new QHBoxLayout;
+    auto *row = new WrapLayout;
     row->addWidget(m_modeCombo);
-    row->addWidget(m_regexpEdit, 1);
+    row->addWidget(m_regexpEdit);
     row->addWidget(m_filterSearchButton);
     row->addWidget(m_stateCombo);
     row->addWidget(m_dupsCheck);
@@ -200,7 +201,7 @@ QLayout *MainWindow::createFilterRow()
 
 QLayout *MainWindow::createButtonRow()
 {
-    auto *row = new QHBoxLayout;
+    auto *row = new WrapLayout;
     const auto add = [&](const char *name, const QString &text, const QString &toolTip) {
         auto *button = new QPushButton(text, m_mainArea);
         describeControl(button, name, toolTip);
