@@ -1,11 +1,8 @@
 #include "app/execute.h"
-#include "app/fonts.h"
 #include "app/harmless.h"
 #include "app/share.h"
 
 #include <QFile>
-#include <QFontDatabase>
-#include <QFontInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -30,16 +27,6 @@ private Q_SLOTS:
         qunsetenv("VOKSHARE");
         QCOMPARE(Share::absolute(QStringLiteral("a")), QStringLiteral("/usr/share/vok/a"));
         qputenv("VOKSHARE", outer);
-    }
-
-    void fixedFont()
-    {
-        const QFont fixed = Fonts::makeFixed(QFont());
-        QVERIFY(fixed.fixedPitch());
-        if (!QFontDatabase::families().contains(QStringLiteral("DejaVu Sans Mono")))
-            QSKIP("no font of the list is installed");
-        QVERIFY2(QFontInfo(fixed).fixedPitch(), qPrintable(QFontInfo(fixed).family()));
-        QCOMPARE(QFontInfo(fixed).family(), fixed.family());
     }
 
     void harmlessTexts_data()

@@ -68,8 +68,6 @@ private Q_SLOTS:
         QTest::newRow("nothing") << words("vok -l") << false << true;
         QTest::newRow("option") << words("vok -style windows") << false << false;
         QTest::newRow("option with value") << words("vok -l -style=windows") << false << false;
-        QTest::newRow("other option") << words("vok -stylesheet=x") << false << true;
-        QTest::newRow("program name") << words("-style") << false << true;
         QTest::newRow("settings") << words("vok") << true << false;
     }
 

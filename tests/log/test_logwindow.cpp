@@ -53,10 +53,7 @@ private Q_SLOTS:
             QTest::newRow(name) << kind << level << text.toString() << shown.toString() << color;
         };
         const QColor plain;
-        row("normal", 0, 9, u"a", u"a", plain);
         row("debug", 0, 10, u"a", u"a", Colors::minor());
-        row("ok", 1, 0, u"a", u"a", Colors::ok());
-        row("warning", 2, 0, u"a", u"a", Colors::warning());
         row("error", 3, 0, u"a", u"a", Colors::error());
         row("action", 4, 0, u"a", u"a", Colors::action());
         row("unknown kind", 7, 0, u"a", u"a", Colors::error());

@@ -143,31 +143,6 @@ private Q_SLOTS:
         QCOMPARE(m_item->value(), 0);
     }
 
-    void threadStatesAreSent()
-    {
-        Progress::ThreadsState last;
-        connect(m_object, &Progress::Object::updateThreadsStateSig, this,
-                [&last](const Progress::ThreadsState &state) { last = state; });
-        m_object->setupItemActsThreads(QStringLiteral("Downloads"), 10, 1, 1, 10);
-        QCOMPARE(last.count(), 1u);
-        QCOMPARE(last[0].state, quint32(0));
-        m_object->startItemActThread(QStringLiteral("a.rpm"), 0, 7);
-        QCOMPARE(m_item->text(), QStringLiteral("a.rpm (0%)"));
-        const Progress::ThreadsState copy = last;
-        m_object->setItemActsThreadValue(0, 4);
-        QCOMPARE(last[0].value, Steps(4));
-        QCOMPARE(copy[0].value, Steps(0));
-        QCOMPARE(copy[0].max, Steps(7));
-        m_object->retryItemActThread(0);
-        QCOMPARE(last[0].state, quint32(1));
-        m_object->startItemActThread(QStringLiteral("a.rpm"), 0, 7);
-        QCOMPARE(last[0].state, quint32(2));
-        m_object->endItemActThread(0);
-        QCOMPARE(last[0].state, quint32(3));
-        m_object->endItemActsThreads();
-        QCOMPARE(last.count(), 0u);
-    }
-
     void largeNumbers()
     {
         const Steps huge = std::numeric_limits<Steps>::max();

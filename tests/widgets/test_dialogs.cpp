@@ -41,13 +41,11 @@ private Q_SLOTS:
             QTest::newRow(name) << buttons << defaultButton << escapeButton
                                 << QString::fromLatin1(answer) << result;
         };
-        row("ok by return", none, 0, -1, "return", 0);
         row("ok by escape", none, 0, -1, "escape", 0);
         row("ok by close", none, 0, -1, "close", 0);
         row("last", three, 0, 1, "button2", 2);
         row("default", three, 2, 1, "return", 2);
         row("escape", three, 2, 1, "escape", 1);
-        row("close", three, 2, 0, "close", 0);
     }
 
     void messageBox()
@@ -178,12 +176,6 @@ private Q_SLOTS:
         ScrollableErrorDialog dialog(QStringLiteral("Text"), &parent);
         onNext([&](QWidget *) { QVERIFY(!parent.isMinimized()); }, QStringLiteral("return"));
         dialog.exec();
-        QVERIFY(m_answered);
-
-        parent.showMinimized();
-        onNext([&](QWidget *) { QVERIFY(!parent.isMinimized()); }, QStringLiteral("return"));
-        showMessageBox(QMessageBox::Warning, &parent, QStringLiteral("Title"),
-                       QStringLiteral("Text"));
         QVERIFY(m_answered);
     }
 
