@@ -18,8 +18,8 @@ import cli  # noqa: F401,E402
 import yum  # noqa: F401,E402
 import yum.Errors  # noqa: F401,E402
 
-from vokdnf import base, clean, errors, groups, interrupted, locks, packages, report  # noqa: E402
-from vokdnf import otherdata, transaction, tsinfo  # noqa: E402
+from vokdnf import base, clean, collection, errors, groups, interrupted, locks  # noqa: E402
+from vokdnf import otherdata, packages, report, transaction, tsinfo  # noqa: E402
 
 import dnf.drpm  # noqa: E402
 
@@ -36,7 +36,7 @@ class YumIO:
     def __init__(self):
         report.attach()
         self._session = base.Session()
-        self._architectures = packages.Architectures(self._session.basearch)
+        self._architectures = collection.Architectures(self._session.basearch)
         self._collection = None
         self._noted = []
         self._interrupted = []
@@ -73,7 +73,7 @@ class YumIO:
     def _collected(self):
         if self._collection is None:
             with errors.translated():
-                self._collection = packages.Collection(self._session.sack, self._architectures)
+                self._collection = collection.Collection(self._session.sack, self._architectures)
                 self._collection.report_replacements()
         return self._collection
 
@@ -83,21 +83,21 @@ class YumIO:
 
     def collectAll(self):
         """An object with `installed` and `available`, lists of package objects, newest first."""
-        collection = self._collected()
-        return types.SimpleNamespace(installed=list(map(packages.Package, collection.installed())),
-                                     available=list(map(packages.Package, collection.available())))
+        found = self._collected()
+        return types.SimpleNamespace(installed=list(map(packages.Package, found.installed())),
+                                     available=list(map(packages.Package, found.available())))
 
     def collectRows(self):
         """All packages in one call: a list of tuples (po, state, name, verRel, repo, arch, biArch, size,
         summary, buildtime, isSuite); state 0 updatable, 1 installable, 2 installed; size in bytes and
         buildtime in seconds are ints, isSuite is a bool, the rest texts. The order is that of the single
         calls: updates, installed, available; pairing and duplicates are left to the caller."""
-        collection = self._collected()
-        family, row, wrap = self._architectures.family, packages.row, packages.Package
+        found = self._collected()
+        family, row, wrap = self._architectures.family, collection.row, packages.Package
         return [row(wrap(pkg), state, family)
-                for state, part in ((packages.UPDATABLE, collection.updates()),
-                                    (packages.IS_INSTALLED, collection.installed()),
-                                    (packages.INSTALLABLE, collection.available()))
+                for state, part in ((collection.UPDATABLE, found.updates()),
+                                    (collection.INSTALLED, found.installed()),
+                                    (collection.INSTALLABLE, found.available()))
                 for pkg in part]
 
     def isBetterThan(self, first, second):

@@ -42,12 +42,22 @@ postTransactionOutput gpgsigcheck cancelled jobState lockWait keyQuestion transa
 LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
 
 
-def run(root, scenario, environment=None, timeout=120):
-    """Runs a scenario on a sandbox; the driver's own failures raise with its output."""
+def mounted(command):
+    """What goes before a command so that it runs after the shell command `command`, with mounts of its
+    own; [] where this user cannot have any."""
+    own = ["unshare", "--mount"] + (["--user", "--map-root-user"] if os.geteuid() else [])
+    if subprocess.run([*own, "true"], capture_output=True).returncode:
+        return []
+    return [*own, "sh", "-ec", command + '\nexec "$@"', "sh"]
+
+
+def run(root, scenario, environment=None, timeout=120, under=()):
+    """Runs a scenario on a sandbox; the driver's own failures raise with its output. `under` is a command
+    that runs the command given behind it."""
     with tempfile.TemporaryDirectory() as place:
         result = pathlib.Path(place, "result.json")
         variables = dict(os.environ, VOKSHARE=str(CHECKOUT / "share"), **(environment or {}))
-        done = subprocess.run([SANDBOX, "run", root, "--", "/usr/bin/python3", __file__, result],
+        done = subprocess.run([*under, SANDBOX, "run", root, "--", "/usr/bin/python3", __file__, result],
                               input=json.dumps(scenario), text=True, capture_output=True,
                               errors="replace", env=variables, timeout=timeout)
         if "killAt" in scenario and done.returncode in (-signal.SIGKILL, 128 + signal.SIGKILL):

@@ -1,4 +1,4 @@
-"""Package objects and the collection of packages.
+"""Package objects.
 
 A package object wraps one of DNF's and computes nothing before it is asked; tens of thousands exist at
 once. Its texts are always fit for crossing into the program.
@@ -8,12 +8,9 @@ import calendar
 import functools
 import os
 
-import dnf.rpm
-
 from . import report
 
 INSTALLED = "installed"  # what installed packages have for a repository identifier
-UPDATABLE, INSTALLABLE, IS_INSTALLED = 0, 1, 2  # states of a row
 _RELATIONS = ("provides", "requires", "conflicts", "obsoletes")
 _FLAGS = {"=": "EQ", "<": "LT", ">": "GT", "<=": "LE", ">=": "GE"}
 _clean = report.clean
@@ -193,115 +190,3 @@ def _relation(text):
         epoch, rest = "0", parts[2]
     version, dash, release = rest.partition("-")
     return parts[0], _FLAGS[parts[1]], (epoch, version, release if dash else None)
-
-
-class Architectures:
-    """Families of architectures, and which package is better."""
-
-    def __init__(self, basearch):
-        self._basearch = basearch
-        self.family = functools.lru_cache(None)(self._family)
-
-    def _family(self, arch):
-        if arch == "noarch":
-            return self._basearch
-        try:
-            return dnf.rpm.basearch(arch)
-        except KeyError:
-            return arch
-
-    def distance(self, arch):
-        """How far an architecture is from the base architecture; 0 is it."""
-        if arch == self._basearch:
-            return 0
-        if arch == "noarch":
-            return 1
-        return 2 if self.family(arch) == self._basearch else 3
-
-    def is_better(self, first, second):
-        """Whether the package `first` is better than `second` (both ours)."""
-        order = first.pkg.evr_cmp(second.pkg)
-        if order:
-            return order > 0
-        one, two = self.distance(first.arch), self.distance(second.arch)
-        # Of one family the greater name is the newer processor: i686 before i586.
-        return one < two or one == two and first.arch > second.arch
-
-
-class Collection:
-    """The packages of a filled sack as rows want them: lists of DNF's objects. `updatable` is the set of
-    (name, family) that have an update."""
-
-    def __init__(self, sack, architectures):
-        self._sack = sack
-        self._architectures = architectures
-        self._installed = self._families(sack.query().installed())
-        self._updates = self._newest(sack.query().available().upgrades(), self._installed)
-        self.updatable = {self.key(pkg) for pkg in self._updates}
-
-    def key(self, pkg):
-        return pkg.name, self._architectures.family(pkg.arch)
-
-    def is_installed(self, pkg):
-        """Whether any version of the package, in its family of architectures, is installed."""
-        return self.key(pkg) in self._installed
-
-    def _families(self, query):
-        """{key: packages}, newest version first, of one version the nearest architecture first."""
-        found = {}
-        key = self.key
-        for pkg in query:
-            found.setdefault(key(pkg), []).append(pkg)
-        distance = self._architectures.distance
-        order = functools.cmp_to_key(lambda one, two: two.evr_cmp(one)
-                                     or distance(one.arch) - distance(two.arch))
-        for packages in found.values():
-            if len(packages) > 1:
-                packages.sort(key=order)
-        return found
-
-    def _newest(self, query, keys):
-        query.filterm(latest_per_arch_by_priority=True)
-        return [packages[0] for key, packages in self._families(query).items() if key in keys]
-
-    def updates(self):
-        """The newest update for every name and family that is installed. A package that only replaces
-        another name is no update, nor is one for a family that is not installed."""
-        return self._updates
-
-    def installed(self):
-        return [pkg for packages in self._installed.values() for pkg in packages]
-
-    def available(self):
-        """The newest version of everything that is not installed at all."""
-        query = self._sack.query().available().filterm(latest_per_arch_by_priority=True)
-        return [packages[0] for key, packages in self._families(query).items()
-                if key not in self._installed]
-
-    def report_replacements(self):
-        """Log lines about available packages that replace installed ones of other names."""
-        installed = self._sack.query().installed()
-        query = self._sack.query().available().filterm(obsoletes=installed)
-        for pkg in query.filterm(latest_per_arch_by_priority=True):
-            if self.is_installed(pkg):
-                continue
-            names = [str(relation).split(" ")[0] for relation in pkg.obsoletes]
-            itself = self._sack.query().filterm(pkg=[pkg])
-            old = [str(one) for one in installed.filter(name=names)
-                   if one.name != pkg.name and itself.filter(obsoletes=[one])]
-            if old:
-                report.log(2, "%s replaces the installed %s" % (pkg, ", ".join(old)))
-
-
-def row(po, state, family):
-    """One row of collectRows; a package's fields in the order of YumIO.collectRows."""
-    pkg = po.pkg
-    try:
-        summary, group = pkg.summary, pkg.group
-    except UnicodeDecodeError:
-        summary, group = po.returnSimple("summary"), po.returnSimple("group")
-    arch = pkg.arch
-    return (po, state, _clean(pkg.name),
-            evr_text(pkg.epoch, _clean(pkg.version), _clean(pkg.release)),
-            INSTALLED if state == IS_INSTALLED else pkg.reponame, arch, family(arch), pkg.size,
-            _clean(summary) if summary else "", pkg.buildtime, group == "Suite")
