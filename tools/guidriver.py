@@ -145,6 +145,9 @@ class Program:
     def look(self, role, name=None, top=None):
         """The first object with that role (a name, several, or None for any) and name that is on the
         screen, or None."""
+        if self.process.poll() is not None:
+            raise Failure(f"the program ended with {self.process.returncode} while {role} {name!r} "
+                          f"was looked for:\n{self.log.read_text(errors='replace')[-4000:]}")
         roles = (role,) if isinstance(role, str) else role
         for item in self.walk(top):
             try:
@@ -158,13 +161,7 @@ class Program:
 
     def find(self, role, name=None, top=None, timeout=60.0):
         """As look, but waits for it."""
-        def once():
-            if self.process.poll() is not None:
-                raise Failure(f"the program ended with {self.process.returncode} while {role} "
-                              f"{name!r} was looked for:\n{self.log.read_text()[-4000:]}")
-            return self.look(role, name, top)
-
-        return wait_for(once, f"{role} {name!r}", timeout)
+        return wait_for(lambda: self.look(role, name, top), f"{role} {name!r}", timeout)
 
     def has(self, item, state):
         """Whether an object has a state, by its name in the accessibility library."""
