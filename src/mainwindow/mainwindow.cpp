@@ -209,6 +209,8 @@ void MainWindow::yumConfIOChanged()
 
 void MainWindow::displayLog()
 {
+    if (m_finished)
+        return;
     if (!m_logWindow)
         m_logWindow = new Log::Window(m_yumIO->logList());
     m_logWindow->show();
@@ -310,6 +312,8 @@ void MainWindow::apply()
 
 void MainWindow::stateChanged(int row)
 {
+    if (m_finished)
+        return;
     const auto hasAction = [](const Package::Entry *entry) {
         return entry->action != Package::Action::None;
     };

@@ -32,8 +32,7 @@ void declineQuestion()
 
 } // namespace
 
-MainWindow::Job::Job(MainWindow *window)
-    : m_window(window->m_busy || window->m_finished ? nullptr : window)
+MainWindow::Job::Job(MainWindow *window) : m_window(window->m_busy ? nullptr : window)
 {
     if (!m_window)
         return;
@@ -55,6 +54,8 @@ MainWindow::Job::~Job()
 
 void MainWindow::jobState(const QString &state, bool canCancel)
 {
+    if (m_finished)
+        return;
     m_canCancel = canCancel;
     m_inTransaction = state == QStringLiteral("transaction");
     if (!m_inTransaction)
@@ -66,7 +67,7 @@ void MainWindow::jobState(const QString &state, bool canCancel)
 
 void MainWindow::cancel()
 {
-    if (!m_busy)
+    if (!m_busy || m_finished)
         return;
     m_cancelButton->setEnabled(false);
     m_yumIO->cancel();
@@ -74,6 +75,8 @@ void MainWindow::cancel()
 
 void MainWindow::quit()
 {
+    if (m_finished)
+        return;
     if (m_busy)
         askToQuit();
     else
@@ -101,7 +104,7 @@ void MainWindow::askToQuit()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_busy) {
+    if (!m_busy || m_finished) {
         event->accept();
         finish();
         return;
@@ -123,6 +126,7 @@ void MainWindow::finish()
     if (m_finished)
         return;
     m_finished = true;
+    m_busy = true; // nothing starts any more
     QSettings(organisation, application).setValue(geometryKey, saveGeometry());
     if (m_busyCursor)
         QApplication::restoreOverrideCursor();

@@ -253,7 +253,12 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(m_dir.filePath(u"hold"_s)));
         QVERIFY(
             !QSettings(u"VOK"_s, u"vok"_s).value("mainWindow/geometry").toByteArray().isEmpty());
+        // What still reaches it finds nothing to do.
         m_window->quit();
+        m_window->refresh();
+        m_window->clearActions();
+        m_window->stateChanged(0);
+        m_window->displayLog();
         m_window.reset();
     }
 
