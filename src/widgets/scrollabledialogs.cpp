@@ -70,7 +70,8 @@ void ScrollableDialog::setDefaultButton(QPushButton *button)
 
 QSize ScrollableDialog::sizeHint() const
 {
-    const QSize most = screen()->availableSize() * 9 / 10;
+    const QSize available = screen()->availableSize();
+    const QSize most(available.width() * 9 / 10, available.height() * 9 / 10);
     const QMargins margins = layout()->contentsMargins();
     const QSize rest(margins.left() + margins.right(), margins.top() + margins.bottom() +
                                                            layout()->spacing() +
