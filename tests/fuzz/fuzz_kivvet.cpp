@@ -4,6 +4,8 @@
 #include "repo/kivvet/percent.h"
 #include "repo/passwordmask.h"
 
+#include <QStringList>
+
 #include <cstdint>
 #include <cstdlib>
 
@@ -23,11 +25,30 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         PasswordMask::maskAll(text, many, u'*').size() != text.size())
         abort();
 
+    // Whatever the text, these end, and find in it what they can.
     QString nameKey, name, passwordKey, password;
-    if (!Repo::Kivvet::getAuth(text, nameKey, name, passwordKey, password))
-        return 0;
-    const QString replaced = Repo::Kivvet::replaceAuth(text, nameKey, name, passwordKey, password);
-    if (Repo::Kivvet::replaceAuth(replaced, nameKey, name, passwordKey, password) != replaced)
-        abort();
+    if (Repo::Kivvet::getAuth(text, nameKey, name, passwordKey, password))
+        Repo::Kivvet::replaceAuth(text, nameKey, name, passwordKey, password);
+
+    // As the values of credentials, what it holds comes back from a URL, and putting the same
+    // values into it changes nothing.
+    QStringList values = text.split(u'|').mid(0, 4);
+    values.resize(4);
+    for (QString &value : values)
+        value.removeIf([](QChar c) { return c.isSpace() && c != u' '; });
+    for (const QString &form : {QStringLiteral("h/kivvet?%1=%2&%3=%4&path=os"),
+                                QStringLiteral("h/rhel/%1=%2/%3=%4/os")}) {
+        const QString url = form.arg(httpProtect(values[0]), httpProtect(values[1]),
+                                     httpProtect(values[2]), httpProtect(values[3]));
+        if (!Repo::Kivvet::getAuth(url, nameKey, name, passwordKey, password) ||
+            QStringList{nameKey, name, passwordKey, password} != values ||
+            Repo::Kivvet::replaceAuth(url, name, password) != url)
+            abort();
+        const QString shown = PasswordMask::maskWhole(url, one, u'*');
+        const qsizetype length = httpProtect(password).size();
+        const qsizetype start = url.lastIndexOf(u'=', form.startsWith(u"h/k") ? -9 : -1) + 1;
+        if (QStringView(shown).mid(start, length) != QString(length, u'*'))
+            abort();
+    }
     return 0;
 }
