@@ -11,13 +11,18 @@ namespace {
 constexpr size_t statementSize = 10240;
 constexpr size_t messageSize = 1024;
 
-// The interpreter of the distribution, isolated from the user's environment.
+// The interpreter of the distribution: neither the user's environment nor the locale, which is the
+// program's own affair, has a say in what it loads and how it reads texts.
 bool startInterpreter()
 {
+    PyPreConfig preConfig;
+    PyPreConfig_InitIsolatedConfig(&preConfig);
+    preConfig.utf8_mode = 1;
+    if (PyStatus_Exception(Py_PreInitialize(&preConfig)))
+        return false;
     PyConfig config;
-    PyConfig_InitPythonConfig(&config);
-    config.use_environment = 0;
-    config.user_site_directory = 0;
+    PyConfig_InitIsolatedConfig(&config);
+    config.install_signal_handlers = 1; // so that there is a SIGINT handler to put back
     config.write_bytecode = 0;
     PyStatus status = PyConfig_SetString(&config, &config.program_name, L"/usr/bin/python3");
     if (!PyStatus_Exception(status))

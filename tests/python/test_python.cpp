@@ -65,6 +65,9 @@ private:
 
 void TestPython::initTestCase()
 {
+    // What the environment says about interpreters is not for this one.
+    qputenv("PYTHONPATH", "/nonexistent");
+    qputenv("PYTHONHOME", "/nonexistent");
     QVERIFY(m_python->initialize());
     m_python->py("import io, sys\n"
                  "sys.stderr = io.StringIO()\n"
@@ -82,6 +85,9 @@ void TestPython::initTestCase()
     // Again: nothing is run afresh.
     QVERIFY(m_python->initialize());
     QVERIFY(m_python->pyLookup("number", false));
+    const PyRef isolated(m_python->pyr("'/nonexistent' not in sys.path and "
+                                       "sys.getfilesystemencoding() == 'utf-8'"));
+    QCOMPARE(isolated.get(), Py_True);
     QCOMPARE(m_python->take(), QStringList());
 }
 
