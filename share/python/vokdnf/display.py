@@ -9,6 +9,7 @@ import re
 
 import dnf.callback
 import dnf.transaction
+import dnf.yum.rpmtrans
 
 from . import packages, report
 
@@ -34,6 +35,21 @@ def _contained(function):
             self.trouble.append("%s: %r" % (function.__name__, error))
             return None
     return call
+
+
+class RpmTransaction(dnf.yum.rpmtrans.RPMTransaction):
+    """DNF's own, which keeps to itself what rpm says before an unpacking fails and at the very end."""
+
+    def _unpackError(self, key):
+        self._scriptout()
+        super()._unpackError(key)
+
+    def verify_tsi_package(self, *arguments):
+        self._scriptout()
+        super().verify_tsi_package(*arguments)
+
+
+dnf.yum.rpmtrans.RPMTransaction = RpmTransaction
 
 
 def rpm_name(pkg):
