@@ -141,14 +141,19 @@ void MainWindow::collect()
         prepareFilterSearch();
         m_proxy->setFilter(true);
     }
-    tell(collected ? QString() : tr("The packages were not collected. Refresh tries again."));
+    if (collected)
+        tell(QString());
+    else if (m_yumIO->count() > 0)
+        tell(tr("The packages were not collected again; the table is as before."));
+    else
+        tell(tr("The packages were not collected. Refresh tries again."));
 }
 
 void MainWindow::recollect()
 {
     if (m_quitAsked)
         return;
-    m_yumIO->clear();
+    m_yumIO->renew();
     m_model->reset();
     if (!m_quitAsked)
         collect();

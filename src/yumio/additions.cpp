@@ -37,6 +37,9 @@ PyObject *YumIO::lockWait(PyObject *, PyObject *args)
                                .arg(holder),
                            tr("Wait"), tr("Give Up"), QString(), 0, 1);
     const bool wait = button == 0 && !m_cancelled;
+    // Giving up needs no report: the question has told all there is.
+    if (!wait) // a cancel of the GUI thread that comes just now must stay
+        m_cancelled = true;
     log(Log::Kind::Warning, 0,
         wait ? tr("Waiting for %1").arg(holder) : tr("Not waiting for %1").arg(holder));
     return PyLong_FromLong(wait ? 1 : 0);

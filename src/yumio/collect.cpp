@@ -165,6 +165,7 @@ bool YumIO::collectPackages()
     const PyRef ready(bracketed("setupTs", tr("setup transaction"), reported));
     if (!ready)
         return false;
+    dropFormer();
     if (PyObject_HasAttrString(m_yumIO, "collectRows"))
         return collectRows(updatesText);
     {
@@ -315,7 +316,6 @@ bool YumIO::collectRows(const QString &what)
     QSet<QString> texts; // few distinct ones, shared by all rows
     const auto shared = [&](PyObject *text) { return *texts.insert(pyString(text)); };
     const Py_ssize_t count = PySequence_Fast_GET_SIZE(list.get());
-    m_byKey.reserve(count);
     m_best.reserve(count);
     bool updatesDone = false;
     for (Py_ssize_t i = 0; i < count; ++i) {

@@ -16,6 +16,7 @@
 
 #include <csignal>
 #include <pthread.h>
+#include <utility>
 
 void YumIO::Blocker::block()
 {
@@ -55,6 +56,7 @@ YumIO::~YumIO()
             pyExceptClear();
         }
         releaseEntries(true);
+        Py_CLEAR(m_former);
         Py_CLEAR(m_yumIO);
         Py_CLEAR(m_yumIOClass);
         YumIOC::initialize(nullptr);
@@ -208,13 +210,22 @@ void YumIO::blockerRelease()
 
 bool YumIO::collect(const QHash<QString, bool> &reposUsed)
 {
-    m_fileListsLoaded = false;
-    m_otherDataLoaded = false;
+    const bool hadFileLists = std::exchange(m_fileListsLoaded, false);
+    const bool hadOtherData = std::exchange(m_otherDataLoaded, false);
+    const QStringList hadRepos = m_enabledRepos;
     QEventLoop loop;
     CollectThread thread(this, loop, reposUsed);
     execWorkThread(loop, thread);
-    if (thread.result())
+    if (thread.result()) {
         publishEntries();
+        m_spent = false;
+    } else if (m_former) {
+        takeFormerBack();
+        m_fileListsLoaded = hadFileLists;
+        m_otherDataLoaded = hadOtherData;
+        m_enabledRepos = hadRepos;
+    }
+    m_clearing = false;
     Q_EMIT collectedExtraData();
     return thread.result();
 }
@@ -224,6 +235,7 @@ bool YumIO::apply()
     QEventLoop loop;
     ApplyThread thread(this, loop);
     execWorkThread(loop, thread);
+    m_spent = m_spent || thread.result();
     return thread.result();
 }
 
@@ -271,16 +283,50 @@ void YumIO::publishEntries()
 
 void YumIO::clear()
 {
-    {
-        const PyGILStateWrapper lock(true);
-        if (m_yumIO)
-            const PyRef result(pyMethodCall(m_yumIO, "flush", "()"));
-    }
+    flush();
     clearEntries();
     const PyGILStateWrapper lock(true);
+    Py_CLEAR(m_former);
     Py_CLEAR(m_yumIO);
     if (m_yumIOClass)
         createYumIO();
+}
+
+void YumIO::renew()
+{
+    if (m_spent || m_former || m_entries.isEmpty()) {
+        clear();
+        return;
+    }
+    flush();
+    m_clearing = true;
+    const PyGILStateWrapper lock(true);
+    m_former = std::exchange(m_yumIO, nullptr);
+    if (m_yumIOClass)
+        createYumIO();
+}
+
+void YumIO::flush()
+{
+    const PyGILStateWrapper lock(true);
+    if (m_yumIO)
+        const PyRef result(pyMethodCall(m_yumIO, "flush", "()"));
+}
+
+// On the worker: rows of a new session take the place of the hidden ones.
+void YumIO::dropFormer()
+{
+    if (!m_former)
+        return;
+    releaseEntries(true);
+    Py_CLEAR(m_former);
+}
+
+void YumIO::takeFormerBack()
+{
+    const PyGILStateWrapper lock(true);
+    PyErr_Clear();
+    Py_XDECREF(std::exchange(m_yumIO, std::exchange(m_former, nullptr)));
 }
 
 void YumIO::clearEntriesBeforeQuit()

@@ -95,6 +95,9 @@ public:
     bool apply();
     void clearEntries();
     void clear();
+    // As clear, but rows that are still true stay at hand, unseen: a collection that is cancelled or
+    // fails before it has packages of its own gives them back with their session.
+    void renew();
     // Empties the store at exit without touching the interpreter.
     void clearEntriesBeforeQuit();
 
@@ -209,7 +212,10 @@ private:
 
     // lifecycle.cpp
     void execWorkThread(QEventLoop &loop, QThread &thread);
+    void flush();
     void clearEntriesReal();
+    void dropFormer();
+    void takeFormerBack();
     void releaseEntries(bool withInterpreter);
     bool createYumIO();
     bool runScript();
@@ -442,6 +448,7 @@ private:
     Progress::Object *m_progress = nullptr; // set while a job's Progress::User lives
     PyObject *m_yumIOClass = nullptr;
     PyObject *m_yumIO = nullptr;
+    PyObject *m_former = nullptr; // the session of the rows that are kept unseen
     PyObject *m_rpmDict = nullptr;
     enum ExceptionType {
         BdbQuit,
@@ -489,6 +496,7 @@ private:
     QString m_pendingText;
     bool m_listingShown = false;
     bool m_applied = false;
+    bool m_spent = false; // a transaction ran: the rows are out of date
     quint64 m_actPosition = 0; // bytes of large transactions exceed 32 bits
     quint32 m_opCount = 0;
     quint32 m_downloadCount = 0;

@@ -66,22 +66,21 @@ def _load(repo):
 
 
 class Session:
-    """What one YumIO object works with. `base` is DNF's; `spent` is set once a transaction ran. There is
-    one at a time: a new session closes the former, so that two package sacks never fill the memory."""
+    """What one YumIO object works with. `base` is DNF's; `spent` is set once a transaction ran. A new
+    session closes the former once it has packages of its own; until then the former can be used."""
 
     _open = lambda: None  # a weak reference to the session that is open
     _plugins = None       # the classes of DNF's plugins, which it loads once in a process
 
     def __init__(self):
         former = Session._open()
-        if former is not None:
+        if former is not None and former.spent:
             former.close()
         self.conf = config.read_main()
         if root.prefix() and rpm.expandMacro("%{_dbpath}") != _DATABASE:
             rpm.addMacro("_dbpath", _DATABASE)
         self.spent = False
         self.base = Base(self.conf)
-        Session._open = weakref.ref(self)
         with errors.translated():
             if self.conf.plugins:
                 self._init_plugins()
@@ -121,6 +120,10 @@ class Session:
         with errors.translated():
             locks.guarded("metadata", True, self.base.fill_sack)
         errors.check_cancelled()
+        former = Session._open()
+        if former is not None and former is not self:
+            former.close()
+        Session._open = weakref.ref(self)
 
     @property
     def sack(self):

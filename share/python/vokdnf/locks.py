@@ -114,6 +114,8 @@ class _Waiter:
         errors.check_cancelled(Errors.CancelledLockError)
         if self._agreed != pid:
             if not report.offers("lockWait") or not report.yumIOC.lockWait(pid, command):
+                # Whoever gave up was told who holds the lock.
+                errors.check_cancelled(Errors.CancelledLockError)
                 raise Errors.LockError("The package database is in use by process %d (%s)."
                                        % (pid, command or "unknown command"), pid)
             self._agreed = pid
