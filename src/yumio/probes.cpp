@@ -11,7 +11,7 @@
 
 QString YumIO::yumVersionStr()
 {
-    if (!m_versionKnown) {
+    if (!m_versionKnown && m_yumIO) {
         const PyGILStateWrapper lock(true);
         PyObject *version = pyLookup("yum.__version__", true);
         if (!version)
@@ -68,20 +68,20 @@ bool YumIO::hasSqliteCache()
 // Asks the script a yes-or-no question once; only its True means yes.
 bool YumIO::probe(bool &known, bool &answer, const char *method)
 {
-    if (known)
+    if (known || !m_yumIO)
         return answer;
     const PyGILStateWrapper lock(true);
     pyExceptStart();
-    const PyRef result(m_yumIO ? pyMethodCall(m_yumIO, method, "()") : nullptr);
+    const PyRef result(pyMethodCall(m_yumIO, method, "()"));
     pyExceptClear();
     answer = result.get() == Py_True;
-    known = m_yumIO != nullptr;
+    known = true;
     return answer;
 }
 
 bool YumIO::usesSqlite()
 {
-    if (!m_sqliteKnown) {
+    if (!m_sqliteKnown && m_yumIO) {
         const PyGILStateWrapper lock(true);
         pyExceptStart();
         const PyRef result(pyCall("usesSqlite", "()"));
