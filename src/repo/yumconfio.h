@@ -79,7 +79,7 @@ private:
         QList<Repo::Entry> entries;
     };
 
-    FILE *openForReading(const QString &path, const QString &failure);
+    FILE *openForReading(const QString &path, const QByteArray &located, const QString &failure);
     static FileState examine(FILE *file);
     void noteRead(const QString &path, FileState state, qsizetype firstRepo);
     bool readReposDir(const QString &directory);

@@ -50,11 +50,11 @@ Qt::CheckState onOff(const QString &value)
 
 } // namespace
 
-FILE *YumConfIO::openForReading(const QString &path, const QString &failure)
+FILE *YumConfIO::openForReading(const QString &path, const QByteArray &located,
+                                const QString &failure)
 {
     // A pipe without a writer must not be waited for.
-    const int fd =
-        open(RootPath::locate(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    const int fd = open(located.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     struct stat status;
     if (fd >= 0 && fstat(fd, &status) == 0) {
         // Reading a directory reports itself.
@@ -107,7 +107,8 @@ bool YumConfIO::read(QWidget *parent)
     repos.clear();
 
     const QString main = fileName();
-    const File file(openForReading(main, tr("Unable to read yum configuration file %1")));
+    const File file(openForReading(main, RootPath::locate(main),
+                                   tr("Unable to read yum configuration file %1")));
     if (!file)
         return false;
     const FileState state = examine(file.get());
@@ -126,7 +127,8 @@ bool YumConfIO::read(QWidget *parent)
 
 bool YumConfIO::readReposDir(const QString &directory)
 {
-    const Directory dir(opendir(RootPath::locate(directory).constData()));
+    const QByteArray real = RootPath::locate(directory);
+    const Directory dir(opendir(real.constData()));
     if (!dir)
         return true;
     while (const dirent *item = readdir(dir.get())) {
@@ -135,14 +137,18 @@ bool YumConfIO::readReposDir(const QString &directory)
             continue;
         const QString path = directory + QLatin1Char('/') + name;
         struct stat status;
-        if (!RootPath::status(path, status)) {
+        QByteArray located = real + '/' + QFile::encodeName(name);
+        const bool isLink = lstat(located.constData(), &status) != 0 || S_ISLNK(status.st_mode);
+        if (isLink && !RootPath::status(path, status)) {
             error(tr("Unable to stat repository configuration file %1").arg(path));
             return false;
         }
         if (S_ISDIR(status.st_mode))
             continue;
+        if (isLink)
+            located = RootPath::locate(path);
         const File file(
-            openForReading(path, tr("Unable to read repository configuration file %1")));
+            openForReading(path, located, tr("Unable to read repository configuration file %1")));
         if (!file)
             return false;
         const FileState state = examine(file.get());

@@ -23,7 +23,6 @@ class TestKivvet : public QObject
 
 private Q_SLOTS:
     void percent();
-    void percentReverses();
     void findsCredentials_data();
     void findsCredentials();
     void mirrorListIsSecond();
@@ -40,15 +39,6 @@ void TestKivvet::percent()
              u"%24%26%2b%2c%2f%3a%3b%3d%3f%40%20%22%3c%3e%23%25%7b%7d%7c%5c%5e%7e%5b%5d"_s);
     QCOMPARE(httpProtect(u"Aé-_.!*'()中\n"_s), u"Aé-_.!*'()中\n"_s);
     QCOMPARE(httpUnprotect(u"%41%4a%4A%2541%e9%4%g1%"_s), u"AJJ%41é%4%g1%"_s);
-}
-
-void TestKivvet::percentReverses()
-{
-    QRandomGenerator random(1);
-    for (int i = 0; i < 20000; ++i) {
-        const QString text = anyText(random, random.bounded(12));
-        QCOMPARE(httpUnprotect(httpProtect(text)), text);
-    }
 }
 
 void TestKivvet::findsCredentials_data()
@@ -71,9 +61,7 @@ void TestKivvet::findsCredentials_data()
     row("several URLs", u"http://plain/\nh/rhel/a=b/c=d/\nh/rhel/e=f/g=h/"_s,
         {u"a"_s, u"b"_s, u"c"_s, u"d"_s});
     row("a broken query hides the path form", u"h/kivvet?a=b&c=d h/rhel/a=b/c=d/"_s);
-    row("path not closed", u"h/rhel/a=b/c=d"_s);
     row("other case", u"h/Kivvet?a=b&c=d&path=, h/RHEL/a=b/c=d/"_s);
-    row("nothing", u""_s);
 }
 
 void TestKivvet::findsCredentials()
@@ -154,7 +142,6 @@ void TestKivvet::expressions_data()
     QTest::addColumn<QStringList>("passwords");
 
     QTest::newRow("query") << u"h/kivvet?a=b&c=pw&path=os"_s << true << QStringList{u"pw"_s};
-    QTest::newRow("path") << u"h/rhel/a=b/c=pw/os"_s << true << QStringList{u"pw"_s};
     QTest::newRow("path of another script")
         << u"h/kivvet?a=b&c=pw&path=שלום"_s << false << QStringList{u"pw"_s};
     QTest::newRow("line feed in a single URL")
