@@ -40,9 +40,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("button");
         QTest::addColumn<int>("result");
         QTest::newRow("yes") << s("confirm") << s("OK") << 1;
-        QTest::newRow("no") << s("confirm") << s("Cancel") << 0;
         QTest::newRow("escape") << s("confirm") << s("none such") << 0;
-        QTest::newRow("first") << s("warning") << s("A") << 0;
         QTest::newRow("third") << s("critical") << s("C") << 2;
         QTest::newRow("escape of a box") << s("critical") << s("none such") << 2;
         QTest::newRow("scrollable") << s("scrollable") << s("Close") << -1;
@@ -70,20 +68,6 @@ private Q_SLOTS:
         QTEST(result, "result");
         QCOMPARE(answers.texts(), QStringList(s("Text of <b>it</b>")));
         QCOMPARE(answers.titles(), QStringList(s("Title")));
-    }
-
-    void guardsNest()
-    {
-        onWorker([] {
-            YumIODialogs *slot = nullptr;
-            YumIODialogsUser outer(slot, nullptr);
-            YumIODialogs *const first = slot;
-            {
-                YumIODialogsUser inner(slot, nullptr);
-                QVERIFY(slot && slot != first);
-            }
-            QCOMPARE(slot, first);
-        });
     }
 
     // A channel of the GUI thread serves the GUI thread at once, and a worker through one of the

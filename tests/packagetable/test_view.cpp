@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 using namespace PackageTable;
@@ -34,38 +33,32 @@ private Q_SLOTS:
         m_case.proxy->setFilterRegExp(QString());
     }
 
-    void startsSortedByKind()
-    {
-        QCOMPARE(m_view->horizontalHeader()->sortIndicatorSection(), int(KindColumn));
-        QCOMPARE(m_case.listed().first(), QStringLiteral("tools-suite"));
-        QCOMPARE(m_case.listed().last(), QStringLiteral("pair"));
-    }
-
     void headerClicksSort()
     {
         const QHeaderView *header = m_view->horizontalHeader();
+        QCOMPARE(header->sortIndicatorSection(), int(KindColumn));
         const auto click = [&](int column) {
             const QPoint pos(header->sectionViewportPosition(column) + 8, header->height() / 2);
             QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, pos);
         };
         click(NameColumn);
-        QCOMPARE(m_case.listed().first(), QStringLiteral("Attic"));
+        QVERIFY(m_case.listed().startsWith(s("Attic")));
         click(NameColumn);
-        QCOMPARE(m_case.listed().first(), QStringLiteral("tools-suite"));
+        QVERIFY(m_case.listed().startsWith(s("tools-suite")));
         QCOMPARE(m_case.proxy->filterKeyColumn(), int(NameColumn));
         click(KindColumn);
-        QCOMPARE(m_case.listed().first(), QStringLiteral("tools-suite"));
+        QVERIFY(m_case.listed().startsWith(s("tools-suite")));
         QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
     }
 
     void clicksAndSpaceToggle()
     {
         QSignalSpy changed(m_view.get(), &View::stateChanged);
-        Package::Entry *beta = m_case.entry(QStringLiteral("beta"));
-        click(QStringLiteral("beta"), ActionColumn);
+        Package::Entry *beta = m_case.entry(s("beta"));
+        click(s("beta"), ActionColumn);
         QCOMPARE(beta->action, Action::Install);
-        QCOMPARE(changed.takeLast(), QVariantList({m_case.row(QStringLiteral("beta"))}));
-        click(QStringLiteral("beta"), NameColumn);
+        QCOMPARE(changed.takeLast(), QVariantList({m_case.index(s("beta")).row()}));
+        click(s("beta"), NameColumn);
         QCOMPARE(beta->action, Action::Install);
         QVERIFY(changed.isEmpty());
         QTest::keyClick(m_view.get(), Qt::Key_Space);
@@ -77,57 +70,41 @@ private Q_SLOTS:
     void tellsRowsOfTheModel()
     {
         QSignalSpy current(m_view.get(), qOverload<int, int>(&View::currentChanged));
-        click(QStringLiteral("echo"), NameColumn);
-        QCOMPARE(current.takeLast()[0].toInt(), m_case.row(QStringLiteral("echo")));
+        click(s("echo"), NameColumn);
+        QCOMPARE(current.takeLast()[0].toInt(), m_case.index(s("echo")).row());
         const QModelIndexList rows = m_view->selectedRows();
         QCOMPARE(rows.size(), 1);
         QCOMPARE(rows[0].model(), m_case.model.get());
-        QCOMPARE(rows[0].row(), m_case.row(QStringLiteral("echo")));
-        m_case.proxy->setFilterRegExp(QStringLiteral("nothing at all"));
+        QCOMPARE(rows[0].row(), m_case.index(s("echo")).row());
+        m_case.proxy->setFilterRegExp(s("nothing at all"));
         QCOMPARE(current.takeLast()[0].toInt(), -1);
     }
 
     void actionMenu_data()
     {
-        QTest::addColumn<QStringList>("selected");
+        QTest::addColumn<QString>("selected");
         QTest::addColumn<QString>("at");
         QTest::addColumn<QString>("enabled");
         QTest::addColumn<QString>("choice");
         QTest::addColumn<QString>("actions"); // of alpha (updatable), beta (installable), echo
-        QTest::newRow("installed") << QStringList{} << "echo"
-                                   << "RN"
-                                   << "R"
-                                   << "--R";
-        QTest::newRow("updatable") << QStringList{} << "alpha"
-                                   << "URN"
-                                   << "R"
-                                   << "R--";
-        QTest::newRow("installable") << QStringList{} << "beta"
-                                     << "IN"
-                                     << "I"
-                                     << "-I-";
-        QTest::newRow("selection: install where it fits")
-            << QStringList{u"alpha"_s, u"beta"_s, u"echo"_s} << "echo"
-            << "UIRN"
-            << "I"
-            << "-I-";
-        QTest::newRow("selection: remove where it fits")
-            << QStringList{u"alpha"_s, u"beta"_s, u"echo"_s} << "beta"
-            << "UIRN"
-            << "R"
-            << "R-R";
-        QTest::newRow("the selection decides, not the row") << QStringList{u"beta"_s} << "alpha"
-                                                            << "IN"
-                                                            << "I"
-                                                            << "-I-";
+        const auto row = [](const char *name, const char *selected, const char *at,
+                            const char *enabled, const char *choice, const char *actions) {
+            QTest::newRow(name) << s(selected) << s(at) << s(enabled) << s(choice) << s(actions);
+        };
+        row("installed", "", "echo", "RN", "R", "--R");
+        row("updatable", "", "alpha", "URN", "R", "R--");
+        row("installable", "", "beta", "IN", "I", "-I-");
+        row("selection: install where it fits", "alpha beta echo", "echo", "UIRN", "I", "-I-");
+        row("selection: remove where it fits", "alpha beta echo", "beta", "UIRN", "R", "R-R");
+        row("the selection decides, not the row", "beta", "alpha", "IN", "I", "-I-");
     }
 
     void actionMenu()
     {
-        QFETCH(QStringList, selected);
+        QFETCH(QString, selected);
         QFETCH(QString, at);
         QFETCH(QString, choice);
-        for (const QString &name : selected) {
+        for (const QString &name : selected.split(u' ', Qt::SkipEmptyParts)) {
             m_view->selectionModel()->select(cell(name, NameColumn), QItemSelectionModel::Select |
                                                                          QItemSelectionModel::Rows);
         }
@@ -147,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 1);
         QString actions;
         for (const char *name : {"alpha", "beta", "echo"})
-            actions += QStringLiteral("UIR-")[int(m_case.entry(QString::fromLatin1(name))->action)];
+            actions += s("UIR-")[int(m_case.entry(QString::fromLatin1(name))->action)];
         QTEST(actions, "actions");
     }
 
@@ -161,17 +138,8 @@ private Q_SLOTS:
                     shown += action->text() + (action->isEnabled() ? u'+' : u'-');
             }
         });
-        rightClick(m_view->visualRect(cell(QStringLiteral("beta"), RepositoryColumn)).center());
-        QCOMPARE(shown, QStringLiteral("&Describe-Browse Repository-"));
-        shown.clear();
-        answerMenu([&](QMenu *menu) {
-            for (QAction *action : menu->actions()) {
-                if (action->isVisible())
-                    shown += action->text();
-            }
-        });
-        rightClick({20, m_view->viewport()->height() - 2}); // below the last row
-        QCOMPARE(shown, QStringLiteral("&Describe"));
+        rightClick(m_view->visualRect(cell(s("beta"), RepositoryColumn)).center());
+        QCOMPARE(shown, s("&Describe-Browse Repository-"));
     }
 
     // A package that is not listed decides the widths too, and the list stays as it is.
@@ -179,31 +147,20 @@ private Q_SLOTS:
     {
         m_view->resizeColumnsToContents();
         const int width = m_view->columnWidth(NameColumn);
-        m_case.proxy->setFilterRegExp(QStringLiteral("^echo "));
+        m_case.proxy->setFilterRegExp(s("^echo "));
         m_view->resizeColumnsToContents();
         QCOMPARE(m_view->columnWidth(NameColumn), width);
-        QCOMPARE(m_case.listed(), QStringList{QStringLiteral("echo")});
+        QCOMPARE(m_case.listed(), s("echo"));
         m_view->setColumnWidth(NameColumn, 10);
         m_view->HTableView::resizeColumnsToContents();
         QVERIFY(m_view->columnWidth(NameColumn) < width);
         m_view->resizeColumnsToContents();
     }
 
-    void disabledColours()
-    {
-        const QModelIndex alpha = cell(QStringLiteral("alpha"), NameColumn);
-        const QVariant colour = alpha.data(Qt::ForegroundRole);
-        m_view->setEnabled(false);
-        QVERIFY(alpha.data(Qt::ForegroundRole) != colour);
-        m_view->setEnabled(true);
-        QCOMPARE(alpha.data(Qt::ForegroundRole), colour);
-    }
-
 private:
     QModelIndex cell(const QString &name, int column)
     {
-        const QModelIndex source = m_case.model->index(m_case.row(name), column);
-        const QModelIndex index = m_case.proxy->mapFromSource(source);
+        const QModelIndex index = m_case.proxy->mapFromSource(m_case.index(name, column));
         m_view->scrollTo(index);
         return index;
     }
