@@ -23,6 +23,7 @@ class TestKivvet : public QObject
 
 private Q_SLOTS:
     void percent();
+    void percentReverses();
     void findsCredentials_data();
     void findsCredentials();
     void mirrorListIsSecond();
@@ -39,6 +40,15 @@ void TestKivvet::percent()
              u"%24%26%2b%2c%2f%3a%3b%3d%3f%40%20%22%3c%3e%23%25%7b%7d%7c%5c%5e%7e%5b%5d"_s);
     QCOMPARE(httpProtect(u"Aé-_.!*'()中\n"_s), u"Aé-_.!*'()中\n"_s);
     QCOMPARE(httpUnprotect(u"%41%4a%4A%2541%e9%4%g1%"_s), u"AJJ%41é%4%g1%"_s);
+}
+
+void TestKivvet::percentReverses()
+{
+    QRandomGenerator random(1);
+    for (int i = 0; i < 20000; ++i) {
+        const QString text = anyText(random, random.bounded(12));
+        QCOMPARE(httpUnprotect(httpProtect(text)), text);
+    }
 }
 
 void TestKivvet::findsCredentials_data()
