@@ -108,7 +108,7 @@ void Recorder::obey(const QJsonObject &command)
 void Recorder::beat()
 {
     m_dialogs.look();
-    if (!m_cancelAt.isEmpty() && m_state == m_cancelAt) {
+    if (!m_cancelAt.isEmpty() && m_state == m_cancelAt && !m_dialogs.isOpen()) {
         auto *button = m_window->findChild<QAbstractButton *>(u"cancelButton"_s);
         if (button->isEnabled()) {
             m_cancelAt.clear();

@@ -1,5 +1,6 @@
 """One session with DNF: configuration, repositories, package sack. A session runs one transaction."""
 
+import os
 import weakref
 
 import dnf
@@ -8,7 +9,7 @@ import rpm
 
 from yum import Errors
 
-from . import config, errors, keys, locks, meters, report, root
+from . import certificates, config, errors, keys, locks, meters, report, root
 
 # rpm on some distributions keeps its database in the user's home unless told otherwise.
 _DATABASE = "/var/lib/rpm"
@@ -56,13 +57,26 @@ def _load(repo):
         if callbacks.cancelled or report.cancelled():
             raise Errors.CancelledRepoError() from error
         text = "\n".join(["Repository %s: %s" % (repo.id, report.clean(error))]
-                         + ["  " + failure for failure in callbacks.failures])
+                         + ["  " + certificates.explain(failure, repo) for failure in callbacks.failures
+                            or [root.shown(address) for address in repo.baseurl]])
+        text += full_cache(repo.basecachedir)
         if not repo.skip_if_unavailable:
             raise Errors.RepoError(text) from error
         report.errorlog(0, "%s\nThe repository is left out." % text)
         repo.disable()
     finally:
         callbacks.finish()
+
+
+def full_cache(path):
+    """A line that says so when the file system of the cache directory is full, else ""."""
+    try:
+        status = os.statvfs(path)
+    except OSError:
+        return ""
+    if status.f_bavail * status.f_frsize >= 4096 * 16:
+        return ""
+    return "\nThere is no room left in the cache directory %s." % root.shown(path)
 
 
 class Session:
@@ -117,8 +131,12 @@ class Session:
         """Reads the installed packages and the loaded repositories."""
         report.job_state("metadata", True)
         self.base._reading = 0
-        with errors.translated():
-            locks.guarded("metadata", True, self.base.fill_sack)
+        try:
+            with errors.translated():
+                locks.guarded("metadata", True, self.base.fill_sack)
+        except Errors.RepoError as error:
+            error.value += full_cache(self.conf.cachedir)
+            raise
         errors.check_cancelled()
         former = Session._open()
         if former is not None and former is not self:

@@ -1,0 +1,323 @@
+"""Failures as the user sees them: the real window on a sandbox whose repositories, files and locks fail
+in every way. Each failure is told in one dialog that says what failed and why; the job ends, and the
+table can be used afterwards."""
+
+import fcntl
+import os
+import pathlib
+import sqlite3
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from httpserver import Server
+from recorder import BUILD, CHECKOUT, INSTALL, NONE, SANDBOX, Recorder
+
+sys.path.insert(0, str(CHECKOUT / "tools"))
+import guidriver  # noqa: E402
+from guidriver import Program, Screen  # noqa: E402
+
+# Takes a lock file as the program and DNF do, and holds it until its standard input ends.
+HOLD = "import fcntl, os, sys; f = open(sys.argv[1], 'r+'); fcntl.flock(f, fcntl.LOCK_EX); " \
+       "f.write(str(os.getpid())); f.flush(); print(flush=True); sys.stdin.read()"
+WAIT = {"title": "VOK Package Lock", "button": "Wait"}
+GIVE_UP = {"title": "VOK Package Lock", "button": "Give Up"}
+PASSWORD = "se%40cret"
+
+
+class Case(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        place = tempfile.TemporaryDirectory(prefix="vok-faults-")
+        cls.addClassCleanup(place.cleanup)
+        cls.model = pathlib.Path(place.name, "model")
+        subprocess.run([SANDBOX, "create", cls.model], check=True, stdout=subprocess.DEVNULL)
+        for path in (cls.model / "etc/yum.repos.d").iterdir():
+            if path.name != "Aster-Base.repo":
+                path.unlink()
+
+    def setUp(self):
+        place = tempfile.TemporaryDirectory(prefix="vok-faults-")
+        self.addCleanup(place.cleanup)
+        self.root = pathlib.Path(place.name, "root")
+        subprocess.run([SANDBOX, "copy", self.model, self.root], check=True)
+        self.repositories = self.root / "srv/repos/9/x86_64"
+
+    def serve(self, *urls, **options):
+        """Makes the repository "web" with those base URLs and forgets what was cached of all."""
+        options = {"timeout": 1, "retries": 1,
+                   "gpgkey": f"file://{self.root}/etc/pki/rpm-gpg/RPM-GPG-KEY-aster", **options}
+        lines = ["[web]", "name=Web", "baseurl=" + "\n  ".join(urls),
+                 *(f"{name}={value}" for name, value in options.items()), ""]
+        (self.root / "etc/yum.repos.d/web.repo").write_text("\n".join(lines))
+        subprocess.run(["rm", "-rf", self.root / "var/cache"], check=True)
+
+    def apply(self, window, *names, rules=()):
+        """Marks packages for installation and applies; the dialogs after the listing's."""
+        window.do("mark", names=names, action=INSTALL)
+        window.do("answer", rules=[*rules])
+        dialogs = window.job("applyButton")["dialogs"]
+        if dialogs and dialogs[0]["title"] == "Apply":
+            for name in names:
+                self.assertIn(f"Install: {name} ", dialogs[0]["text"])
+            del dialogs[0]
+        return dialogs
+
+    def one(self, dialogs, *patterns, title="VOK Yum Error"):
+        """The text of the only dialog, which matches all the patterns."""
+        self.assertEqual([dialog["title"] for dialog in dialogs], [title], dialogs)
+        for pattern in patterns:
+            self.assertRegex(dialogs[0]["text"], pattern)
+        return dialogs[0]["text"]
+
+    def marked(self, window):
+        table = window.do("rows")["table"]
+        return sorted(name for name, row in table.items() if row[3] != NONE)
+
+    def logged(self, window):
+        return "\n".join(text for _, _, text in window.do("log")["log"])
+
+    def installed(self, *names):
+        done = subprocess.run([SANDBOX, "rpm", self.root, "-q", *names], text=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        return "not installed" not in done.stdout
+
+    def holding(self, path):
+        """A process that holds the lock file of that path in the root."""
+        lock = self.root / path
+        lock.parent.mkdir(parents=True, exist_ok=True)
+        lock.touch()
+        holder = subprocess.Popen(["/usr/bin/python3", "-c", HOLD, lock], stdin=subprocess.PIPE,
+                                  stdout=subprocess.PIPE)
+        self.addCleanup(holder.stdout.close)
+        holder.stdout.readline()
+        return holder
+
+
+class Downloads(Case):
+    def test_metadata(self):
+        """Every way of failing leaves the table as it was, and a refresh mends it."""
+        primary = "only=*primary*;"
+        with Server(self.repositories, tls=True) as server:
+            def url(behaviour="", kind="http"):
+                plain = server.url("bulk/", behaviour, kind)
+                return plain.replace("://", f"://joe:{PASSWORD}@")
+
+            trusted = {"sslcacert": server.authority}
+            cases = {
+                "refused": ([url(kind="closed")], {}, "Couldn't connect"),
+                "timeout": ([url("hang")], {}, "Timeout"),
+                "not found": ([url("status=404")], {}, "Status code: 404"),
+                "forbidden": ([url("status=403")], {}, "Status code: 403"),
+                "server error": ([url("status=500")], {}, "Status code: 500"),
+                "a page": ([url("html")], {}, r"(?s)repomd\.xml parser error.*~html/bulk"),
+                "truncated": ([url(primary + "truncate=100")], {}, "(?s)primary.*partial file"),
+                "wrong checksum": ([url(primary + "flip")], {}, "checksum doesn't match.*primary"),
+                "redirect loop": ([url("loop")], {}, "redirects"),
+                "expired": ([url(kind="expired")], trusted, "certificate has expired"),
+                "another host": ([url(kind="stranger")], trusted, "does not match"),
+                "unknown authority": ([url(kind="https")], {}, "certificate verif"),
+                "two mirrors": ([url("status=404"), url(kind="closed")], {},
+                                "(?s)404.*Couldn't connect"),
+            }
+            self.serve(url())
+            with Recorder(self.root) as window:
+                rows = window.do("wait")["rows"]
+                for name, (urls, options, reason) in cases.items():
+                    with self.subTest(name):
+                        self.serve(*urls, **options)
+                        answer = window.job("refreshButton")
+                        self.one(answer["dialogs"], "^Repository web: ", reason)
+                        self.assertNotIn(PASSWORD, answer["dialogs"][0]["text"])
+                        self.assertEqual(answer["rows"], rows)
+                # What is shown can be used; after that it has to be read anew.
+                self.one(self.apply(window, "bulk-300"), "^Repository web: ")
+                self.assertTrue(self.installed("bulk-300"))
+                self.assertEqual(window.do("rows")["rows"], 0)
+
+                for name, urls, options, present, told in (
+                        ("trusted", [url(kind="https")], trusted, True, "web"),
+                        ("a mirror takes over", [url("status=500"), url()], {}, True, "code: 500"),
+                        ("left out", [url("status=410")], {"skip_if_unavailable": 1}, False,
+                         r"(?s)Repository web: .*code: 410.*left out")):
+                    with self.subTest(name):
+                        self.serve(*urls, **options)
+                        self.assertEqual(window.job("refreshButton")["dialogs"], [])
+                        table = window.do("rows")["table"]
+                        self.assertEqual("bulk-001" in table, present)
+                        self.assertIn("archiver", table)
+                        self.assertRegex(self.logged(window), told)
+                self.assertNotIn(PASSWORD, self.logged(window))
+                self.assertNotIn("se@cret", self.logged(window))
+
+    def test_packages(self):
+        with Server(self.repositories) as server:
+            self.serve(server.url("bulk/"))
+            with Recorder(self.root) as window:
+                window.do("wait")
+                for behaviour, reason in (("status=404", "Status code: 404"),
+                                          ("truncate=100", "partial file"), ("hang", "Timeout"),
+                                          ("flip", "checksum doesn't match"), ("loop", "redirects"),
+                                          ("html", "file length")):
+                    with self.subTest(behaviour):
+                        server.misbehave("only=*.rpm;" + behaviour)
+                        self.one(self.apply(window, "bulk-001"), "^Unable to apply changes: ",
+                                 "bulk-001-1.0-1.*" + reason)
+                        self.assertEqual(self.marked(window), ["bulk-001"])
+                server.misbehave("")
+                self.serve(server.url("bulk/", "only=*.rpm;status=503"), server.url("bulk/"))
+                window.job("refreshButton")
+                self.assertEqual(self.apply(window, "bulk-001"), [])
+                self.assertIn("Status code: 503", self.logged(window))
+            self.assertTrue(self.installed("bulk-001"))
+
+    def test_cancel(self):
+        """A cancel is no failure: no dialog, and the table with its marks is as before."""
+        with Server(self.repositories) as server:
+            self.serve(server.url("bulk/"), timeout=60)
+            with Recorder(self.root) as window:
+                rows = window.do("wait")["rows"]
+                window.do("mark", names=["archiver"], action=NONE)
+                for state, behaviour, start in (
+                        ("download", "only=*.rpm;hang", lambda: self.apply(window, "bulk-001")),
+                        ("metadata", "only=*primary*;stall=50",
+                         lambda: window.job("refreshButton")["dialogs"])):
+                    with self.subTest(state):
+                        server.misbehave(behaviour)
+                        subprocess.run(["rm", "-rf", self.root / "var/cache"], check=True)
+                        window.do("cancelAt", state=state)
+                        self.assertEqual(start(), [])
+                        self.assertEqual(window.do("rows")["rows"], rows)
+                        self.assertEqual(self.marked(window), ["bulk-001"])
+                        self.assertIn("Cancelled by the user", self.logged(window))
+                server.misbehave("")
+                self.assertEqual(self.apply(window, "bulk-001"), [])
+            self.assertTrue(self.installed("bulk-001"))
+
+
+class Locks(Case):
+    def test_waiting(self):
+        """The holder is named; giving up needs no other dialog, and waiting ends with the lock."""
+        for path in ("run/vok/vok.lock", "var/lib/dnf/rpmdb_lock.pid"):
+            with self.subTest(path):
+                holder = self.holding(path)
+                question = rf"/usr/bin/python3 -c .* \(process {holder.pid}\)"
+                with Recorder(self.root) as window:
+                    window.do("answer", rules=[dict(GIVE_UP, times=1), WAIT])
+                    answer = window.do("wait")
+                    self.one(answer["dialogs"], question, title=GIVE_UP["title"])
+                    self.assertEqual(answer["rows"], 0)
+                    window.do("cancelAt", state="lock")
+                    self.one(window.job("refreshButton")["dialogs"], question, title=WAIT["title"])
+                    window.do("press", button="refreshButton")
+                    asked = window.do("until", state="lock")["dialogs"]
+                    holder.communicate()
+                    answer = window.do("wait")
+                    self.one(asked + answer["dialogs"], question, title=WAIT["title"])
+                    self.assertGreater(answer["rows"], 50)
+
+    def test_databases(self):
+        """rpm's and DNF's databases, locked by somebody who does not tell who he is."""
+        with Recorder(self.root) as window:
+            rows = window.do("wait")["rows"]
+            for path, title, reason in (
+                    ("var/lib/rpm/.rpm.lock", "VOK Yum Error", "transaction lock"),
+                    ("var/lib/dnf/history.sqlite", "VOK Yum Error", "history.*database is locked"),
+                    ("var/lib/rpm/rpmdb.sqlite", "VOK Transaction Report",
+                     "twice.*database is locked")):
+                with self.subTest(path):
+                    if path.endswith("sqlite"):
+                        lock = sqlite3.connect(self.root / path, isolation_level=None)
+                        lock.execute("BEGIN EXCLUSIVE")
+                    else:
+                        lock = open(self.root / path, "a+")
+                        fcntl.lockf(lock, fcntl.LOCK_EX)
+                    self.one(self.apply(window, "twice"), reason,
+                             title=title)
+                    self.assertEqual(window.do("rows")["rows"], rows)
+                    lock.close()
+            self.assertEqual(self.apply(window, "twice"), [])
+        self.assertTrue(self.installed("twice"))
+
+
+class FileSystems(Case):
+    def start(self, before):
+        return Recorder(self.root, before.replace("ROOT", str(self.root)))
+
+    def test_full(self):
+        """No room for the files of a package, for a download, for metadata."""
+        self.serve(f"file://{self.repositories}/extras")
+        with self.start("mount -t tmpfs -o size=20m none ROOT/usr/share") as window:
+            window.do("wait")
+            self.one(self.apply(window, "heavy"), "heavy-1.0-1.*48MB more space.*/usr/share")
+            self.assertEqual(self.marked(window), ["heavy"])
+        with Server(self.repositories) as server:
+            self.serve(server.url("extras/"))
+            cache = "mkdir -p ROOT/var/cache && mount -t tmpfs -o size={} none ROOT/var/cache"
+            with self.start(cache.format("200k")) as window:
+                answer = window.do("wait")
+                self.one(answer["dialogs"], "'web'", "no room left in .*/var/cache/yum")
+                self.assertEqual(answer["rows"], 0)
+
+    def test_read_only(self):
+        with self.start("mount --bind ROOT ROOT && mount -o remount,ro,bind ROOT && cd ROOT") as window:
+            self.assertEqual(window.do("wait")["dialogs"], [])
+            self.one(self.apply(window, "twice"), "package database in /var/lib/rpm", "read-only")
+            self.assertEqual(self.marked(window), ["twice"])
+
+
+class Termination(Case):
+    """SIGTERM to the real program."""
+
+    def start(self, *arguments):
+        program = Program([SANDBOX, "run", self.root, "--", BUILD / "bin" / "vok", *arguments],
+                          self.root / "vok.output")
+        self.addCleanup(program.kill)
+        return program
+
+    def settled(self):
+        """Nothing is left that only a running program has, and rpm's database is sound."""
+        self.assertEqual((self.root / "run/vok/vok.lock").read_text(), "")
+        self.assertEqual([*(self.root / "var/lib/vok").glob("*")], [])
+        subprocess.run([SANDBOX, "rpm", self.root, "--verifydb"], check=True)
+
+    def test_at_any_time(self):
+        configuration = self.root / "etc/yum.conf"
+        before = configuration.read_bytes()
+        with Server(self.repositories) as server, Screen():
+            os.environ["VOKSHARE"] = str(BUILD / "share" / "vok")
+            self.serve(server.url("bulk/", "only=*primary*;stall=50"), timeout=60)
+            program = self.start()
+            guidriver.wait_for(lambda: any("primary" in path for _, path, _ in server.requests()),
+                               "the download")
+            program.process.terminate()
+            self.assertEqual(program.end(), 0)
+            self.settled()
+
+            self.serve(f"file://{self.repositories}/extras")
+            program = self.start()
+            program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
+            program.process.terminate()
+            self.assertEqual(program.end(), 0)
+            self.settled()
+
+            program = self.start("-s", "installable", "-e", "^slow-[12] ")
+            program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
+            for row in range(2):
+                cells = program.find(("table", "tree table")).get_table_iface()
+                program.click(cells.get_accessible_at(row, 0))
+            program.click(program.find("push button", "Apply Actions"))
+            question = program.find("dialog", "Apply")
+            program.click(program.find("push button", "OK", question))
+            marker = self.root / "var/lib/vok/transaction.json"
+            guidriver.wait_for(marker.exists, "the transaction")
+            program.process.terminate()
+            self.assertEqual(program.end(), 0)
+        self.settled()
+        self.assertTrue(self.installed("slow-1", "slow-2"))
+        self.assertEqual(configuration.read_bytes(), before)
+
+
+if __name__ == "__main__":
+    unittest.main()
