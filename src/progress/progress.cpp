@@ -50,9 +50,11 @@ Progress::Object::Object(HProgressBar *totalBar, HProgressBar *itemBar, Clock cl
     connect(this, &Object::resetSig, m_minion, &Minion::reset);
 }
 
-// The minion goes on the GUI thread, after what is on its way to it.
+// The minion goes on the GUI thread, after what is on its way to it. That may be while this object
+// is still going, and one that is half gone must not be asked about a connection.
 Progress::Object::~Object()
 {
+    disconnect(m_minion);
     m_minion->deleteLater();
 }
 

@@ -75,8 +75,12 @@ YumIODialogs::YumIODialogs(QWidget *parent)
     connect(this, &YumIODialogs::scrollableSig, m_minion, &YumIODialogsMinion::scrollable);
 }
 
+// Disconnected first: the GUI thread may delete the minion while this object is still going, and
+// one that is half gone must not be asked about a connection.
 YumIODialogs::~YumIODialogs()
 {
+    disconnect(m_minion);
+    m_minion->disconnect(this);
     m_minion->deleteLater();
 }
 
