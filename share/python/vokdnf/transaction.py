@@ -15,6 +15,7 @@ from yum import Errors
 
 from . import clean, display, errors, groups, interrupted, keys, locks, meters, packages, report
 from . import resolve, root, tsinfo
+from .base import full_cache
 
 _CLONE_FS = 0x200
 
@@ -99,7 +100,8 @@ class Transaction:
                 raise Errors.CancelledError() from error
             lines = [report.clean(error)] + [text for text in dict.fromkeys(progress.failures)
                                              if text not in report.clean(error)]
-            raise Errors.NoMoreMirrorsRepoError("\n".join(lines)) from error
+            raise Errors.NoMoreMirrorsRepoError(
+                "\n".join(lines) + full_cache(base.conf.cachedir)) from error
         finally:
             progress.finish()
 
@@ -138,11 +140,12 @@ class Transaction:
         self._fill_tsinfo([item for item in items if outcomes.of(item)[0] == "done"])
         report.yumIOC.postTransactionOutput(self._yumio)
         rows = outcomes.rows()
+        if report.offers("transactionReport"):
+            report.yumIOC.transactionReport(rows)
+            return
         for name, outcome, reason in rows:
             if reason:
                 report.errorlog(0, "%s %s: %s" % (name, outcome, reason))
-        if report.offers("transactionReport"):
-            report.yumIOC.transactionReport(rows)
 
 
 def _check_writable():
@@ -194,7 +197,9 @@ class Outcomes:
         """(outcome, reason) of an item."""
         key = packages.envra(item.pkg)
         erasing = item.action in tsinfo.ERASING
-        reason = "; ".join(self._reasons.get(display.element_name(item), ()))
+        # That rpm skipped an element is no reason of its own: it follows from another's failure.
+        reason = "; ".join(text for text in self._reasons.get(display.element_name(item), ())
+                           if not text.endswith(" skipped"))
         if (key in self._installed) != erasing or key in self._new and erasing:
             return "done", reason
         if reason:
