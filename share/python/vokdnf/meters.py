@@ -60,6 +60,7 @@ class RepositoryCallbacks(libdnf.repo.RepoCB):
         super().__init__()
         self._repo = repo
         self._open = False
+        self._over = False  # the metadata is loaded; what comes later is a key or a package
         self.cancelled = False
         self.failures = []  # texts of mirrors that failed, in order
         self._before = self._done = self._size = 0
@@ -82,7 +83,7 @@ class RepositoryCallbacks(libdnf.repo.RepoCB):
         if self.cancelled or report.cancelled():
             self.cancelled = True
             return 1
-        if not total and not done:
+        if self._over or not total and not done:
             return 0
         if done < self._done:  # the next file of the repository begins
             self._before += self._done
@@ -110,7 +111,7 @@ class RepositoryCallbacks(libdnf.repo.RepoCB):
 
     def handleMirrorFailure(self, msg, url, metadata):
         try:
-            if self.cancelled:
+            if self.cancelled or self._over:
                 return 0
             text = report.clean(msg if url in msg else "%s (%s)" % (msg, url))
             if text not in self.failures:
@@ -131,6 +132,7 @@ class RepositoryCallbacks(libdnf.repo.RepoCB):
 
     def finish(self):
         """Closes the repository's meter."""
+        self._over = True
         if self._open:
             report.yumIOC.collectGrabMeterEnd(self._repo.id, self._before + self._done)
             report.yumIOC.collectGrabMultiMeterRemove(self._repo.id)
