@@ -233,20 +233,13 @@ QVariant Model::colour(const Entry &entry, int column) const
 
 QVariant Model::userValue(const Entry &entry, int column)
 {
-    switch (column) {
-    case ActionColumn:
-        return int(entry.action);
-    case StateColumn:
-        return int(entry.state);
-    case KindColumn:
-        return int(entry.kind);
-    case SizeColumn:
+    if (column <= KindColumn)
+        return sortNumber(entry, column);
+    if (column == SizeColumn)
         return quint64(entry.size);
-    case BuildTimeColumn:
+    if (column == BuildTimeColumn)
         return qint64(entry.buildTime);
-    default:
-        return QVariant::fromValue(const_cast<Entry *>(&entry));
-    }
+    return QVariant::fromValue(const_cast<Entry *>(&entry));
 }
 
 bool Model::isNumberColumn(int column)

@@ -6,6 +6,7 @@
 #include <QStringEncoder>
 
 #include <algorithm>
+#include <utility>
 
 namespace PackageTable {
 
@@ -34,6 +35,11 @@ void appendUtf8(QByteArray &bytes, QStringView text)
     bytes.resize(size + encoder.requiredSpace(text.size()));
     const char *end = encoder.appendToBuffer(bytes.data() + size, text);
     bytes.truncate(end - bytes.constData());
+}
+
+template <typename T> bool changed(T &member, T value)
+{
+    return std::exchange(member, value) != value;
 }
 
 } // namespace
@@ -67,42 +73,32 @@ void SortFilterProxyModel::setSourceModel(HAbstractTableModel *model)
 
 void SortFilterProxyModel::setMode(Mode mode)
 {
-    if (mode == m_mode)
-        return;
-    m_mode = mode;
-    clear();
+    if (changed(m_mode, mode))
+        clear();
 }
 
 void SortFilterProxyModel::setStateFilter(StateFilter stateFilter)
 {
-    if (stateFilter == m_stateFilter)
-        return;
-    m_stateFilter = stateFilter;
-    clear();
+    if (changed(m_stateFilter, stateFilter))
+        clear();
 }
 
 void SortFilterProxyModel::setDupsFilter(bool dups)
 {
-    if (dups == m_dups)
-        return;
-    m_dups = dups;
-    clear();
+    if (changed(m_dups, dups))
+        clear();
 }
 
 void SortFilterProxyModel::setGroupsFilter(bool groups)
 {
-    if (groups == m_groups)
-        return;
-    m_groups = groups;
-    clear();
+    if (changed(m_groups, groups))
+        clear();
 }
 
 void SortFilterProxyModel::setFilter(bool filter)
 {
-    if (filter == m_filter)
-        return;
-    m_filter = filter;
-    clear();
+    if (changed(m_filter, filter))
+        clear();
 }
 
 void SortFilterProxyModel::setFilterRegExp(const QString &pattern)

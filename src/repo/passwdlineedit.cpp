@@ -265,16 +265,10 @@ void PasswdLineEdit::inputMethodEvent(QInputMethodEvent *event)
     carryToVisible();
 
     // What is being composed counts as typed already, so that it is masked inside a password.
-    const QString composed = event->preeditString();
     const int cursor = m_real->cursorPosition();
-    QString whole = m_real->text();
-    whole.insert(cursor, composed);
-    QList<QInputMethodEvent::Attribute> attributes;
-    for (const auto &attribute : event->attributes()) {
-        if (attribute.type != QInputMethodEvent::Selection)
-            attributes += attribute;
-    }
-    QInputMethodEvent shown(masked(whole).mid(cursor, composed.size()), attributes);
+    const QString whole = m_real->text().insert(cursor, event->preeditString());
+    QInputMethodEvent shown(masked(whole).mid(cursor, event->preeditString().size()),
+                            PasswordMask::withoutSelection(event->attributes()));
     const QScopedValueRollback guard(m_carrying, true);
     QLineEdit::inputMethodEvent(&shown);
 }

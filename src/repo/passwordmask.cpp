@@ -113,6 +113,14 @@ bool PasswordMask::editsText(const QKeyEvent *event)
            first.category() == QChar::Other_PrivateUse;
 }
 
+QList<QInputMethodEvent::Attribute>
+PasswordMask::withoutSelection(const QList<QInputMethodEvent::Attribute> &attributes)
+{
+    QList<QInputMethodEvent::Attribute> result = attributes;
+    result.removeIf([](const auto &one) { return one.type == QInputMethodEvent::Selection; });
+    return result;
+}
+
 void PasswordMask::hideFromAccessibility()
 {
     static const bool installed = [] {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QInputMethodEvent>
 #include <QRegularExpression>
 #include <QString>
 
@@ -29,6 +30,10 @@ qsizetype wholeCharacter(const QString &text, qsizetype position);
 // Whether the key types or deletes something, so that nothing is selected afterwards. A key that
 // leaves a selection would make what the real editor has selected the primary selection.
 bool editsText(const QKeyEvent *event);
+
+// What an input method says about a text that is being composed, for the copy.
+QList<QInputMethodEvent::Attribute>
+withoutSelection(const QList<QInputMethodEvent::Attribute> &attributes);
 
 // Keeps the real editors, which are children of a window like any other widget, from telling
 // assistive technology what they hold.
