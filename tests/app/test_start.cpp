@@ -23,21 +23,15 @@ private Q_SLOTS:
             QTest::newRow(arguments)
                 << QString::fromLatin1(arguments) << QString::fromLatin1(calls);
         };
-        row("-m f", "mode 0");
         row("-m ''", "mode 0");
         row("--mode=search", "mode 1");
         row("-s ''", "state 0");
-        row("-su", "state 0");
-        row("--state i", "state 1");
         row("--state=rem", "state 2");
-        row("-s al", "state 3");
         row("-e ^kernel.*", "regexp ^kernel.*");
         row("--regexp=", "regexp ");
         row("--duplicates", "dups 0");
         row("-grl", "groups 1,editor 1,log 1");
-        row("--groups --repo-editor --log", "groups 1,editor 1,log 1");
         row("-s a -m s -s u", "state 3,mode 1,state 0");
-        row("--", "");
     }
 
     void options()

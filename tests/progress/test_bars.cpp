@@ -91,15 +91,10 @@ private Q_SLOTS:
         const ThreadState running{QStringLiteral("<b>"), 250, 1000, 2};
         const ThreadState unknown{QStringLiteral("c"), 250, 1, 2};
         const ThreadState finished{QStringLiteral("d"), 5, 5, 3};
-        QStringList twenty;
-        for (int i = 0; i < 20; ++i)
-            twenty << QStringLiteral("d") << QStringLiteral("Complete");
-
         QTest::newRow("each") << QList<ThreadState>{idle,    retrying, running,
                                                     unknown, finished, idle}
                               << words("a|Retrying|<b>|250 / 1000 (25%)|c|In Progress|d|Complete|"
                                        "2 downloads|Not Started Yet");
-        QTest::newRow("20 finished") << QList<ThreadState>(20, finished) << twenty;
         QTest::newRow("25 finished, 3 running")
             << QList<ThreadState>(3, running) + QList<ThreadState>(25, finished)
             << words("25 downloads|Complete|<b>|250 / 1000 (25%)|<b>|250 / 1000 (25%)|"
@@ -126,7 +121,10 @@ private Q_SLOTS:
     {
         const auto hides = [this](QEvent *event) {
             QString text = QStringLiteral("Tip");
+            const QPointer<GeneralTip> before = GeneralTip::current();
             GeneralTip::showTip(QPoint(10, 10), setupLabel, &text, m_bar, true);
+            if (before)
+                return false; // two at a time
             // To an object without handlers of its own: the tip listens to the whole application.
             QObject receiver;
             QApplication::sendEvent(&receiver, event);
@@ -141,16 +139,6 @@ private Q_SLOTS:
         QEvent otherWindow(QEvent::WindowDeactivate);
         QVERIFY(hides(&letter) && hides(&wheel) && hides(&otherWindow));
         QTRY_VERIFY(!GeneralTip::current());
-    }
-
-    void onlyOneTip()
-    {
-        QString text = QStringLiteral("Tip");
-        GeneralTip::showTip(QPoint(10, 10), setupLabel, &text, m_bar, true);
-        const QPointer<GeneralTip> first = GeneralTip::current();
-        GeneralTip::showTip(QPoint(10, 10), setupLabel, &text, m_bar, true);
-        QVERIFY(!first);
-        QVERIFY(GeneralTip::current()->isVisible());
     }
 
     void tipStaysOnScreen()

@@ -1,8 +1,5 @@
-#include "app/colors.h"
-#include "widgets/hframelabel.h"
 #include "widgets/htextedit.h"
 
-#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 
@@ -11,17 +8,6 @@ class TestKit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Rows and columns are whole ones: a text of that size needs no scroll bar.
-    void textEditRoom()
-    {
-        HTextEdit edit(4, 30);
-        edit.setPlainText(QStringLiteral("x\nx\nx\nx"));
-        edit.resize(edit.sizeHint());
-        edit.show();
-        QVERIFY(!edit.verticalScrollBar()->isVisible());
-        QVERIFY(edit.viewport()->width() >= 30 * edit.fontMetrics().averageCharWidth());
-    }
-
     void paragraphs()
     {
         HTextEdit edit;
@@ -39,18 +25,6 @@ private Q_SLOTS:
         edit.clear();
         edit.appendCompact(QStringLiteral("d"));
         QCOMPARE(edit.toPlainText(), QStringLiteral("d"));
-    }
-
-    void frameLabel()
-    {
-        HFrameLabel label;
-        label.setPalette(Colors::makeError(label.palette()));
-        label.resize(60, 30);
-        const QColor empty = label.grab().toImage().pixelColor(30, 4);
-        QVERIFY(empty != Colors::errorBg());
-        label.setText(QStringLiteral("<i>x"));
-        QCOMPARE(label.grab().toImage().pixelColor(30, 4), Colors::errorBg());
-        QVERIFY(label.sizeHint().width() > label.fontMetrics().horizontalAdvance(label.text()));
     }
 };
 
