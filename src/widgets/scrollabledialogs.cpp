@@ -15,28 +15,45 @@ constexpr int tabColumns = 8;
 constexpr int fewestColumns = 40;
 constexpr int fewestRows = 3;
 
+// Stands for the width of a line that is not worth measuring: it will be wrapped anyway.
+constexpr qsizetype longLine = 2000;
+
+int widthOf(const QPlainTextEdit *edit, const QString &line)
+{
+    const QFontMetrics metrics = edit->fontMetrics();
+    if (line.size() > longLine)
+        return int(qMin<qsizetype>(line.size(), 1 << 20)) * metrics.averageCharWidth();
+    return metrics.size(Qt::TextExpandTabs, line, int(edit->tabStopDistance())).width();
+}
+
+// The rows that the text takes in a column of that width, counted up to `most`. Words do not fill a
+// row that is wrapped.
+int rowsOf(const QPlainTextEdit *edit, int column, int most)
+{
+    int rows = 0;
+    for (QTextBlock block = edit->document()->begin(); block.isValid() && rows < most;
+         block = block.next()) {
+        const qint64 width = widthOf(edit, block.text());
+        rows += width <= column ? 1 : int(width * 11 / 10 / column) + 1;
+    }
+    return rows;
+}
+
 // The size at which the whole text shows, as far as `most` allows.
 QSize textSize(const QPlainTextEdit *edit, QSize most)
 {
     const QFontMetrics metrics = edit->fontMetrics();
     const int around = 2 * (edit->frameWidth() + int(edit->document()->documentMargin()));
-    const int tab = int(edit->tabStopDistance());
-    int width = fewestColumns * metrics.averageCharWidth();
-    int rows = 0;
-    for (QTextBlock block = edit->document()->begin(); block.isValid(); block = block.next()) {
-        ++rows;
-        const QString line = block.text();
-        // Not measured where it is plain that it will be wrapped.
-        if (width < most.width()) {
-            const int advance = line.size() > 2000
-                                    ? most.width()
-                                    : metrics.size(Qt::TextExpandTabs, line, tab).width();
-            width = qMax(width, advance);
-        }
-    }
-    width += around + edit->verticalScrollBar()->sizeHint().width();
-    const int height = qMax(rows, fewestRows) * metrics.lineSpacing() + around;
-    return QSize(width, height).boundedTo(most);
+    const int beside = around + edit->verticalScrollBar()->sizeHint().width();
+    const int widest = qMax(most.width() - beside, 1);
+    int width = qMin(fewestColumns * metrics.averageCharWidth(), widest);
+    for (QTextBlock block = edit->document()->begin(); block.isValid() && width < widest;
+         block = block.next())
+        width = qMin(qMax(width, widthOf(edit, block.text())), widest);
+    const int rows = rowsOf(edit, width, most.height() / metrics.lineSpacing() + 1);
+    // Half a row more, or a text that just fits has a scroll bar.
+    const int height = (2 * qMax(rows, fewestRows) + 1) * metrics.lineSpacing() / 2 + around;
+    return QSize(width + beside, height).boundedTo(most);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "python/pyref.h"
 
 #include "dialogs.h"
+#include "progress/progress.h"
 #include "yumio.h"
 
 PyObject *YumIO::cancelled(PyObject *, PyObject *)
@@ -40,6 +41,8 @@ PyObject *YumIO::lockWait(PyObject *, PyObject *args)
     // Giving up needs no report: the question has told all there is.
     if (!wait) // a cancel of the GUI thread that comes just now must stay
         m_cancelled = true;
+    else if (m_progress)
+        m_progress->changeItemActivity(tr("Waiting for process %1").arg(pid));
     log(Log::Kind::Warning, 0,
         wait ? tr("Waiting for %1").arg(holder) : tr("Not waiting for %1").arg(holder));
     return PyLong_FromLong(wait ? 1 : 0);

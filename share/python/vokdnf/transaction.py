@@ -99,7 +99,8 @@ class Transaction:
             if progress.cancelled:
                 raise Errors.CancelledError() from error
             lines = [report.clean(error)] + [text for text in dict.fromkeys(progress.failures)
-                                             if text not in report.clean(error)]
+                                             if text not in report.clean(error)
+                                             and "No more mirrors" not in text]
             raise Errors.NoMoreMirrorsRepoError(
                 "\n".join(lines) + full_cache(base.conf.cachedir)) from error
         finally:
