@@ -1,7 +1,6 @@
 #include "answers.h"
 
 #include "progress/hprogressbar.h"
-#include "python/pyref.h"
 #include "yumio/yumio.h"
 
 #include <QApplication>
@@ -47,7 +46,7 @@ int failed(const Answers &answers)
 }
 
 // The part that runs on the root: collects and writes the rows.
-int collectRows(const QString &path, bool atOnce)
+int collectRows(const QString &path)
 {
     Answers answers;
     QWidget window;
@@ -56,8 +55,6 @@ int collectRows(const QString &path, bool atOnce)
     engine.setup(&window, &totalBar, &itemBar);
     if (!engine.initialize())
         return failed(answers);
-    if (!atOnce && PyRun_SimpleString("del YumIO.collectRows") != 0)
-        return 2;
     if (!engine.collect({}) || !answers.shown.isEmpty())
         return failed(answers);
     QFile file(path);
@@ -110,40 +107,27 @@ class TestCollectReal : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void bothWaysGiveTheSame();
     void installedPackages();
     void availablePackages();
 
 private:
-    QStringList collect(const QString &way);
-
     QTemporaryDir m_place;
     QString m_root = m_place.filePath(QStringLiteral("root"));
     QStringList m_rows;
 };
 
-QStringList TestCollectReal::collect(const QString &way)
-{
-    const QString path = m_place.filePath(way);
-    const QByteArray said = run({QStringLiteral("run"), m_root, QStringLiteral("--"),
-                                 QCoreApplication::applicationFilePath(), way, path});
-    QFile file(path);
-    if (said.startsWith("failed") || !file.open(QIODevice::ReadOnly))
-        return {QString::fromUtf8(said)};
-    return linesOf(file.readAll());
-}
-
 void TestCollectReal::initTestCase()
 {
     QVERIFY(m_place.isValid());
     QVERIFY(!run({QStringLiteral("create"), m_root}).startsWith("failed"));
-    m_rows = collect(QStringLiteral("rows"));
+    const QString path = m_place.filePath(QStringLiteral("rows"));
+    const QByteArray said =
+        run({QStringLiteral("run"), m_root, QStringLiteral("--"),
+             QCoreApplication::applicationFilePath(), QStringLiteral("--collect"), path});
+    QFile file(path);
+    QVERIFY2(!said.startsWith("failed") && file.open(QIODevice::ReadOnly), said.constData());
+    m_rows = linesOf(file.readAll());
     QVERIFY2(m_rows.size() > 60, qPrintable(m_rows.join(u'\n')));
-}
-
-void TestCollectReal::bothWaysGiveTheSame()
-{
-    QCOMPARE(collect(QStringLiteral("single")), m_rows);
 }
 
 void TestCollectReal::installedPackages()
@@ -208,7 +192,7 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     if (argc == 3)
-        return collectRows(QString::fromLocal8Bit(argv[2]), qstrcmp(argv[1], "rows") == 0);
+        return collectRows(QString::fromLocal8Bit(argv[2]));
     TestCollectReal test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -242,28 +242,6 @@ private Q_SLOTS:
         view.resizeColumnsToContents();
         QCOMPARE(view.width(), view.screen()->geometry().width() * 9 / 10);
     }
-
-    void sortsByHeader()
-    {
-        Cells cells;
-        cells.addTexts({1, QStringLiteral("b")});
-        cells.addTexts({2, QStringLiteral("a")});
-        HSortFilterProxyModel proxy(1, nullptr);
-        proxy.setSourceModel(&cells);
-        HTableView view(QStyleOptionViewItem::Left, 1, 5, nullptr);
-        view.sortByColumn(0); // nothing to sort
-        view.setModel(&proxy);
-        view.sortByColumn(0, Qt::DescendingOrder);
-        QCOMPARE(order(proxy), QStringLiteral("ab"));
-        view.sortByColumn(0);
-        QCOMPARE(order(proxy), QStringLiteral("ab"));
-        QCOMPARE(view.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
-        view.sortByColumn(1);
-        QCOMPARE(view.horizontalHeader()->sortIndicatorSection(), 1);
-        QCOMPARE(view.horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
-        view.sortByColumn(0);
-        QCOMPARE(order(proxy), QStringLiteral("ba"));
-    }
 };
 
 QTEST_MAIN(TestTableWidgets)
