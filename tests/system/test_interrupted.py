@@ -57,6 +57,10 @@ def name_of(package):
     return package.rsplit("-", 2)[0]
 
 
+def row_of(package):
+    return name_of(package), package.rpartition(".")[2]
+
+
 def check(root):
     """What dnf finds wrong with a root; empty when nothing is."""
     return subprocess.run([SANDBOX, "dnf", root, "-q", "check"], text=True, stdout=subprocess.PIPE,
@@ -96,9 +100,9 @@ class Interrupted(Case):
             self.rehearsals[install] = marks, result, before, self.packages(root)
         self.marks, self.result, self.before, self.after = self.rehearsals[install]
 
-    def kill_in_callback(self, root, callback, condition):
+    def kill_in_callback(self, root, callback, condition, marks):
         number = [condition(arguments) for arguments in calls(self.result, callback)].index(True) + 1
-        done = run(root, {"steps": [{"do": "collect"}, dict(self.marks, do="apply")],
+        done = run(root, {"steps": [{"do": "collect"}, dict(marks, do="apply")],
                           "killAt": [callback, number]})
         self.assertIsNone(done, "it was not killed")
 
@@ -116,9 +120,10 @@ class Interrupted(Case):
         left = self.packages(root)
         missing = self.after - self.before - left
         remaining = (self.before - self.after) & left
-        doubled = {old for old in remaining if name_of(old) in map(name_of, left - self.before)}
-        self.assertEqual(sorted(match[1] for match in re.finditer(
-            r"^(\S+) is a duplicate with", check(root), re.M)), sorted(doubled))
+        doubled = {old for old in remaining if row_of(old) in map(row_of, left - self.before)}
+        # dnf pairs the architectures of a library at will.
+        pairs = re.findall(r"^(\S+) is a duplicate with ", check(root), re.M)
+        self.assertEqual(set(map(name_of, pairs)), set(map(name_of, doubled)))
 
         result = run(root, {"steps": [{"do": "collect"}, {"do": "interrupted"}, {"do": "collect"},
                                       {"do": "interrupted"}]})
@@ -156,8 +161,25 @@ class Interrupted(Case):
             with self.subTest(name):
                 self.rehearse(install)
                 root = self.root()
-                self.kill_in_callback(root, callback, condition)
+                self.kill_in_callback(root, callback, condition, self.marks)
                 self.verify(root, begun)
+
+    def test_killed_between_two_architectures(self):
+        """One that is new does not make the other a double. (It is not completed here: rpm takes these
+        two, which hold no binaries, for versions of one another when it updates one alone.)"""
+        marks, seen = {"update": ["libtwin"]}, set()
+        self.result, *_ = self.apply(self.root(), marks)
+        for arch in ("i686", "x86_64"):
+            root = self.root()
+            self.kill_in_callback(root, "tsEvent", event("libtwin-1.1-1." + arch, 10), marks)
+            left = self.packages(root)
+            lines = run(root, {"steps": [{"do": "collect"}, {"do": "interrupted"}]})["values"][1]
+            for one in ("i686", "x86_64"):
+                old, new = "libtwin-1.0-1." + one, "libtwin-1.1-1." + one
+                seen.add(new in left)
+                self.assertIn("Installed twice: 0:%s beside 0:%s." % (old, new) if new in left
+                              else "Not removed: 0:%s" % old, lines)
+        self.assertEqual(seen, {True, False})
 
     def test_killed_in_a_scriptlet(self):
         for words, install in IN_A_SCRIPTLET.items():

@@ -16,8 +16,7 @@ def write(items):
     """Notes the elements of a transaction (items of DNF) before rpm begins. A system that takes no
     marker takes no transaction either, so a failure is only logged."""
     path = root.resolve(MARKER)
-    elements = [{"action": item.action, "erase": item.action in tsinfo.ERASING,
-                 "package": packages.envra(item.pkg)} for item in items]
+    elements = [{"action": item.action, "package": packages.envra(item.pkg)} for item in items]
     try:
         os.makedirs(os.path.dirname(path), mode=0o755, exist_ok=True)
         with open(path + ".new", "w", encoding="utf-8") as stream:
@@ -45,7 +44,7 @@ def check(session):
     try:
         with open(root.resolve(MARKER), encoding="utf-8") as stream:
             elements = json.load(stream)["elements"]
-        planned = [(one["package"], bool(one["erase"])) for one in elements]
+        planned = [(str(one["package"]), int(one["action"])) for one in elements]
     except FileNotFoundError:
         return []
     except (OSError, ValueError, KeyError, TypeError) as error:
@@ -70,26 +69,37 @@ def installed_packages(base):
     return found
 
 
-def _name(package):
-    return package.partition(":")[2].rsplit("-", 2)[0]
+def _is_twin(old, new):
+    """Whether one of two packages (epoch:name-version-release.arch) is to replace the other under its
+    name; libraries of two architectures have one name."""
+    old_name, old_arch = old.partition(":")[2].rsplit("-", 2)[0], old.rpartition(".")[2]
+    new_name, new_arch = new.partition(":")[2].rsplit("-", 2)[0], new.rpartition(".")[2]
+    return old_name == new_name and (old_arch == new_arch or "noarch" in (old_arch, new_arch))
 
 
 def _lines(planned, installed):
-    installs = [package for package, erase in planned if not erase]
-    erases = [package for package, erase in planned if erase and package not in installs]
+    installs = [package for package, action in planned if action not in tsinfo.ERASING]
+    erases = {package: action for package, action in planned
+              if action in tsinfo.ERASING and package not in installs}
     missing = [package for package in installs if package not in installed]
     left = [package for package in erases if package in installed]
     lines = ["The last transaction was interrupted."]
     done = len(installs) + len(erases) - len(missing) - len(left)
     lines.append("%d of its %d steps had been done." % (done, len(installs) + len(erases)))
-    new = {_name(package): package for package in installs if package in installed}
     for package in missing:
         lines.append("Not installed: %s. If rpm was unpacking it, files of it may be there already."
                      % package)
+    twice = 0
     for package in left:
-        twin = new.get(_name(package))
-        lines.append("Installed twice: %s beside %s." % (package, twin) if twin
+        twins = [new for new in installs if new in installed and _is_twin(package, new)
+                 and erases[package] in tsinfo.REPLACED]
+        twice += bool(twins)
+        lines.append("Installed twice: %s beside %s." % (package, twins[0]) if twins
                      else "Not removed: %s" % package)
-    lines.append("Repeat the transaction to complete it; remove the older of what is installed twice."
-                 if missing or left else "Nothing is missing; scriptlets may not have run to their end.")
+    if len(missing) + len(left) > twice:
+        lines.append("Repeat the transaction to complete it.")
+    if twice:  # a row of the table stands for all versions of its package
+        lines.append("\"dnf remove --duplicates\" removes the older of what is installed twice.")
+    if not missing and not left:
+        lines.append("Nothing is missing; scriptlets may not have run to their end.")
     return lines
