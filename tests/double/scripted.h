@@ -81,7 +81,7 @@ public:
     // At each probe of the script: the total's value and maximum, the item's maximum and text.
     void observeBars(Answers &answers)
     {
-        answers.probeText = QStringLiteral("probe (process 0)");
+        answers.probeText = QStringLiteral("Key: probe");
         answers.observe = [this] {
             return QStringLiteral("%1/%2 %3 %4")
                 .arg(totalBar.value())

@@ -21,7 +21,7 @@ bool isSigintDefault()
 // A method of the script with a dialog in its middle, to look at the program.
 QByteArray lookingAround(const char *method)
 {
-    return QByteArray("def ") + method + "(io):\n    yumIOC.lockWait(0, 'probe')\n";
+    return QByteArray("def ") + method + "(io):\n    yumIOC.keyQuestion('probe', '', '', '')\n";
 }
 
 const QString unexpected = s("Internal error: python exception occurred from C code.\n"
@@ -290,7 +290,7 @@ void TestCollect::steps()
 void TestCollect::whileAJobRuns()
 {
     Answers answers;
-    answers.probeText = s("process 0");
+    answers.probeText = s("Key: probe");
     answers.observe = [this] {
         return s("%1 %2 %3")
             .arg(m_case.engine.count())
@@ -320,7 +320,7 @@ void TestCollect::whileAJobRuns()
 void TestCollect::quitDuringAJob()
 {
     Answers answers;
-    answers.probeText = s("process 0");
+    answers.probeText = s("Key: probe");
     answers.observe = [] {
         QCoreApplication::quit();
         return QString();
@@ -328,7 +328,7 @@ void TestCollect::quitDuringAJob()
     bool collected = false;
     const auto collect = [&] {
         collected = m_case.collect("installed = [Package('p')]\n" + lookingAround("setupTs") +
-                                   "    yumIOC.lockWait(0, 'probe')\n    return 1\n");
+                                   "    yumIOC.keyQuestion('probe', '', '', '')\n    return 1\n");
     };
     QMetaObject::invokeMethod(this, collect, Qt::QueuedConnection);
     QCoreApplication::exec();
@@ -351,10 +351,10 @@ void TestCollect::refusedSession()
 void TestCollect::clearing()
 {
     Answers answers;
-    answers.probeText = s("process 0");
+    answers.probeText = s("Key: probe");
     answers.observe = [this] { return QString::number(m_case.engine.count()); };
     QVERIFY(m_case.collect("class Loud(Package):\n"
-                           "    def __del__(self): yumIOC.lockWait(0, 'probe')\n"
+                           "    def __del__(self): yumIOC.keyQuestion('probe', '', '', '')\n"
                            "def collectAll(io):\n"
                            "    return types.SimpleNamespace(installed=[Loud('p')], "
                            "available=[])\n"));

@@ -181,18 +181,7 @@ private Q_SLOTS:
     void cancels()
     {
         const QString before = listed();
-        hold("metadata");
-        QTimer probe;
-        connect(&probe, &QTimer::timeout, this, [&] {
-            // The job's failure is told in a box, which nobody else closes here.
-            if (auto *box = QApplication::activeModalWidget())
-                box->close();
-            else if (child<QPushButton>("cancelButton")->isEnabled())
-                press("cancelButton");
-        });
-        probe.start(5);
-        press("refreshButton");
-        probe.stop();
+        refreshAndThen([this] { press("cancelButton"); });
         release();
         QVERIFY(!child<QPushButton>("cancelButton")->isEnabled());
         QCOMPARE(listed(), before);
@@ -240,17 +229,7 @@ private Q_SLOTS:
     // Asked to quit, the window cancels what can be cancelled and goes when it has stopped.
     void quitsWhenTheJobHasStopped()
     {
-        hold("metadata");
-        QTimer probe;
-        connect(&probe, &QTimer::timeout, this, [&] {
-            if (auto *box = QApplication::activeModalWidget())
-                box->close();
-            else if (child<QPushButton>("cancelButton")->isEnabled())
-                m_window->quit();
-        });
-        probe.start(5);
-        press("refreshButton");
-        probe.stop();
+        refreshAndThen([this] { m_window->quit(); });
         QVERIFY(!m_window->isVisible());
         QVERIFY(!QApplication::overrideCursor());
         QVERIFY(QFile::exists(m_dir.filePath(u"hold"_s)));
@@ -275,6 +254,22 @@ private:
     }
     QAction *action(const char *name) { return child<QAction>(name); }
     void press(const char *name) { QTest::mouseClick(child<QPushButton>(name), Qt::LeftButton); }
+
+    // Starts a refresh that does not come to its end, and does something once it can be cancelled.
+    void refreshAndThen(const std::function<void()> &act)
+    {
+        hold("metadata");
+        QTimer probe;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            // The job's failure is told in a box, which nobody else closes here.
+            if (auto *box = QApplication::activeModalWidget())
+                box->close();
+            else if (child<QPushButton>("cancelButton")->isEnabled())
+                act();
+        });
+        probe.start(5);
+        press("refreshButton");
+    }
 
     void filter(const QString &expression)
     {

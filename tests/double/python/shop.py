@@ -54,7 +54,7 @@ def package(name):
 
 
 def probe():
-    yumIOC.lockWait(0, "probe")
+    yumIOC.keyQuestion("probe", "", "", "")
 
 
 def step(io, **names):
