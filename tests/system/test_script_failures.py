@@ -2,7 +2,6 @@
 
 import pathlib
 import re
-import subprocess
 import unittest
 
 import httpserver
@@ -46,6 +45,8 @@ HALF_WAY = {
                   {"badwire"}, set()),
     "a missing interpreter": ({"install": ["no-shell"]}, {"no-shell": ("done", "no-such-shell")},
                               {"no-shell"}, set()),
+    "what rpm removes unasked": ({"update": ["libtwin.i686"]}, {"libtwin": ("done", "rpm removed it")},
+                                 {"libtwin"}, {"libtwin"}),
     "what needs a package that failed": ({"install": ["needs-fail-pre"]},
                                          {"fail-pre": ("failed", "%prein")}, {"needs-fail-pre"}, set()),
 }
@@ -175,40 +176,6 @@ class Failures(Case):
         self.assertEqual(refused["errors"][0][0], "RepoError")
         self.assertIn("GPG", refused["errors"][0][1])
 
-    def test_downloads(self):
-        """Servers that fail, and one that takes over."""
-        packages = "{};only=*.rpm"
-        for name, kind, behaviour, second, extra, step, error, word in (
-                ("not found", "http", "status=404", None, "", 0, "RepoError", "Status code: 404"),
-                ("refused", "closed", "", None, "", 0, "RepoError", "connect"),
-                ("certificate", "expired", "", None, "", 0, "RepoError", "certificate"),
-                ("a page instead", "http", "html", None, "", 0, "RepoError", "repomd"),
-                ("left out", "http", "status=503", None, "skip_if_unavailable=1", 0, None, ""),
-                ("vanished", "http", packages.format("status=404"), None, "", 1,
-                 "NoMoreMirrorsRepoError", "Status code: 404"),
-                ("corrupt", "http", packages.format("flip"), None, "", 1, "NoMoreMirrorsRepoError",
-                 "checksum"),
-                ("mirror", "http", packages.format("status=503"), "", "", 1, None, "")):
-            with self.subTest(name):
-                root = self.root()
-                directory = pathlib.Path(root, "srv/repos/9/x86_64/extras")
-                with httpserver.Server(directory, tls=kind == "expired") as server:
-                    urls = [server.url("", behaviour, kind)]
-                    urls += [server.url("", second)] if second is not None else []
-                    self.serve(root, urls, extra)
-                    install = {"do": "apply", "install": ["chess"]}
-                    result = run(root, {"steps": [{"do": "collect"}] + [install] * step})
-                last = result["errors"][step]
-                self.assertEqual(last and last[0], error)
-                self.assertIn(word, str(last))
-                failures = calls(result, "collectGrabMeterFailure" if not step
-                                 else "applyGrabMeterFailure")
-                self.assertEqual(bool(failures), name != "a page instead")
-                if name == "left out":
-                    told = " ".join(text for _, text in calls(result, "errorlog"))
-                    self.assertIn("Repository extras: ", told)
-                    self.assertIn("Status code: 503", told)
-
     @staticmethod
     def serve(root, urls, extra=""):
         path = pathlib.Path(root, "etc/yum.repos.d/aster-extras.repo")
@@ -233,49 +200,6 @@ class Failures(Case):
                 self.assertEqual(self.packages(root), before)
                 opened = calls(result, "applyGrabMultiMeterStart")
                 self.assertEqual(len(opened), len(calls(result, "applyGrabMultiMeterEnd")))
-
-    def test_locks(self):
-        root = self.root()
-        run(root, {"steps": [{"do": "collect"}]})
-        code = "import fcntl, os, sys; stream = open(sys.argv[1], 'r+'); " \
-               "fcntl.flock(stream, fcntl.LOCK_EX); stream.write(str(os.getpid())); stream.flush(); " \
-               "print(flush=True); sys.stdin.read()"
-        collect = {"steps": [{"do": "collect"}]}
-        for name, path in (("ours", "run/vok/vok.lock"), ("dnf's", "var/lib/dnf/rpmdb_lock.pid")):
-            with self.subTest(name):
-                lock = pathlib.Path(root, path)
-                lock.touch()
-                holder = subprocess.Popen(["/usr/bin/python3", "-c", code, lock], text=True,
-                                          stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-                holder.stdout.readline()
-                for scenario in ({"without": ["lockWait"]}, {}):
-                    result = run(root, dict(collect, **scenario))
-                    self.assertEqual(result["errors"][0][0], "LockError")
-                    self.assertRegex(result["errors"][0][1],
-                                     r"process %d \(/usr/bin/python3 -c" % holder.pid)
-                self.assertEqual([pid for pid, _ in calls(result, "lockWait")], [holder.pid])
-                result = run(root, dict(collect, cancelAt="lockWait", lockWait=[1]))
-                self.assertEqual(result["errors"][0][0], "CancelledLockError")
-                holder.communicate("")
-                self.assertIsNone(run(root, collect)["errors"][0])
-
-    def test_killed(self):
-        """The start after a kill says what rpm left, once; the database is sound."""
-        marks = {"do": "apply", "install": ["shell-hello"], "update": ["clock", "weather"],
-                 "remove": ["orphan"]}
-        for at, twice in ((1, 0), (8, 1), (12, 2), (18, 2)):
-            with self.subTest(at):
-                root = self.root()
-                self.assertIsNone(run(root, {"killAt": ["tsEvent", at],
-                                             "steps": [{"do": "collect"}, marks]}))
-                steps = [{"do": "collect"}, {"do": "interrupted"}]
-                lines, = run(root, {"steps": steps})["values"][1:]
-                self.assertIn("interrupted", lines[0])
-                self.assertEqual(len([line for line in lines if "Installed twice" in line]), twice)
-                doubled = tool(root, "dnf", "-q", "check", check=False).count("is a duplicate with")
-                self.assertEqual(doubled, twice)
-                tool(root, "rpm", "--verifydb")
-                self.assertEqual(run(root, {"steps": steps})["values"][1], [])
 
 
 if __name__ == "__main__":
