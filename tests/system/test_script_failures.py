@@ -5,7 +5,7 @@ import re
 import unittest
 
 import httpserver
-from scriptdriver import Case, calls, mounted, run, tool
+from scriptdriver import Case, calls, mounted, run
 
 # Marks that cannot be resolved as they are; words of the explanation; the question, when there is a way
 # out; what comes and goes after a yes.

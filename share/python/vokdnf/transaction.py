@@ -116,6 +116,7 @@ class Transaction:
         if base.conf.installroot != "/":
             # rpm changes the root directory; this thread's alone, not that of the whole process.
             ctypes.CDLL(None).unshare(_CLONE_FS)
+        before = {packages.envra(pkg) for pkg in base.sack.query().installed()}
         interrupted.write(items)
         base.history.log_scriptlet_output = HistoryOutput(base.history)
         failure = ""
@@ -132,15 +133,15 @@ class Transaction:
         shown.finish()
         interrupted.clear()
         try:
-            self._tell_outcome(items, shown, failure)
+            self._tell_outcome(items, shown, failure, before)
         except Exception as error:  # what was done stays done, whatever its report meets
             report.errorlog(0, "The report of the transaction failed: %s" % report.clean(error))
 
-    def _tell_outcome(self, items, shown, failure):
+    def _tell_outcome(self, items, shown, failure, before):
         outcomes = Outcomes(items, interrupted.installed_packages(self._base), shown.reasons, failure)
         self._fill_tsinfo([item for item in items if outcomes.of(item)[0] == "done"])
         report.yumIOC.postTransactionOutput(self._yumio)
-        rows = outcomes.rows()
+        rows = outcomes.rows() + outcomes.unasked(before)
         if report.offers("transactionReport"):
             report.yumIOC.transactionReport(rows)
             return
@@ -215,6 +216,13 @@ class Outcomes:
             if key in self._new and key not in self._installed:
                 return "%s was not installed" % key
         return self._failure.strip() or "rpm left it out because another package failed"
+
+    def unasked(self, before):
+        """Rows of packages that were there `before` and went although the transaction does not hold
+        them: to rpm, an update of one architecture may replace the other."""
+        erased = {packages.envra(item.pkg) for item in self._items if item.action in tsinfo.ERASING}
+        return [(key, "done", "rpm removed it along with the others")
+                for key in sorted(before - self._installed - erased)]
 
     def rows(self):
         """[(epoch:name-version-release.arch, outcome, reason)], a reinstalled package once."""
