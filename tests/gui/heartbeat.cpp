@@ -87,14 +87,37 @@ Heartbeat::Reading Heartbeat::read() const
             double(queued) / 1e6};
 }
 
+void Heartbeat::setActivity(const QString &activity)
+{
+    if (activity == m_activity)
+        return;
+    // What the thread does for itself once a worker has ended is another stretch.
+    if (activity == QStringLiteral("done"))
+        note();
+    m_activity = activity;
+    if (activity == QStringLiteral("done"))
+        m_activityBefore = activity;
+}
+
 void Heartbeat::tick()
+{
+    note();
+    Q_EMIT beat();
+}
+
+void Heartbeat::note()
 {
     const Reading now = read();
     const double wall = now.time - m_last.time - interval;
-    if (wall > noticed && !m_activity.isEmpty()) {
-        Gap gap{double(m_clock.elapsed()),  wall,       now.cpu - m_last.cpu,
-                now.queued - m_last.queued, m_activity, {}};
-        if (const int count = frameCount.exchange(0)) {
+    const int count = frameCount.exchange(0);
+    if (wall > noticed && !m_activityBefore.isEmpty()) {
+        Gap gap;
+        gap.at = double(m_clock.elapsed());
+        gap.wall = wall;
+        gap.cpu = now.cpu - m_last.cpu;
+        gap.queued = now.queued - m_last.queued;
+        gap.activity = m_activityBefore;
+        if (count > 0) {
             char **names = backtrace_symbols(frames, count);
             for (int i = 0; names && i < count; ++i)
                 gap.stack.append(QString::fromLocal8Bit(names[i]));
@@ -103,8 +126,8 @@ void Heartbeat::tick()
         m_gaps.append(gap);
     }
     m_last = now;
+    m_activityBefore = m_activity;
     m_lastTick = m_clock.elapsed();
-    Q_EMIT beat();
 }
 
 QJsonArray Heartbeat::gaps() const

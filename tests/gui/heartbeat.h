@@ -23,7 +23,7 @@ public:
 
     void enableStacks();
     // Names what runs; empty while nothing does, then gaps do not count.
-    void setActivity(const QString &activity) { m_activity = activity; }
+    void setActivity(const QString &activity);
     // Longest first: {"at", "wall", "own" (wall without queued), "cpu", "queued", "activity",
     // "stack"}.
     QJsonArray gaps() const;
@@ -35,7 +35,7 @@ Q_SIGNALS:
 private:
     struct Gap
     {
-        double at, wall, cpu, queued;
+        double at = 0, wall = 0, cpu = 0, queued = 0;
         QString activity;
         QStringList stack;
     };
@@ -45,12 +45,14 @@ private:
     };
 
     void tick();
+    void note();
     Reading read() const;
 
     QTimer m_timer;
     QElapsedTimer m_clock;
     Reading m_last;
     QString m_activity;
+    QString m_activityBefore; // at the last beat
     QList<Gap> m_gaps;
     int m_schedstat;
     std::thread m_watcher;

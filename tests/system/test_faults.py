@@ -218,27 +218,39 @@ class Locks(Case):
                     self.assertGreater(answer["rows"], 50)
 
     def test_databases(self):
-        """rpm's and DNF's databases, locked by somebody who does not tell who he is."""
-        with Recorder(self.root) as window:
+        """rpm's and DNF's databases, locked by somebody who does not tell who he is: in one root the lock
+        of rpm's transactions and then DNF's records, in another, at the same time, rpm's own."""
+        other = self.root.with_name("other")
+        subprocess.run([SANDBOX, "copy", self.root, other], check=True)
+        with Recorder(self.root) as window, Recorder(other) as waiting:
             rows = window.do("wait")["rows"]
-            for path, title, reason in (
-                    ("var/lib/rpm/.rpm.lock", "VOK Yum Error", "transaction lock"),
-                    ("var/lib/dnf/history.sqlite", "VOK Yum Error", "history.*database is locked"),
-                    ("var/lib/rpm/rpmdb.sqlite", "VOK Transaction Report",
-                     "twice.*database is locked")):
-                with self.subTest(path):
-                    if path.endswith("sqlite"):
-                        lock = sqlite3.connect(self.root / path, isolation_level=None)
-                        lock.execute("BEGIN EXCLUSIVE")
-                    else:
-                        lock = open(self.root / path, "a+")
-                        fcntl.lockf(lock, fcntl.LOCK_EX)
-                    self.one(self.apply(window, "twice"), reason,
-                             title=title)
-                    self.assertEqual(window.do("rows")["rows"], rows)
-                    lock.close()
+            waiting.do("wait")
+            database = self.locked(other / "var/lib/rpm/rpmdb.sqlite")
+            waiting.do("mark", names=["twice"], action=INSTALL)
+            waiting.do("press", button="applyButton")
+
+            with open(self.root / "var/lib/rpm/.rpm.lock", "a+") as lock:
+                fcntl.lockf(lock, fcntl.LOCK_EX)
+                self.one(self.apply(window, "twice"), "transaction lock.*rpm.lock")
+            history = self.locked(self.root / "var/lib/dnf/history.sqlite")
+            self.one(self.apply(window, "twice"), "history.*database is locked")
+            self.assertEqual(window.do("rows")["rows"], rows)
+            self.assertEqual(self.marked(window), ["twice"])
+            history.close()
             self.assertEqual(self.apply(window, "twice"), [])
-        self.assertTrue(self.installed("twice"))
+            self.assertTrue(self.installed("twice"))
+
+            answer = waiting.do("wait")
+            self.one(answer["dialogs"][1:], "twice.*database is locked", title="VOK Transaction Report")
+            self.assertEqual(answer["rows"], rows)
+            database.close()
+            self.assertEqual(self.apply(waiting, "twice"), [])
+
+    @staticmethod
+    def locked(path):
+        lock = sqlite3.connect(path, isolation_level=None)
+        lock.execute("BEGIN EXCLUSIVE")
+        return lock
 
 
 class FileSystems(Case):
