@@ -183,6 +183,7 @@ private Q_SLOTS:
     void killedAtAnySystemCall();
     void fileSystems_data();
     void fileSystems();
+    void unwritableDirectory();
 };
 
 void TestFaults::killedAtAnySystemCall()
@@ -234,6 +235,22 @@ void TestFaults::fileSystems()
     if (process.exitCode() == 77 || output.contains("unshare failed"))
         QSKIP("no mount namespaces here");
     QVERIFY2(process.exitCode() == 0, output + QByteArray::number(process.exitCode()));
+}
+
+void TestFaults::unwritableDirectory()
+{
+    if (geteuid() == 0)
+        QSKIP("root may write everywhere");
+    ConfigRoot root;
+    putOld(root);
+    QVERIFY(edit(root.io));
+    const QByteArray directory = root.real(u"/etc/yum.repos.d"_s).toLocal8Bit();
+    QCOMPARE(chmod(directory, 0555), 0);
+    Answer answer(0);
+    QVERIFY(!root.io.write(nullptr));
+    chmod(directory, 0755);
+    QVERIFY(answer.said.value(0).contains(u"errno = 13"_s));
+    QCOMPARE(root.get(root.repo(u"a"_s)), oldFiles()[root.repo(u"a"_s)]);
 }
 
 int main(int argc, char **argv)

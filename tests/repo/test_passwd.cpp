@@ -10,9 +10,12 @@
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QRandomGenerator>
+#include <QScrollBar>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -118,6 +121,17 @@ struct Field
     QTextEdit *plainText = nullptr;
 };
 
+// What the text edit shows of a text that is being composed.
+QString composed(const Field &field)
+{
+    return field.text->textCursor().block().layout()->preeditAreaText();
+}
+
+QImage pictureOf(Field &field)
+{
+    return field.window.grab().toImage();
+}
+
 } // namespace
 
 #define CHECK_AGREE(field)                                                                         \
@@ -144,8 +158,10 @@ private Q_SLOTS:
     void leaksNothing();
     void inputMethod_data() { kinds(); }
     void inputMethod();
-    void themeAndSize_data() { kinds(); }
-    void themeAndSize();
+    void themeFontAndSize_data() { kinds(); }
+    void themeFontAndSize();
+    void longTexts_data() { kinds(); }
+    void longTexts();
     void outsideEdits_data() { kinds(); }
     void outsideEdits();
 
@@ -168,6 +184,8 @@ void TestPasswd::masks_data()
 
     QTest::newRow("query") << false << url << u"http://h/kivvet?user=joe&pass=****&path=os"_s;
     QTest::newRow("path") << false << u"h/rhel/u=joe/p=a.b-c/os"_s << u"h/rhel/u=joe/p=*****/os"_s;
+    QTest::newRow("no match") << false << u"h/kivvet?user=joe&pass=x"_s
+                              << u"h/kivvet?user=joe&pass=x"_s;
     QTest::newRow("outside the BMP")
         << false << u"h/rhel/u=j/p=a😀/שלום"_s << u"h/rhel/u=j/p=***/שלום"_s;
     QTest::newRow("several") << true << (url + u"\nhttp://plain/\n\nh/rhel/u=j/p=x\u00a0y/z"_s)
@@ -210,7 +228,7 @@ void TestPasswd::neverPainted()
     const auto same = [&] {
         field.edit->clearFocus();
         twin.edit->clearFocus();
-        return field.window.grab().toImage() == twin.window.grab().toImage();
+        return pictureOf(field) == pictureOf(twin);
     };
     field.set(u"pass=WQWQ"_s);
     twin.set(u"pass=ijij"_s);
@@ -319,6 +337,11 @@ void TestPasswd::mouseAgrees()
     QTest::keyClick(field.edit, 'y');
     QCOMPARE(field.real(), u"h/rhel/u=joe/p=xyb😀c/os"_s);
 
+    // Pointing between the halves of a character goes behind it.
+    field.select(start + 4, start + 4);
+    QTest::keyClick(field.edit, 'z');
+    QCOMPARE(field.real(), u"h/rhel/u=joe/p=xyb😀zc/os"_s);
+
     QTest::mouseDClick(field.surface(), Qt::LeftButton, {}, field.at(start + 2));
     CHECK_AGREE(field);
     QTest::keyClick(field.edit, Qt::Key_Delete);
@@ -337,26 +360,40 @@ void TestPasswd::leaksNothing()
     QFETCH(bool, several);
     Field field(several);
     QClipboard *clipboard = QApplication::clipboard();
-    const auto clean = [&] {
-        return !clipboard->text().contains(secret) &&
-               !(clipboard->supportsSelection() &&
-                 clipboard->text(QClipboard::Selection).contains(secret));
-    };
-    field.set(url);
-    field.select(0, int(url.size()));
-    const QString shown = field.shown();
-    QTest::keyClick(field.edit, Qt::Key_X, Qt::ControlModifier);
-    QCOMPARE(clipboard->text(), shown);
-    QCOMPARE(field.real(), QString());
-    QTest::keyClick(field.edit, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(field.real(), url);
-    CHECK_AGREE(field);
-    field.select(0, 0); // or it is a drag
-    QTest::mousePress(field.surface(), Qt::LeftButton, {}, field.at(1));
-    QTest::mouseMove(field.surface(), field.at(int(url.size()) - 1));
-    QTest::mouseRelease(field.surface(), Qt::LeftButton, {}, field.at(int(url.size()) - 1));
-    CHECK_AGREE(field);
-    QVERIFY(clean());
+    const QStringList keys = {u"copy"_s, u"cut"_s, u"delete to the end"_s, u"mouse"_s};
+    for (const QString &way : keys) {
+        field.set(url);
+        clipboard->setText(u"before"_s);
+        if (clipboard->supportsSelection())
+            clipboard->setText(u"before"_s, QClipboard::Selection);
+        field.select(0, int(url.size()));
+        if (way == u"copy"_s) {
+            QTest::keyClick(field.edit, Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(clipboard->text(), field.shown());
+        } else if (way == u"cut"_s) {
+            const QString shown = field.shown();
+            QTest::keyClick(field.edit, Qt::Key_X, Qt::ControlModifier);
+            QCOMPARE(clipboard->text(), shown);
+            QCOMPARE(field.real(), QString());
+            QTest::keyClick(field.edit, Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(field.real(), url);
+        } else if (way == u"delete to the end"_s) {
+            field.select(3, 3);
+            if (QKeySequence::keyBindings(QKeySequence::DeleteEndOfLine).isEmpty())
+                continue; // not on this platform
+            QTest::keySequence(field.edit, QKeySequence(QKeySequence::DeleteEndOfLine));
+            QCOMPARE(field.real(), u"htt"_s);
+        } else {
+            field.select(0, 0); // or it is a drag
+            QTest::mousePress(field.surface(), Qt::LeftButton, {}, field.at(1));
+            QTest::mouseMove(field.surface(), field.at(int(url.size()) - 1));
+            QTest::mouseRelease(field.surface(), Qt::LeftButton, {}, field.at(int(url.size()) - 1));
+        }
+        CHECK_AGREE(field);
+        QVERIFY2(!clipboard->text().contains(secret), qPrintable(way));
+        if (clipboard->supportsSelection())
+            QVERIFY2(!clipboard->text(QClipboard::Selection).contains(secret), qPrintable(way));
+    }
 
     // No key at all gives the password away.
     for (int key = Qt::Key_Space; key <= Qt::Key_F12; ++key) {
@@ -368,7 +405,11 @@ void TestPasswd::leaksNothing()
             field.select(5, int(url.size()));
             QKeyEvent press(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers));
             QCoreApplication::sendEvent(field.edit, &press);
-            QVERIFY2(clean(), QKeySequence(key | modifiers).toString().toUtf8());
+            const QByteArray name = QKeySequence(key | modifiers).toString().toUtf8();
+            QVERIFY2(!clipboard->text().contains(secret), name);
+            QVERIFY2(!clipboard->supportsSelection() ||
+                         !clipboard->text(QClipboard::Selection).contains(secret),
+                     name);
         }
     }
 
@@ -410,6 +451,8 @@ void TestPasswd::inputMethod()
     QInputMethodEvent compose(u"W"_s, {});
     QCoreApplication::sendEvent(field.edit, &compose);
     QCOMPARE(field.real(), u"h/rhel/u=joe/p=ab/os"_s);
+    if (several)
+        QCOMPARE(composed(field), QString(field.shown().at(15)));
     QInputMethodEvent commit(QString(), {});
     commit.setCommitString(u"WW"_s);
     QCoreApplication::sendEvent(field.edit, &commit);
@@ -423,6 +466,8 @@ void TestPasswd::inputMethod()
 
     field.select(0, 6); // composing replaces what is selected
     QCoreApplication::sendEvent(field.edit, &compose);
+    if (several)
+        QCOMPARE(composed(field), u"W"_s); // outside a password it shows
     QCoreApplication::sendEvent(field.edit, &commit);
     QCOMPARE(field.real(), u"WW/u=joe/p=aéb/os"_s);
     CHECK_AGREE(field);
@@ -430,18 +475,27 @@ void TestPasswd::inputMethod()
     CHECK_AGREE(field);
 }
 
-void TestPasswd::themeAndSize()
+void TestPasswd::themeFontAndSize()
 {
     QFETCH(bool, several);
     Field field(several);
     field.set(url);
     field.select(32, 32);
+    const QFont before = QApplication::font();
     for (const QString &name : QStyleFactory::keys()) {
         QApplication::setStyle(QStyleFactory::create(name));
         const QChar mask(field.edit->style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter,
                                                         nullptr, field.edit));
         QCOMPARE(field.shown(), QString(url).replace(secret, QString(4, mask)));
+        CHECK_AGREE(field);
     }
+    QFont larger = before;
+    larger.setPointSize(before.pointSize() + 5);
+    QApplication::setFont(larger);
+    QCoreApplication::processEvents();
+    QCOMPARE(field.edit->font().pointSize(), larger.pointSize());
+    if (field.text)
+        QCOMPARE(field.text->currentFont().pointSize(), larger.pointSize());
     field.window.resize(300, 300);
     QCoreApplication::processEvents();
     QWidget *real = field.line ? static_cast<QWidget *>(field.realLine) : field.realText;
@@ -450,6 +504,36 @@ void TestPasswd::themeAndSize()
     QTest::keyClick(field.edit, 'W');
     QCOMPARE(field.real(), QString(url).insert(32, u'W'));
     CHECK_AGREE(field);
+    QApplication::setFont(before);
+}
+
+void TestPasswd::longTexts()
+{
+    QFETCH(bool, several);
+    Field field(several);
+    const QString tail = several ? (u'\n' + u"http://x/\n"_s.repeated(300)) : QString(50000, u'x');
+    field.set(url + tail);
+    QCOMPARE(field.real(), url + tail);
+
+    // Far out, the mouse points at what is seen there.
+    QTest::keyClick(field.edit, Qt::Key_End, Qt::ControlModifier);
+    pictureOf(field);
+    QTest::mouseClick(field.surface(), Qt::LeftButton, {}, QPoint(60, several ? 40 : 12));
+    CHECK_AGREE(field);
+    const int position = field.cursor().y();
+    QVERIFY(position > 2000);
+    QTest::keyClick(field.edit, 'W');
+    QCOMPARE(field.real(), QString(url + tail).insert(position, u'W'));
+
+    // Typing in the middle leaves the view where it is.
+    if (several) {
+        QScrollBar *bar = field.text->verticalScrollBar();
+        bar->setValue(bar->maximum() / 2);
+        QTest::mouseClick(field.surface(), Qt::LeftButton, {}, QPoint(30, 60));
+        const int value = bar->value();
+        QTest::keyClick(field.edit, 'a');
+        QCOMPARE(bar->value(), value);
+    }
 }
 
 // Assistive technology and callers of the base class change the copy.

@@ -3,8 +3,10 @@
 #include <QTest>
 
 #include <algorithm>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
+#include <sys/un.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -143,9 +145,11 @@ void TestYumConfIO::usedRepositories_data()
     QTest::newRow("as the file says") << u""_s << QStringList{u"base"_s, u"base/os"_s};
     QTest::newRow("whole, with a slash") << u"-base*"_s << QStringList{};
     QTest::newRow("not a part") << u"-bas -ase +Base"_s << QStringList{u"base"_s, u"base/os"_s};
+    QTest::newRow("question mark") << u"-base?os"_s << QStringList{u"base"_s};
     QTest::newRow("class with a slash") << u"-base[/-]*"_s << QStringList{u"base"_s};
     QTest::newRow("negated class") << u"-b[!a]*"_s << QStringList{u"base"_s, u"base/os"_s};
     QTest::newRow("the last wins") << u"-* +b*s +*]"_s << all.mid(1);
+    QTest::newRow("dots are dots") << u"-b..."_s << QStringList{u"base"_s, u"base/os"_s};
 }
 
 void TestYumConfIO::usedRepositories()
@@ -180,6 +184,7 @@ void TestYumConfIO::malformed_data()
     QTest::addColumn<QString>("line");
     QTest::newRow("blank behind") << QByteArray("[a]\n[b] \n") << u"[b] "_s;
     QTest::newRow("carriage return") << QByteArray("[a]\r\nname=x\r\n") << u"[a]\r"_s;
+    QTest::newRow("continued") << QByteArray("[a]\n  x\n") << u"[a]\n  x"_s;
     QTest::newRow("password") << QByteArray("[a http://h/kivvet?u=n&p=secret&path=x\n")
                               << u"[a http://h/kivvet?u=n&p=******&path=x"_s;
 }
@@ -242,6 +247,8 @@ void TestYumConfIO::bytesSurvive_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("name");
+    QTest::newRow("UTF-8") << QByteArray("[a]\nname=caf\xc3\xa9\nx=\xf0\x9f\x98\x80\n")
+                           << u"café"_s;
     QTest::newRow("Latin-1") << QByteArray("[a]\nname=caf\xe9\nx=\xc3\xa9\x80\xff\n") << u"café"_s;
     QTest::newRow("NUL and CR") << QByteArray("[a]\nname=x\0y\r\nz=\0\0\n", 19)
                                 << QString::fromLatin1("x\0y\r", 4);
@@ -277,6 +284,8 @@ void TestYumConfIO::validates_data()
     const QString twice = u"Two or more repositories have the same Identifier(s), %1.  Only one "
                           "repository will be applied for each Identifier."_s;
     QTest::newRow("empty") << QByteArray("[]\n[a]\n") << empty << QStringList{u"a2"_s};
+    QTest::newRow("twice") << QByteArray("[a]\n[b]\n[a]\n[A]\n") << twice.arg(u"a"_s)
+                           << QStringList{u"a1"_s, u"b2"_s, u"A4"_s};
     QTest::newRow("once per pair")
         << QByteArray("[a]\n[b]\n[a]\n[]\n[b]\n[a]\n")
         << (empty + u'\n' + twice.arg(u"a, a, b, a"_s)) << QStringList{u"a1"_s, u"b2"_s};
@@ -371,8 +380,11 @@ void TestYumConfIO::newFiles_data()
     QTest::addColumn<bool>("secret");
     QTest::newRow("plain") << u"http://h:80/a@b/kivvet?u=&p=&path=x"_s
                            << u"password=\n#password=x\nusername=joe\n"_s << false;
+    QTest::newRow("second URL") << u"http://h/rhel/u=/p=/\nhttp://h/rhel/u=j/p=x/"_s << u""_s
+                                << true;
     QTest::newRow("user information") << u"https://joe:pw@h/"_s << u""_s << true;
     QTest::newRow("proxy's option") << u""_s << u"a=b\nproxy_password = x\n"_s << true;
+    QTest::newRow("proxy's URL") << u""_s << u"proxy=http://j:x@h:3128\n"_s << true;
 }
 
 void TestYumConfIO::newFiles()
@@ -402,8 +414,12 @@ void TestYumConfIO::strangeFiles_data()
     QTest::newRow("directory") << u"directory"_s << u""_s;
     QTest::newRow("null device") << u"null"_s << u""_s;
     QTest::newRow("pipe") << u"pipe"_s << u"Unable to read repository configuration file %1; "_s;
+    QTest::newRow("socket") << u"socket"_s
+                            << u"Unable to read repository configuration file %1; "_s;
     QTest::newRow("dangling link")
         << u"dangling"_s << u"Unable to stat repository configuration file %1; errno = 2"_s;
+    QTest::newRow("link to itself")
+        << u"loop"_s << u"Unable to stat repository configuration file %1; errno = 40"_s;
     if (geteuid() != 0)
         QTest::newRow("unreadable")
             << u"unreadable"_s << u"Unable to read repository configuration file %1; errno = 13"_s;
@@ -420,6 +436,14 @@ void TestYumConfIO::strangeFiles()
         QVERIFY(QDir().mkpath(root.real(path)));
     } else if (kind == u"pipe"_s) {
         QCOMPARE(mkfifo(real, 0644), 0);
+    } else if (kind == u"socket"_s) {
+        const int fd = socket(AF_UNIX, SOCK_STREAM, 0);
+        sockaddr_un address = {};
+        address.sun_family = AF_UNIX;
+        QVERIFY(real.size() < qsizetype(sizeof address.sun_path));
+        memcpy(address.sun_path, real.constData(), size_t(real.size()));
+        QCOMPARE(bind(fd, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+        close(fd);
     } else if (kind == u"unreadable"_s) {
         root.put(path, "[x]\n");
         QCOMPARE(chmod(real, 0), 0);
@@ -430,7 +454,7 @@ void TestYumConfIO::strangeFiles()
             QSKIP("this user may not make a device");
         QCOMPARE(symlink("/dev/null", real), 0);
     } else {
-        QCOMPARE(symlink("nowhere", real), 0);
+        QCOMPARE(symlink(kind == u"loop"_s ? "x.repo" : "nowhere", real), 0);
     }
     root.put(root.repo(u"a"_s), "[a]\n");
 
@@ -504,6 +528,7 @@ void TestYumConfIO::isLinear_data()
     QTest::newRow("continued lines") << u"continued"_s;
     QTest::newRow("many repositories") << u"repositories"_s;
     QTest::newRow("one identifier") << u"identifier"_s;
+    QTest::newRow("no line feed") << u"zeros"_s;
 }
 
 // Sizes at which anything that grows with the square would take minutes.
@@ -515,6 +540,8 @@ void TestYumConfIO::isLinear()
         bytes += "x=" + QByteArray(10'000'000, 'y') + '\n';
     else if (kind == u"continued"_s)
         bytes += "baseurl=x\n" + QByteArray(" http://h/\n").repeated(200'000);
+    else if (kind == u"zeros"_s)
+        bytes = "[a]\nx=" + QByteArray(10'000'000, '\0');
     else if (kind == u"identifier"_s)
         bytes += QByteArray("[same]\n\n").repeated(50'000);
     else
@@ -524,6 +551,9 @@ void TestYumConfIO::isLinear()
     root.put(root.repo(u"a"_s), bytes);
     Answer answer(0);
     QVERIFY(root.io.read(nullptr) && root.io.write(nullptr) && root.io.read(nullptr));
+    const qsizetype size = root.get(root.repo(u"a"_s)).size();
+    if (kind == u"line"_s || kind == u"zeros"_s)
+        QVERIFY(size >= 10'000'000);
 }
 
 QTEST_MAIN(TestYumConfIO)
