@@ -231,7 +231,7 @@ class Locks(Case):
 
             with open(self.root / "var/lib/rpm/.rpm.lock", "a+") as lock:
                 fcntl.lockf(lock, fcntl.LOCK_EX)
-                self.one(self.apply(window, "twice"), "transaction lock.*rpm.lock")
+                self.one(self.apply(window, "twice"), "transaction lock on /var/lib/rpm")
             history = self.locked(self.root / "var/lib/dnf/history.sqlite")
             self.one(self.apply(window, "twice"), "history.*database is locked")
             self.assertEqual(window.do("rows")["rows"], rows)

@@ -56,7 +56,7 @@ def _load(repo):
     except dnf.exceptions.RepoError as error:
         if callbacks.cancelled or report.cancelled():
             raise Errors.CancelledRepoError() from error
-        text = "\n".join(["Repository %s: %s" % (repo.id, report.clean(error))]
+        text = "\n".join(["Repository %s: %s" % (repo.id, report.told(error))]
                          + ["  " + certificates.explain(failure, repo) for failure in callbacks.failures
                             or [root.shown(address) for address in repo.baseurl]])
         text += full_cache(repo.basecachedir)

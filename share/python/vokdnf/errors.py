@@ -26,12 +26,12 @@ def translated(repo_error=Errors.NoMoreMirrorsRepoError, prefix=""):
     except Errors.YumBaseError:
         raise
     except (dnf.exceptions.RepoError, dnf.exceptions.DownloadError) as error:
-        raise repo_error(prefix + report.clean(error)) from error
+        raise repo_error(prefix + report.told(error)) from error
     except dnf.exceptions.ProcessLockError as error:
-        raise Errors.LockError(prefix + report.clean(error), error.pid) from error
+        raise Errors.LockError(prefix + report.told(error), error.pid) from error
     except dnf.exceptions.LockError as error:
-        raise Errors.LockError(prefix + report.clean(error)) from error
+        raise Errors.LockError(prefix + report.told(error)) from error
     except dnf.exceptions.CompsError as error:
-        raise Errors.GroupsError(prefix + report.clean(error)) from error
+        raise Errors.GroupsError(prefix + report.told(error)) from error
     except (dnf.exceptions.Error, hawkey.Exception, libdnf.error.Error, RuntimeError) as error:
-        raise Errors.YumBaseError(prefix + report.clean(error)) from error
+        raise Errors.YumBaseError(prefix + report.told(error)) from error

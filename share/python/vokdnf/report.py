@@ -7,6 +7,8 @@ import sys
 
 import yumIOC
 
+from . import root
+
 _UNSAFE = re.compile("[\ud800-\udfff\0]")
 _PIECE = 1 << 16  # characters of output that cross at once
 
@@ -20,13 +22,19 @@ def clean(text):
     return _UNSAFE.sub("\ufffd", text) if _UNSAFE.search(text) else text
 
 
+def told(text):
+    """A message, clean, with its paths as the system calls them."""
+    head = root.prefix()
+    return clean(text).replace(head + "/", "/") if head else clean(text)
+
+
 def log(level, text):
     """`level` 0 (important) to 10 (debugging)."""
-    yumIOC.log(level, clean(text))
+    yumIOC.log(level, told(text))
 
 
 def errorlog(level, text):
-    yumIOC.errorlog(level, clean(text))
+    yumIOC.errorlog(level, told(text))
 
 
 def write_out(text):

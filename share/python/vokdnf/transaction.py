@@ -98,7 +98,7 @@ class Transaction:
         except dnf.exceptions.DownloadError as error:
             if progress.cancelled:
                 raise Errors.CancelledError() from error
-            lines = [report.clean(error)] + [text for text in dict.fromkeys(progress.failures)
+            lines = [report.told(error)] + [text for text in dict.fromkeys(progress.failures)
                                              if text not in report.clean(error)
                                              and "No more mirrors" not in text]
             raise Errors.NoMoreMirrorsRepoError(
@@ -127,7 +127,7 @@ class Transaction:
             if not shown.begun:
                 interrupted.clear()
                 raise
-            failure = report.clean(error) or type(error).__name__
+            failure = report.told(error) or type(error).__name__
             report.errorlog(0, failure)
         session.spent = True
         shown.finish()
