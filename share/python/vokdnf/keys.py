@@ -1,5 +1,8 @@
 """Signing keys and signatures. No key is imported without a yes of the user."""
 
+import concurrent.futures
+import os
+
 import dnf.callback
 import dnf.exceptions
 import dnf.rpm.miscutils
@@ -28,18 +31,34 @@ class RepositoryKeyImport(dnf.callback.KeyImport):
 def check_signatures(base, packages):
     """Checks every package (DNF objects) whose repository wants it, before anything is changed.
     Raises YumBaseError naming the first package that must not be installed and why."""
-    for pkg in packages:
-        errors.check_cancelled()
-        with errors.translated(prefix="%s: " % pkg):
-            result, text = base.package_signature_check(pkg)
-        if result == 0:
-            continue
-        if result != 1:
-            if _is_damaged(base, pkg):
-                text = "its signature is wrong or the file is damaged (%s)" % text
-            raise Errors.YumBaseError("%s cannot be trusted: %s. Nothing was changed."
-                                      % (pkg, report.clean(text)))
-        _import_key(base, pkg, report.clean(text))
+    if packages:
+        # Alone, because the first makes DNF look for rpm's tool and log that: on this thread.
+        _check(base, packages[0])
+    # Each check waits for a process of its own, so several are made at once.
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as pool:
+        try:
+            for pkg, early in [(pkg, pool.submit(base.package_signature_check, pkg))
+                               for pkg in packages[1:]]:
+                errors.check_cancelled()
+                _check(base, pkg, early)
+        finally:
+            pool.shutdown(wait=False, cancel_futures=True)
+
+
+def _check(base, pkg, early=None):
+    """Checks one package. `early` is the future of a check that may be older than a key."""
+    with errors.translated(prefix="%s: " % pkg):
+        if early is not None and early.result()[0] == 0:
+            return
+        result, text = base.package_signature_check(pkg)
+    if result == 0:
+        return
+    if result != 1:
+        if _is_damaged(base, pkg):
+            text = "its signature is wrong or the file is damaged (%s)" % text
+        raise Errors.YumBaseError("%s cannot be trusted: %s. Nothing was changed."
+                                  % (pkg, report.clean(text)))
+    _import_key(base, pkg, report.clean(text))
 
 
 def _is_damaged(base, pkg):
