@@ -1,5 +1,5 @@
 """Runs the program vok_recorder, VOK's window with a driver inside, on a sandbox root. The commands and
-their answers are described in tests/gui/recorder.h."""
+their answers are described in tools/recorder/recorder.h."""
 
 import json
 import os
