@@ -34,6 +34,8 @@ bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
     m_progress->startItem(tr("Preparing"), preparingUnits, 1);
     const bool collected = m_yumIO && takeLock() && readRepositories(reposUsed) &&
                            collectPackages() && collectAllGroups();
+    if (collected)
+        m_progress->setTotalValue(totalUnits);
     m_progress->reset();
     return collected;
 }
