@@ -95,8 +95,8 @@ public:
     bool apply();
     void clearEntries();
     void clear();
-    // As clear, but rows that are still true stay at hand, unseen: a collection that is cancelled or
-    // fails before it has packages of its own gives them back with their session.
+    // As clear, but rows that are still true stay at hand, unseen: a collection that is cancelled
+    // or fails before it has packages of its own gives them back with their session.
     void renew();
     // Empties the store at exit without touching the interpreter.
     void clearEntriesBeforeQuit();
@@ -496,7 +496,7 @@ private:
     QString m_pendingText;
     bool m_listingShown = false;
     bool m_applied = false;
-    bool m_spent = false; // a transaction ran: the rows are out of date
+    bool m_spent = false;      // a transaction ran: the rows are out of date
     quint64 m_actPosition = 0; // bytes of large transactions exceed 32 bits
     quint32 m_opCount = 0;
     quint32 m_downloadCount = 0;
