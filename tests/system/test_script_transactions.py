@@ -1,11 +1,12 @@
 """Transactions of the script: marks, the listing, and what the rpm database holds afterwards."""
 
+import os
 import subprocess
 import unittest
 
 from scriptdriver import SANDBOX, Case, calls, run, tool
 
-# Marks; the listing (names only); what is gone and what came, as rpm tells it.
+# Marks; the listing (names only); what is gone and what came, as rpm tells it; what scriptlets print.
 TABLE = {
     "an installation alone": (
         {"install": ["abacus"]}, {"installed": ["abacus"]},
@@ -59,6 +60,75 @@ TABLE = {
     "twenty thousand files": (
         {"install": ["many-files"]}, {"installed": ["many-files"]},
         (), ("many-files-1.0-1.noarch",)),
+    "one of two providers": (
+        {"install": ["poster"]}, {"installed": ["poster"], "depinstalled": ["font-sans"]},
+        (), ("font-sans-1.0-1.noarch", "poster-1.0-1.noarch")),
+    "both providers": (
+        {"install": ["font-sans", "font-serif"]}, {"installed": ["font-sans", "font-serif"]},
+        (), ("font-sans-1.0-1.noarch", "font-serif-1.0-1.noarch")),
+    "a removal for which another provider comes": (
+        {"remove": ["mail-alpha"]}, {"removed": ["mail-alpha"], "depinstalled": ["mail-beta"]},
+        ("mail-alpha-1.0-1.noarch",), ("mail-beta-1.0-1.noarch",)),
+    "rich and weak dependencies": (
+        {"install": ["richly"]}, {"installed": ["richly"], "depinstalled": ["chess"]},
+        (), ("chess-1.2-1.x86_64", "richly-1.0-1.noarch")),
+    "the newest of several updates": (
+        {"update": ["weather"]}, {"updated": ["weather"]},
+        ("weather-1.0-1.noarch",), ("weather-1.2-2.noarch",)),
+    "one version in two repositories": (
+        {"install": ["twice"]}, {"installed": ["twice"]}, (), ("twice-1.0-1.noarch",)),
+    "the other architecture alone": (
+        {"install": ["libsolo.i686"]}, {"installed": ["libsolo"]}, (), ("libsolo-1.1-1.i686",)),
+    "both architectures removed": (
+        {"remove": ["libtwin"]}, {"removed": ["libtwin", "libtwin"]},
+        ("libtwin-1.0-1.i686", "libtwin-1.0-1.x86_64"), ()),
+    "an update of a suite": (
+        {"update": ["office-suite"]}, {"updated": ["office-suite"]},
+        ("office-suite-1.0-1.noarch",), ("office-suite-2.0-1.noarch",)),
+    "a suite with what it holds": (
+        {"install": ["games-suite"]},
+        {"installed": ["games-suite"], "depinstalled": ["chess", "mandolin"]},
+        (), ("chess-1.2-1.x86_64", "games-suite-1.0-1.noarch", "mandolin-1.2-1.x86_64")),
+    "versions that compare unlike texts": (
+        {"update": ["dictionary", "notebook"]}, {"updated": ["dictionary", "notebook"]},
+        ("dictionary-9.1-1.x86_64", "notebook-3.1~rc2-1.x86_64"),
+        ("dictionary-9.10-1.x86_64", "notebook-3.1-1.x86_64")),
+    "texts of all sorts": (
+        {"update": ["chronicle", "latin-text", "longwinded", "polyglot"], "remove": ["markup"]},
+        {"updated": ["chronicle", "latin-text", "longwinded", "polyglot"], "removed": ["markup"]},
+        ("chronicle-1.200-1.noarch", "latin-text-1.0-1.noarch", "longwinded-1.0-1.noarch",
+         "markup-1.0-1.noarch", "polyglot-1.0-1.noarch"),
+        ("chronicle-1.400-1.noarch", "latin-text-1.1-1.noarch", "longwinded-1.1-1.noarch",
+         "polyglot-1.1-1.noarch")),
+    "a configuration file that is kept": (
+        {"update": ["confy"]}, {"updated": ["confy"]},
+        ("confy-1.0-1.noarch",), ("confy-2.0-1.noarch",)),
+    "one storey of a stack": (
+        {"update": ["stack-wall"]}, {"updated": ["stack-wall"]},
+        ("stack-wall-1.0-1.noarch",), ("stack-wall-1.1-1.noarch",)),
+    "a removal of what no repository has": (
+        {"remove": ["orphan"]}, {"removed": ["orphan"], "depremoved": ["orphan-notes"]},
+        ("orphan-1.0-1.noarch", "orphan-notes-1.0-1.noarch"), ()),
+    "a protected package's update": (
+        {"update": ["vital"]}, {"updated": ["vital"]},
+        ("vital-1.0-1.noarch",), ("vital-1.1-1.noarch",)),
+    "the distribution's release": (
+        {"update": ["aster-release"]}, {"updated": ["aster-release"]},
+        ("aster-release-9-1.noarch",), ("aster-release-9-3.noarch",)),
+    "scriptlets of the shell": (
+        {"install": ["shell-hello"]}, {"installed": ["shell-hello"]},
+        (), ("shell-hello-1.1-1.noarch",), "shell-hello pre 1\nshell-hello post 1\n"),
+    "scriptlets in Lua": (
+        {"install": ["lua-hello"]}, {"installed": ["lua-hello"]}, (), ("lua-hello-1.0-1.noarch",),
+        "lua-hello pretrans\nlua-hello pre\nlua-hello post\nlua-hello posttrans\n"),
+    "a trigger of an installed package": (
+        {"install": ["tripwire"]}, {"installed": ["tripwire"]},
+        (), ("tripwire-1.0-1.noarch",), "watcher saw tripwire come\n"),
+    "a scriptlet that reads": (
+        {"install": ["inquisitive"]}, {"installed": ["inquisitive"]},
+        (), ("inquisitive-1.0-1.noarch",), "no input\n"),
+    "a scriptlet that prints a lot": (
+        {"install": ["loud"]}, {"installed": ["loud"]}, (), ("loud-1.0-1.noarch",), "\n4711\n"),
 }
 
 # The same marks as commands of dnf. Of updates that cannot be had it says nothing, while here the user
@@ -83,10 +153,11 @@ def listed(result):
 
 class Transactions(Case):
     def test_table(self):
-        for name, (marks, listing, gone, came) in TABLE.items():
+        for name, (marks, listing, gone, came, *printed) in TABLE.items():
             with self.subTest(name):
                 root = self.root()
                 before = self.packages(root)
+                files = self.files(root, gone)
                 result, value, error = self.apply(root, marks)
                 self.assertEqual((value, error), (True, None))
                 self.assertEqual(listed(result), {key: sorted(part) for key, part in listing.items()})
@@ -96,6 +167,27 @@ class Transactions(Case):
                 self.assertEqual({outcome for _, outcome, _ in outcomes}, {"done"})
                 told = {row[0].partition(":")[2].replace(":", "", 1) for row in outcomes}
                 self.assertEqual({one for one in before ^ after}, told)
+                output = "".join(text for text, in calls(result, "stdoutWrite")) + result["stdout"]
+                self.assertIn(*(printed or [""]), output)
+                self.assertTraces(root, files - self.files(root, came), came)
+                history = tool(root, "dnf", "history", "info", "last")
+                self.assertRegex(history, r"Comment +: Done with VOK")
+                self.assertRegex(history, r"Return-Code +: Success")
+                for one in gone + came:
+                    self.assertIn(one.replace("epochal-1.2", "epochal-1:1.2"), history)
+
+    @staticmethod
+    def files(root, packages):
+        """The paths that installed packages own."""
+        lines = tool(root, "rpm", "-ql", *packages).splitlines() if packages else []
+        return {line for line in lines if line.startswith("/")}
+
+    def assertTraces(self, root, lost, came):
+        """Lost files are gone, those of what came are as they were packed."""
+        self.assertEqual({path for path in lost if os.path.lexists("%s%s" % (root, path))
+                          and not os.path.isdir("%s%s" % (root, path))}, set())
+        if came:
+            self.assertEqual(tool(root, "rpm", "-V", "--nodeps", *came, check=False), "")
 
     def assertSame(self, ours, theirs):
         """Two roots hold the same packages, groups and reasons."""
