@@ -15,7 +15,6 @@ constexpr Steps preparingUnits = 100;
 constexpr Steps readingUnits = 900;
 constexpr Steps repositoryUnits = 14000;
 constexpr Steps packageUnits = 4000; // of each of the two package items
-constexpr Steps groupUnits = 1000;
 constexpr Steps actsPerRepo = 6;
 
 } // namespace

@@ -5,9 +5,15 @@
 #include "progress/progress.h"
 #include "yumio.h"
 
+namespace {
+
+constexpr Steps groupUnits = 1000;
+
+} // namespace
+
 bool YumIO::collectAllGroups()
 {
-    m_progress->startItem(tr("Collecting groups"), 1000, 1);
+    m_progress->startItem(tr("Collecting groups"), groupUnits, 1);
     const QString what = tr("collect groups");
     pyExceptStart();
     commExceptSetup();
