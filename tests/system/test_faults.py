@@ -13,6 +13,7 @@ import unittest
 
 from httpserver import Server
 from recorder import BUILD, CHECKOUT, INSTALL, NONE, SANDBOX, Recorder
+from scriptdriver import mounted
 
 sys.path.insert(0, str(CHECKOUT / "tools"))
 import guidriver  # noqa: E402
@@ -253,6 +254,7 @@ class Locks(Case):
         return lock
 
 
+@unittest.skipUnless(mounted("true"), "this user cannot mount anything")
 class FileSystems(Case):
     def start(self, before):
         return Recorder(self.root, before.replace("ROOT", str(self.root)))
