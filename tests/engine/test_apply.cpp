@@ -274,6 +274,10 @@ yumIOC.applyGrabMeterEnd('b', 50000)
 yumIOC.applyGrabMultiMeterRemove('b')
 yumIOC.applyGrabMeterEnd('a', 20000)
 yumIOC.applyGrabMultiMeterRemove('a')
+yumIOC.applyGrabMultiMeterNew('d')
+start('d', '<delta rebuild>', '', '<delta rebuild>', 4, 'beta-1-1.x86_64'); probe()
+yumIOC.applyGrabMeterEnd('d', 4)
+yumIOC.applyGrabMultiMeterRemove('d')
 yumIOC.applyGrabMultiMeterEnd()
 update('b', 3); update(None, 3)
 yumIOC.tsInitCallback(1); probe()
@@ -281,6 +285,7 @@ yumIOC.applyGrabMeterStart('c', '/c/x', '', 'x', 'large', 'x')
 )"),
                          answers));
     QCOMPARE(answers.observed, QStringList({s("100/31984 70000 Downloading 2 packages"),
+                                            s("22984/31984 4 Finishing RPM rebuild from deltas"),
                                             s("22984/31984 1 Preparing to Run Transaction")}));
     QCOMPARE(answers.texts().mid(1),
              QStringList({s("Internal error: apply grab size not understood"),

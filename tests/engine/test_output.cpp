@@ -160,6 +160,15 @@ private Q_SLOTS:
                  QStringList({QStringLiteral("err"), QStringLiteral("err rest")}));
     }
 
+    void bearsClosedDescriptors()
+    {
+        YumIO engine;
+        capture(engine, [] { shell("echo before; exec >&- 2>&-; echo lost; true"); });
+        capture(engine, [] { shell("echo again"); });
+        QCOMPARE(texts(engine, Log::Kind::Ok),
+                 QStringList({QStringLiteral("before"), QStringLiteral("again")}));
+    }
+
     void decodesAcrossReads()
     {
         YumIO engine;
