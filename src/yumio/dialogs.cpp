@@ -1,5 +1,6 @@
 #include "dialogs.h"
 
+#include "app/harmless.h"
 #include "mask.h"
 #include "widgets/messagebox.h"
 #include "widgets/scrollabledialogs.h"
@@ -9,23 +10,10 @@
 
 namespace {
 
-bool isDisruptive(QChar c)
-{
-    const ushort u = c.unicode();
-    const bool control = u < 0x20 && u != '\n' && u != '\t';
-    const bool direction = (u >= 0x202a && u <= 0x202e) || (u >= 0x2066 && u <= 0x2069);
-    return control || u == 0x7f || direction;
-}
-
 // What comes from packages and servers must not reorder, hide or cut the text around it.
 QString showable(const QString &text)
 {
-    QString result = maskPasswords(text);
-    for (QChar &c : result) {
-        if (isDisruptive(c))
-            c = QChar::ReplacementCharacter;
-    }
-    return result;
+    return harmless(maskPasswords(text));
 }
 
 } // namespace

@@ -74,45 +74,24 @@ bool YumIO::applyGrpUpdate(const Package::Entry *group)
 {
     QSet<QString> required;
     QStringList members, names;
-    if (!requiredPkgs(group, required) ||
-        !groupMembers(group, {Mandatory, Default, Optional, Conditional}, members) ||
-        !groupTree(members, names))
-        return false;
-    for (const QString &name : std::as_const(names)) {
-        Package::Entry *package = findPackage(name);
-        if (!package)
-            continue;
-        switch (package->applyAction) {
-        case Package::Action::Update:
-        case Package::Action::Install:
-            applyGrpLogWas(group, package);
-            break;
-        case Package::Action::None:
-            if (package->state == Package::State::Updatable) {
-                markByGroup(group, package, Package::Action::Update);
-            } else if (package->state == Package::State::Installable) {
-                if (required.contains(name))
-                    markByGroup(group, package, Package::Action::Install);
-                else
-                    applyGrpLogNot(group, package, Package::Action::Install,
-                                   tr("the package is optional"));
-            }
-            break;
-        default:
-            if (applyGrpConflict(group, package) == 0)
-                return false;
-        }
-    }
-    return true;
+    return requiredPkgs(group, required) &&
+           groupMembers(group, {Mandatory, Default, Optional, Conditional}, members) &&
+           groupTree(members, names) && markNames(group, names, &required);
 }
 
 bool YumIO::applyGrpInstall(const Package::Entry *group)
 {
     QStringList members, names;
-    if (!groupMembers(group, {Mandatory, Default, ConditionalThatHolds}, members) ||
-        !groupTree(members, names))
-        return false;
-    for (const QString &name : std::as_const(names)) {
+    return groupMembers(group, {Mandatory, Default, ConditionalThatHolds}, members) &&
+           groupTree(members, names) && markNames(group, names, nullptr);
+}
+
+// Marks packages for update or installation. Of what is not installed only the required ones, when
+// a set of these is given. False when the user cancelled at a conflict.
+bool YumIO::markNames(const Package::Entry *group, const QStringList &names,
+                      const QSet<QString> *required)
+{
+    for (const QString &name : names) {
         Package::Entry *package = findPackage(name);
         if (!package)
             continue;
@@ -124,8 +103,13 @@ bool YumIO::applyGrpInstall(const Package::Entry *group)
         case Package::Action::None:
             if (package->state == Package::State::Updatable)
                 markByGroup(group, package, Package::Action::Update);
-            else if (package->state == Package::State::Installable)
-                markByGroup(group, package, Package::Action::Install);
+            else if (package->state == Package::State::Installable) {
+                if (!required || required->contains(name))
+                    markByGroup(group, package, Package::Action::Install);
+                else
+                    applyGrpLogNot(group, package, Package::Action::Install,
+                                   tr("the package is optional"));
+            }
             break;
         default:
             if (applyGrpConflict(group, package) != 1)

@@ -104,7 +104,9 @@ PyObject *YumIO::stderrWrite(PyObject *, PyObject *args)
     Py_RETURN_NONE;
 }
 
-PyObject *YumIO::log(PyObject *, PyObject *args)
+// Logs a line of the script, which the next confirmation shows too unless it has its listing. The
+// line's text; null with the interpreter's error set when the arguments do not parse.
+const char *YumIO::scriptLine(PyObject *args, Log::Kind kind)
 {
     long level;
     const char *text;
@@ -113,7 +115,15 @@ PyObject *YumIO::log(PyObject *, PyObject *args)
     const QString message = QString::fromUtf8(text);
     if (!m_listingShown)
         m_pendingText += message + QLatin1Char('\n');
-    log(Log::Kind::Normal, static_cast<unsigned int>(level), message);
+    log(kind, static_cast<unsigned int>(level), message);
+    return text;
+}
+
+PyObject *YumIO::log(PyObject *, PyObject *args)
+{
+    const char *text = scriptLine(args, Log::Kind::Normal);
+    if (!text)
+        return nullptr;
     static constexpr char tsInfo[] = "TSINFO: ";
     if (qstrncmp(text, tsInfo, sizeof tsInfo - 1) == 0)
         dsTsInfo(text + sizeof tsInfo - 1);
@@ -122,13 +132,7 @@ PyObject *YumIO::log(PyObject *, PyObject *args)
 
 PyObject *YumIO::errorlog(PyObject *, PyObject *args)
 {
-    long level;
-    const char *text;
-    if (!PyArg_ParseTuple(args, "ls", &level, &text))
+    if (!scriptLine(args, Log::Kind::Error))
         return nullptr;
-    const QString message = QString::fromUtf8(text);
-    if (!m_listingShown)
-        m_pendingText += message + QLatin1Char('\n');
-    log(Log::Kind::Error, static_cast<unsigned int>(level), message);
     Py_RETURN_NONE;
 }

@@ -348,6 +348,8 @@ private:
     bool requiredPkgs(const Package::Entry *group, QSet<QString> &names);
     bool allPkgs(const Package::Entry *group, QSet<QString> &names);
     bool pkgTree(const QString &name, QStringList &names);
+    bool markNames(const Package::Entry *group, const QStringList &names,
+                   const QSet<QString> *required);
     static QString actionName(Package::Action action);
     void markByGroup(const Package::Entry *group, Package::Entry *package, Package::Action action);
     bool conditionHolds(PyObject *conditional, PyObject *member, const QStringList &others);
@@ -396,6 +398,9 @@ private:
     void sigchldRestore();
     // Shows once what the script knows of a transaction that was cut off before this run.
     void reportInterrupted();
+
+    // output.cpp
+    const char *scriptLine(PyObject *args, Log::Kind kind);
 
     // clean.cpp
     bool cleanOne(const QString &heading, const char *method);
