@@ -140,6 +140,15 @@ class YumIO:
         """List of (group object, action 0 update, 1 install, 2 remove) for the next apply."""
         self._noted = [(group, int(action)) for group, action in noted]
 
+    def outdated(self):
+        """Optional, to be asked before an apply is listed: what another program did to the installed packages
+        since setupTs read them. A tuple (came, gone, changed) of lists of texts, all three empty when the
+        packages are still true; that costs a few milliseconds, naming differences a second at most. What
+        came and went stands as "name-[epoch:]version-release.arch", what changed as "name.arch OLD -> NEW"
+        (a reinstalled package with the same version twice). The lists are sorted and may be long. An apply
+        on packages that differ fails in rpm. YumBaseError when the database cannot be read."""
+        return self._session.outdated()
+
     def apply(self, installs, updates, removes):
         """Runs one transaction: lists of package objects to install, of [new, installed] pairs, and of
         package objects to remove. The result is True when the transaction ran, else False."""

@@ -4,7 +4,7 @@ import pathlib
 import subprocess
 import unittest
 
-from scriptdriver import Case, calls, run, tool
+from scriptdriver import SANDBOX, Case, calls, run
 
 COLLECT = {"do": "collect"}
 
@@ -29,6 +29,27 @@ class Collect(Case):
         self.assertEqual(by_name["clock", 2][4], "installed")
         versions = [row[3] for row in rows if row[1:3] == [2, "kernel"]]
         self.assertEqual(versions, ["6.1.0-5", "6.1.0-1"])
+
+    def test_outdated(self):
+        """What another program changes is named; a key is no package; a reinstallation is a change,
+        because it moves a package to another place of the database."""
+        root = self.root()
+        packages = pathlib.Path(root, "srv/repos/9/x86_64")
+        steps = [COLLECT, {"do": "outdated"}]
+        for arguments in (["-e", "gpg-pubkey"],
+                          ["-U", "--replacepkgs", "--nodeps", "--nosignature", *sum((list(packages.glob(
+                              "*/Packages/%s*" % name)) for name in ("clock-1.0-2", "weather-1.0-1", "chess-1.2")),
+                              [])],
+                          ["-e", "--nodeps", "kernel-6.1.0-1", "epochal"]):
+            command = [str(word) for word in (SANDBOX, "rpm", root, *arguments)]
+            steps += [evaluate("__import__('subprocess').run(%r, check=True).returncode" % command),
+                      {"do": "outdated"}]
+        result = run(root, {"steps": steps})
+        self.assertEqual(result["errors"], [None] * len(steps))
+        new, changed = ["chess-1.2-1.x86_64"], ["clock.x86_64 1.0-1 -> 1.0-2", "weather.noarch 1.0-1 -> 1.0-1"]
+        self.assertEqual(result["values"][1::2], [
+            [[], [], []], [[], [], []], [new, [], changed],
+            [new, ["epochal-5.0-1.noarch", "kernel-6.1.0-1.x86_64"], changed]])
 
     def test_objects(self):
         code = """[[po.pkgtup, po.repoid, po.localPkg(), __import__("os").path.exists(po.localHdr()),

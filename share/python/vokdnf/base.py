@@ -9,7 +9,7 @@ import rpm
 
 from yum import Errors
 
-from . import certificates, config, errors, keys, locks, meters, report, root
+from . import certificates, config, database, errors, keys, locks, meters, report, root
 
 # rpm on some distributions keeps its database in the user's home unless told otherwise.
 _DATABASE = "/var/lib/rpm"
@@ -94,6 +94,7 @@ class Session:
         if root.prefix() and rpm.expandMacro("%{_dbpath}") != _DATABASE:
             rpm.addMacro("_dbpath", _DATABASE)
         self.spent = False
+        self._cookie = ""  # of the rpm database that the sack was filled from
         self.base = Base(self.conf)
         with errors.translated():
             if self.conf.plugins:
@@ -131,6 +132,8 @@ class Session:
         """Reads the installed packages and the loaded repositories."""
         report.job_state("metadata", True)
         self.base._reading = 0
+        # Read before the packages are, so that no change goes unnoticed.
+        self._cookie = database.cookie(self.conf)
         try:
             with errors.translated():
                 locks.guarded("metadata", True, self.base.fill_sack)
@@ -142,6 +145,18 @@ class Session:
         if former is not None and former is not self:
             former.close()
         Session._open = weakref.ref(self)
+
+    def outdated(self):
+        """What differs between the rpm database and the packages that were read of it, as
+        database.differences tells it."""
+        current = database.cookie(self.conf)
+        if current == self._cookie:
+            return [], [], []
+        with errors.translated():
+            told = database.differences(database.read_by(self.sack), database.contents(self.conf))
+        if not any(told):  # a key came or went
+            self._cookie = current
+        return told
 
     @property
     def sack(self):

@@ -1,0 +1,58 @@
+"""rpm's database, read beside what DNF has of it: whether it changed."""
+
+import dnf.rpm.transaction
+import hawkey
+import rpm
+
+from . import packages, report
+
+
+def cookie(conf):
+    """A text that changes with the database; "" when it cannot be read."""
+    try:
+        return dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot).dbCookie()
+    except rpm.error as error:
+        report.errorlog(2, "The rpm database cannot be read: %s" % report.clean(error))
+        return ""
+
+
+def contents(conf):
+    """{number: (name, arch, epoch, version, release)} of the installed packages, keys left out. The number
+    is rpm's own, under which a transaction removes a package; a reinstallation changes it."""
+    reader = dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot)
+    return {header[rpm.RPMTAG_DBINSTANCE]:
+            tuple(report.clean(part) for part in (header["name"], header["arch"], header["epoch"] or 0,
+                                                  header["version"], header["release"]))
+            for header in reader.dbMatch() if header["name"] != "gpg-pubkey"}
+
+
+def read_by(sack):
+    """The same of a filled sack."""
+    return {pkg.rpmdbid: tuple(map(report.clean, pkg.pkgtup))
+            for pkg in sack.query(hawkey.IGNORE_EXCLUDES).installed()}
+
+
+def differences(before, after):
+    """(came, gone, changed) of two contents, lists of texts in the order of their names. What came and went
+    stands as name-[epoch:]version-release.arch, a package of changed version as "name.arch OLD -> NEW", of
+    which a reinstalled one has the same version twice."""
+    old = _by_name(before, after)
+    new = _by_name(after, before)
+    came, gone, changed = [], [], []
+    for key in sorted({*old, *new}):
+        name, arch = key
+        if key in old and key in new:
+            changed.append("%s.%s %s -> %s" % (name, arch, ", ".join(old[key]), ", ".join(new[key])))
+        else:
+            (came if key in new else gone).extend("%s-%s.%s" % (name, version, arch)
+                                                  for version in (new.get(key) or old[key]))
+    return came, gone, changed
+
+
+def _by_name(contents_, other):
+    """{(name, arch): versions} of the packages that `other` does not have."""
+    found = {}
+    for number, (name, arch, epoch, version, release) in sorted(contents_.items()):
+        if other.get(number) != (name, arch, epoch, version, release):
+            found.setdefault((name, arch), []).append(packages.evr_text(epoch, version, release))
+    return found
