@@ -1,8 +1,8 @@
 #include "passwdlineedit.h"
 
 #include "app/fonts.h"
+#include "maskedfield.h"
 #include "passwdreal.h"
-#include "passwordmask.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -39,7 +39,7 @@ void place(QLineEdit &edit, int anchor, int cursor)
 PasswdLineEdit::PasswdLineEdit(const QRegularExpression &mask, QWidget *parent)
     : QLineEdit(parent), m_mask(mask), m_real(new PasswdRealLineEdit(parent))
 {
-    PasswordMask::hideFromAccessibility();
+    MaskedField::hideFromAccessibility();
     setFont(Fonts::makeFixed(font()));
     setAcceptDrops(false);
     setInputMethodHints(inputMethodHints() | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText);
@@ -78,7 +78,7 @@ QString PasswdLineEdit::realText() const
 QString PasswdLineEdit::masked(const QString &real) const
 {
     const int character = style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, this);
-    return PasswordMask::maskWhole(real, m_mask, QChar(char16_t(character)));
+    return MaskedField::maskWhole(real, m_mask, QChar(char16_t(character)));
 }
 
 void PasswdLineEdit::textChanged(const QString &real)
@@ -109,8 +109,8 @@ void PasswdLineEdit::carryToReal()
     if (m_carrying || text().size() != m_real->text().size())
         return;
     const QString real = m_real->text();
-    place(*m_real, int(PasswordMask::wholeCharacter(real, anchorOf(*this))),
-          int(PasswordMask::wholeCharacter(real, cursorPosition())));
+    place(*m_real, int(MaskedField::wholeCharacter(real, anchorOf(*this))),
+          int(MaskedField::wholeCharacter(real, cursorPosition())));
     carryToVisible();
 }
 
@@ -119,7 +119,7 @@ void PasswdLineEdit::visibleEdited(const QString &visible)
 {
     if (m_carrying)
         return;
-    const auto edit = PasswordMask::difference(masked(m_real->text()), visible, cursorPosition());
+    const auto edit = MaskedField::difference(masked(m_real->text()), visible, cursorPosition());
     m_real->setSelection(int(edit.position), int(edit.removed));
     if (edit.removed == 0)
         m_real->setCursorPosition(int(edit.position));
@@ -218,7 +218,7 @@ void PasswdLineEdit::keyPressEvent(QKeyEvent *event)
     } else if (event->matches(QKeySequence::DeleteCompleteLine)) {
         selectAll();
         cut();
-    } else if (PasswordMask::editsText(event)) {
+    } else if (MaskedField::editsText(event)) {
         m_real->keyPressEvent(event);
         carryToVisible();
         return;
@@ -268,7 +268,7 @@ void PasswdLineEdit::inputMethodEvent(QInputMethodEvent *event)
     const int cursor = m_real->cursorPosition();
     const QString whole = m_real->text().insert(cursor, event->preeditString());
     QInputMethodEvent shown(masked(whole).mid(cursor, event->preeditString().size()),
-                            PasswordMask::withoutSelection(event->attributes()));
+                            MaskedField::withoutSelection(event->attributes()));
     const QScopedValueRollback guard(m_carrying, true);
     QLineEdit::inputMethodEvent(&shown);
 }

@@ -1,8 +1,8 @@
 #include "passwdtextedit.h"
 
 #include "app/fonts.h"
+#include "maskedfield.h"
 #include "passwdreal.h"
-#include "passwordmask.h"
 
 #include <QContextMenuEvent>
 #include <QEvent>
@@ -69,7 +69,7 @@ PasswdTextEdit::PasswdTextEdit(const QRegularExpression &mask, int rows, int col
 
 void PasswdTextEdit::construct()
 {
-    PasswordMask::hideFromAccessibility();
+    MaskedField::hideFromAccessibility();
     setFont(Fonts::makeFixed(font()));
     setCurrentFont(font());
     setWordWrapMode(QTextOption::WrapAnywhere);
@@ -113,7 +113,7 @@ QString PasswdTextEdit::realPlainText() const
 QString PasswdTextEdit::masked(const QString &real) const
 {
     const int character = style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, this);
-    return PasswordMask::maskAll(real, m_mask, QChar(char16_t(character)));
+    return MaskedField::maskAll(real, m_mask, QChar(char16_t(character)));
 }
 
 void PasswdTextEdit::textChanged()
@@ -129,7 +129,7 @@ void PasswdTextEdit::showMasked()
     const QScopedValueRollback guard(m_carrying, true);
     const QString shown = masked(realPlainText());
     const auto edit =
-        PasswordMask::difference(plainText(*this), shown, m_real->textCursor().position());
+        MaskedField::difference(plainText(*this), shown, m_real->textCursor().position());
     if (edit.removed == 0 && edit.inserted.isEmpty())
         return;
     QTextCursor cursor(document());
@@ -153,8 +153,8 @@ void PasswdTextEdit::carryToReal()
         return;
     const QString real = realPlainText();
     const QTextCursor cursor = textCursor();
-    place(*m_real, int(PasswordMask::wholeCharacter(real, cursor.anchor())),
-          int(PasswordMask::wholeCharacter(real, cursor.position())));
+    place(*m_real, int(MaskedField::wholeCharacter(real, cursor.anchor())),
+          int(MaskedField::wholeCharacter(real, cursor.position())));
     carryToVisible();
 }
 
@@ -167,7 +167,7 @@ void PasswdTextEdit::visibleEdited()
     const QString before = masked(realPlainText()), after = plainText(*this);
     if (before == after)
         return; // a change of format
-    const auto edit = PasswordMask::difference(before, after, textCursor().position());
+    const auto edit = MaskedField::difference(before, after, textCursor().position());
     place(*m_real, int(edit.position), int(edit.position + edit.removed));
     insertReal(edit.inserted);
 }
@@ -272,7 +272,7 @@ void PasswdTextEdit::keyPressEvent(QKeyEvent *event)
         undo();
     } else if (event->matches(QKeySequence::Redo)) {
         redo();
-    } else if (PasswordMask::editsText(event) || breaksLine(event) ||
+    } else if (MaskedField::editsText(event) || breaksLine(event) ||
                event->matches(QKeySequence::DeleteEndOfLine)) {
         m_real->keyPressEvent(event);
         carryToVisible();
@@ -310,7 +310,7 @@ void PasswdTextEdit::inputMethodEvent(QInputMethodEvent *event)
     const int cursor = m_real->textCursor().position();
     const QString whole = realPlainText().insert(cursor, event->preeditString());
     QInputMethodEvent shown(masked(whole).mid(cursor, event->preeditString().size()),
-                            PasswordMask::withoutSelection(event->attributes()));
+                            MaskedField::withoutSelection(event->attributes()));
     const QScopedValueRollback guard(m_carrying, true);
     HTextEdit::inputMethodEvent(&shown);
 }

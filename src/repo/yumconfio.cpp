@@ -2,7 +2,7 @@
 
 #include "rootpath.h"
 #include "widgets/messagebox.h"
-#include "yumio/mask.h"
+#include "yumio/passwordsintext.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -3,7 +3,7 @@
 #include "python/pyref.h"
 
 #include "capturers.h"
-#include "dialogs.h"
+#include "guiquestions.h"
 #include "progress/progress.h"
 #include "yumio.h"
 

@@ -3,8 +3,8 @@
 #include "python/pyref.h"
 
 #include "capturers.h"
-#include "dialogs.h"
 #include "formats.h"
+#include "guiquestions.h"
 #include "progress/progress.h"
 #include "yumio.h"
 

@@ -2,9 +2,9 @@
 
 #include "python/pyref.h"
 
-#include "dialogs.h"
 #include "envra.h"
 #include "formats.h"
+#include "guiquestions.h"
 #include "progress/progress.h"
 #include "threads.h"
 #include "yumio.h"

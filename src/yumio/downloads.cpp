@@ -5,7 +5,7 @@
 
 #include "python/pyref.h"
 
-#include "mask.h"
+#include "passwordsintext.h"
 #include "progress/progress.h"
 #include "weights.h"
 #include "yumio.h"

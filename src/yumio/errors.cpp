@@ -1,7 +1,7 @@
 #include "python/pyref.h"
 
-#include "dialogs.h"
-#include "mask.h"
+#include "guiquestions.h"
+#include "passwordsintext.h"
 #include "yumio.h"
 
 #include <QMutexLocker>

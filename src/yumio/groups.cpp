@@ -2,7 +2,8 @@
 
 #include "python/pyref.h"
 
-#include "dialogs.h"
+#include "guiquestions.h"
+#include "pyattributes.h"
 #include "yumio.h"
 
 #include <algorithm>
@@ -10,14 +11,6 @@
 namespace {
 
 constexpr unsigned int markLevel = 2;
-
-PyRef collection(PyObject *group, const char *attribute)
-{
-    PyRef value(PyObject_GetAttrString(group, attribute));
-    if (!value)
-        PyErr_Clear();
-    return value;
-}
 
 void appendUnique(QStringList &names, const QString &name, QSet<QString> &seen)
 {
@@ -248,7 +241,7 @@ bool YumIO::groupMembers(const Package::Entry *group, std::initializer_list<Memb
                                              "conditional_packages"};
     QSet<QString> seen(names.cbegin(), names.cend());
     for (const MemberKind kind : kinds) {
-        const PyRef members = collection(group->po, attributes[kind]);
+        const PyRef members = attribute(group->po, attributes[kind]);
         if (!members) {
             error(tr("Internal error: group %1.%2 not evaluable")
                       .arg(group->name, QLatin1String(attributes[kind])));

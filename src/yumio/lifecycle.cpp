@@ -4,7 +4,7 @@
 
 #include "app/programname.h"
 #include "app/share.h"
-#include "dialogs.h"
+#include "guiquestions.h"
 #include "threads.h"
 #include "yumio.h"
 #include "yumioc.h"

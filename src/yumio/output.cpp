@@ -1,6 +1,6 @@
 #include "python/pyref.h"
 
-#include "mask.h"
+#include "passwordsintext.h"
 #include "yumio.h"
 
 #include <QMutexLocker>

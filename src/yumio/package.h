@@ -45,8 +45,8 @@ public:
 
     // Valid during an apply only.
     Action applyAction = Action::None; // copy of `action`, changed by group marks and resolution
-    const Entry *markedBy =
-        nullptr;          // itself, the group that marked it, or null after a conflict answer
+    // Itself, the group that marked it, or null after a conflict answer.
+    const Entry *markedBy = nullptr;
     bool started = false; // the rpm transaction has begun this element
 };
 

@@ -1,59 +1,15 @@
-// What the library reports while it resolves: decisions, checks, the finished transaction.
+// What the library reports while it resolves, and what the resolved transaction weighs on the bars.
 
 #include "python/pyref.h"
 
-#include "dialogs.h"
-#include "formats.h"
 #include "progress/progress.h"
-#include "transactionlists.h"
+#include "pyattributes.h"
 #include "weights.h"
 #include "yumio.h"
 
 #include <QFile>
 
 #include <algorithm>
-#include <functional>
-
-namespace {
-
-QString attributeText(PyObject *object, const char *name)
-{
-    const PyRef value(PyObject_GetAttrString(object, name));
-    if (!value)
-        PyErr_Clear();
-    const PyRef text(value && value.get() != Py_None ? PyObject_Str(value.get()) : nullptr);
-    const char *utf8 = text ? PyUnicode_AsUTF8(text.get()) : nullptr;
-    if (!utf8)
-        PyErr_Clear();
-    return QString::fromUtf8(utf8);
-}
-
-PyRef attribute(PyObject *object, const char *name)
-{
-    PyRef value(PyObject_GetAttrString(object, name));
-    if (!value)
-        PyErr_Clear();
-    return value;
-}
-
-// The first package that stands in `relation` in a list of (package tuple, relation).
-PyRef findRelation(PyObject *relatedTo, const char *relation)
-{
-    const PyRef iterator(PyObject_GetIter(relatedTo));
-    while (iterator) {
-        const PyRef pair(PyIter_Next(iterator.get()));
-        if (!pair)
-            break;
-        const PyRef kind(PySequence_GetItem(pair.get(), 1));
-        if (kind && PyUnicode_Check(kind.get()) &&
-            PyUnicode_CompareWithASCIIString(kind.get(), relation) == 0)
-            return PyRef(PySequence_GetItem(pair.get(), 0));
-    }
-    PyErr_Clear();
-    return PyRef();
-}
-
-} // namespace
 
 void YumIO::dsTsInfo(const char *text)
 {
@@ -139,220 +95,6 @@ PyObject *YumIO::dsRestartLoop(PyObject *, PyObject *)
     Py_RETURN_NONE;
 }
 
-PyObject *YumIO::userconfirm(PyObject *, PyObject *)
-{
-    if (m_progress) {
-        m_progress->endItemActs();
-        m_progress->reset();
-    }
-    m_actPosition = 0;
-    const bool isFinal = m_listingShown;
-    bool yes = false;
-    if (m_dialogs && isFinal)
-        yes = m_dialogs->confirm(tr("Apply"), m_pendingText, tr("OK"), tr("Cancel")) == 1;
-    else if (m_dialogs)
-        yes = m_dialogs->confirm(tr("Query"), m_pendingText, tr("Yes"), tr("No")) == 1;
-
-    if (isFinal) {
-        log(Log::Kind::Action, 0, yes ? tr("Applying: OK") : tr("Not Applying: Canceled"));
-        m_applied = yes;
-        if (yes)
-            startRunTotal();
-    } else {
-        log(Log::Kind::Action, 0, yes ? tr("Confirmation: Yes") : tr("Confirmation: No"));
-    }
-    m_pendingText.clear();
-    m_listingShown = false;
-    return PyLong_FromLong(yes ? 1 : 0);
-}
-
-// The second total: download, test and run, in units that the listing has weighed.
-void YumIO::startRunTotal()
-{
-    m_downloadBudget = m_bytesTotal ? runDownloadUnits * m_bytesToDownload / m_bytesTotal : 0;
-    if (!m_progress)
-        return;
-    m_progress->startTotal(tr("Running Transaction: Total Progress"),
-                           Steps(m_downloadBudget + (usesPresto() ? deltaRebuildUnits : 0) +
-                                 (hasTransTest() ? transTestUnits : 0) + runUnits));
-    m_progress->startItem(tr("Preparing"), 100, true);
-    m_progress->setupItemActs(Steps(m_downloadBudget), Steps(m_bytesToDownload));
-}
-
-PyObject *YumIO::reportDownloadSize(PyObject *, PyObject *args)
-{
-    PyObject *packages;
-    if (!PyArg_ParseTuple(args, "O", &packages))
-        return nullptr;
-    const PyRef iterator(PyObject_GetIter(packages));
-    if (!iterator)
-        return nullptr;
-    quint64 bytes = 0;
-    while (const PyRef package = PyRef(PyIter_Next(iterator.get())))
-        bytes += sizeOf(package.get());
-    if (PyErr_Occurred())
-        return nullptr;
-    m_pendingText += tr("Total download size: %1\n").arg(bytesFormat(bytes));
-    Py_RETURN_NONE;
-}
-
-bool YumIO::writeListing(const TransactionLists &lists)
-{
-    const auto isEmpty = [](PyObject *list) {
-        const Py_ssize_t size = PyObject_Size(list);
-        if (size < 0)
-            PyErr_Clear();
-        return size == 0;
-    };
-    m_pendingText += tr("Transaction to be performed:\n");
-    if (!displayTransactionPkgsRepo(tr("Install"), lists.installed) ||
-        !displayTransactionPkgsRepo(tr("Update"), lists.updated) ||
-        !displayTransactionPkgs(tr("Remove"), lists.removed))
-        return false;
-    if (!isEmpty(lists.depinstalled) || !isEmpty(lists.depupdated) || !isEmpty(lists.depremoved)) {
-        m_pendingText += tr("Performing the following to resolve dependencies:\n");
-        if (!displayTransactionPkgsRepo(tr("Install"), lists.depinstalled) ||
-            !displayTransactionPkgsRepo(tr("Update"), lists.depupdated) ||
-            !displayTransactionPkgs(tr("Remove"), lists.depremoved))
-            return false;
-    }
-    if (!isEmpty(lists.obsoleted)) {
-        m_pendingText += tr("Other Transactions:\n");
-        return displayTransactionPkgsObs(tr("Obsoleting"), lists.obsoleted);
-    }
-    return true;
-}
-
-PyObject *YumIO::listTransaction(PyObject *, PyObject *args)
-{
-    PyObject *owner;
-    if (!PyArg_ParseTuple(args, "O", &owner))
-        return nullptr;
-    m_pendingText.clear();
-    m_listingShown = true;
-    TransactionLists lists;
-    if (!makeLists(owner, lists) || !writeListing(lists))
-        return failedCallback("the transaction cannot be listed");
-
-    noteTransactionPkgs(Package::Action::Install, lists.installed);
-    noteTransactionPkgs(Package::Action::Update, lists.updated);
-    noteTransactionPkgs(Package::Action::Remove, lists.removed);
-    noteTransactionPkgs(Package::Action::Install, lists.depinstalled);
-    noteTransactionPkgs(Package::Action::Update, lists.depupdated);
-    noteTransactionPkgs(Package::Action::Remove, lists.depremoved);
-    noteTransactionPkgs(Package::Action::Remove, lists.obsoleted);
-    Py_RETURN_NONE;
-}
-
-PyObject *YumIO::postTransactionOutput(PyObject *, PyObject *args)
-{
-    PyObject *owner;
-    if (!PyArg_ParseTuple(args, "O", &owner))
-        return nullptr;
-    if (m_progress)
-        m_progress->endItemActs();
-    TransactionLists lists;
-    if (!makeLists(owner, lists))
-        return failedCallback("the transaction cannot be listed");
-    const qsizetype before = m_pendingText.size();
-    const bool written = displayTransactionPkgs(tr("Removed"), lists.removed) &&
-                         displayTransactionPkgs(tr("Dependency Removed"), lists.depremoved) &&
-                         displayTransactionPkgs(tr("Installed"), lists.installed) &&
-                         displayTransactionPkgs(tr("Dependency Installed"), lists.depinstalled) &&
-                         displayTransactionPkgs(tr("Updated"), lists.updated) &&
-                         displayTransactionPkgs(tr("Dependency Updated"), lists.depupdated) &&
-                         displayTransactionPkgs(tr("Obsoleted"), lists.obsoleted);
-    QString outcome = m_pendingText.mid(before);
-    if (outcome.endsWith(QLatin1Char('\n')))
-        outcome.chop(1);
-    if (!outcome.isEmpty())
-        log(Log::Kind::Normal, 1, outcome);
-    return written ? PyUnicode_FromString("") : failedCallback("the outcome cannot be listed");
-}
-
-// A null result needs an exception behind it, or the interpreter raises one of its own about that.
-PyObject *YumIO::failedCallback(const char *reason)
-{
-    if (!PyErr_Occurred())
-        PyErr_SetString(PyExc_RuntimeError, reason);
-    return nullptr;
-}
-
-// (name, arch, epoch, version, release) as "name epoch:version-release (arch)".
-QString YumIO::pkgtupFormat(PyObject *pkgtup)
-{
-    QStringList items;
-    for (Py_ssize_t i = 0; i < 5; ++i) {
-        const PyRef item(PySequence_GetItem(pkgtup, i));
-        if (!item)
-            PyErr_Clear();
-        items.append(item ? pyStringX(item.get()) : QString());
-    }
-    if (items[2] == QLatin1String("0"))
-        return tr("%1 %3-%4 (%2)").arg(items[0], items[1], items[3], items[4]);
-    return tr("%1 %3:%4-%5 (%2)").arg(items[0], items[1], items[2], items[3], items[4]);
-}
-
-QString YumIO::pkgtupRepoFormat(PyObject *pkgtup, const QString &repo)
-{
-    return pkgtupFormat(pkgtup) + tr(" [%1]").arg(repo);
-}
-
-// Calls `line` for each member with its package tuple; false when one lacks it or `line` fails.
-bool YumIO::forEachMember(PyObject *list,
-                          const std::function<bool(PyObject *member, PyObject *pkgtup)> &line)
-{
-    const PyRef iterator(PyObject_GetIter(list));
-    if (!iterator)
-        return false;
-    while (const PyRef member = PyRef(PyIter_Next(iterator.get()))) {
-        const PyRef pkgtup = attribute(member.get(), "pkgtup");
-        if (!pkgtup) {
-            error("Internal error: txmbr lacks pkgtup\n");
-            return false;
-        }
-        if (!line(member.get(), pkgtup.get()))
-            return false;
-    }
-    return !PyErr_Occurred();
-}
-
-bool YumIO::displayTransactionPkgs(const QString &title, PyObject *list)
-{
-    return forEachMember(list, [&](PyObject *, PyObject *pkgtup) {
-        m_pendingText += tr("\t%1: %2\n").arg(title, pkgtupFormat(pkgtup));
-        return true;
-    });
-}
-
-bool YumIO::displayTransactionPkgsRepo(const QString &title, PyObject *list)
-{
-    return forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
-        const QString repo = attributeText(member, "repoid");
-        m_pendingText += tr("\t%1: %2\n").arg(title, pkgtupRepoFormat(pkgtup, repo));
-        return true;
-    });
-}
-
-bool YumIO::displayTransactionPkgsObs(const QString &title, PyObject *list)
-{
-    return forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
-        const PyRef relatedTo = attribute(member, "relatedto");
-        if (!relatedTo) {
-            error("Internal error: package has no relatedto\n");
-            return false;
-        }
-        const PyRef by = findRelation(relatedTo.get(), "obsoletedby");
-        if (!by) {
-            error("Internal error: couldn't find obsoletedby package\n");
-            return false;
-        }
-        m_pendingText +=
-            tr("\t%1: %2 with %3\n").arg(title, pkgtupFormat(pkgtup), pkgtupFormat(by.get()));
-        return true;
-    });
-}
-
 // The version as rows show it, so that a member finds its own among several installed ones.
 QString YumIO::memberVersion(PyObject *member)
 {
@@ -422,42 +164,15 @@ qint64 YumIO::downloadWeight(const Package::Entry *entry)
     return hasMultiProgress() ? entry->size : std::max(entry->size, Weights::least);
 }
 
-bool YumIO::makeLists(PyObject *owner, TransactionLists &lists)
+// The second total: download, test and run, in units that the listing has weighed.
+void YumIO::startRunTotal()
 {
-    lists.tsInfo = attribute(owner, "tsInfo");
-    if (!lists.tsInfo) {
-        error("Internal error: yumIO.tsInfo not found\n");
-        return false;
-    }
-    lists.made = PyRef(pyMethodCall(lists.tsInfo.get(), "makelists", "()"));
-    if (!lists.made)
-        return false;
-
-    PyObject **const outputs[] = {&lists.updated,   &lists.installed,  &lists.removed,
-                                  &lists.obsoleted, &lists.depupdated, &lists.depinstalled,
-                                  &lists.depremoved};
-    if (yumVersion() < 20302) {
-        if (!PyTuple_Check(lists.made.get())) {
-            error("Internal error: yumIO.makelists() did not return a tuple\n");
-            return false;
-        }
-        if (PyTuple_Size(lists.made.get()) != 7) {
-            error("Internal error: yumIO.makelists() returned tuple of incorrect size\n");
-            return false;
-        }
-        for (Py_ssize_t i = 0; i < 7; ++i)
-            *outputs[i] = PyTuple_GET_ITEM(lists.made.get(), i);
-        return true;
-    }
-    static const char *const names[] = {"updated",    "installed",    "removed",   "obsoleted",
-                                        "depupdated", "depinstalled", "depremoved"};
-    for (size_t i = 0; i < std::size(names); ++i) {
-        lists.kept[i] = attribute(lists.tsInfo.get(), names[i]);
-        if (!lists.kept[i]) {
-            error(tr("Internal error: tsInfo.%1 not found").arg(QLatin1String(names[i])));
-            return false;
-        }
-        *outputs[i] = lists.kept[i].get();
-    }
-    return true;
+    m_downloadBudget = m_bytesTotal ? runDownloadUnits * m_bytesToDownload / m_bytesTotal : 0;
+    if (!m_progress)
+        return;
+    m_progress->startTotal(tr("Running Transaction: Total Progress"),
+                           Steps(m_downloadBudget + (usesPresto() ? deltaRebuildUnits : 0) +
+                                 (hasTransTest() ? transTestUnits : 0) + runUnits));
+    m_progress->startItem(tr("Preparing"), 100, true);
+    m_progress->setupItemActs(Steps(m_downloadBudget), Steps(m_bytesToDownload));
 }

@@ -358,7 +358,7 @@ private:
     bool groupTree(const QStringList &members, QStringList &names);
     bool scriptNames(const char *method, const QString &name, QStringList &names);
 
-    // transaction.cpp: resolution reports, listing, weighing
+    // transaction.cpp: resolution reports, weighing
     void dsTsInfo(const char *text);
     Package::Entry *dsTsFindPkg(const QString &pkg);
     void dsTsNewPkg(const QString &pkg, Package::Entry *entry, unsigned int ops, bool mayDownload);

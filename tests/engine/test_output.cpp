@@ -1,5 +1,5 @@
 #include "yumio/capturers.h"
-#include "yumio/mask.h"
+#include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
 
 #include <QFile>

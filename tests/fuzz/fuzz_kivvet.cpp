@@ -1,8 +1,8 @@
 // The credential functions and the masking with their expressions.
 
-#include "repo/kivvet/kivvet.h"
-#include "repo/kivvet/percent.h"
-#include "repo/passwordmask.h"
+#include "kivvet/kivvet.h"
+#include "kivvet/percent.h"
+#include "repo/maskedfield.h"
 
 #include <QStringList>
 
@@ -21,8 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         abort();
 
     const QRegularExpression one = Repo::Kivvet::oneUrlRegExp(), many = Repo::Kivvet::urlsRegExp();
-    if (PasswordMask::maskWhole(text, one, u'*').size() != text.size() ||
-        PasswordMask::maskAll(text, many, u'*').size() != text.size())
+    if (MaskedField::maskWhole(text, one, u'*').size() != text.size() ||
+        MaskedField::maskAll(text, many, u'*').size() != text.size())
         abort();
 
     // Whatever the text, these end, and find in it what they can.
@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             QStringList{nameKey, name, passwordKey, password} != values ||
             Repo::Kivvet::replaceAuth(url, name, password) != url)
             abort();
-        const QString shown = PasswordMask::maskWhole(url, one, u'*');
+        const QString shown = MaskedField::maskWhole(url, one, u'*');
         const qsizetype length = httpProtect(password).size();
         const qsizetype start = url.lastIndexOf(u'=', form.startsWith(u"h/k") ? -9 : -1) + 1;
         if (QStringView(shown).mid(start, length) != QString(length, u'*'))

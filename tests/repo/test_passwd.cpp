@@ -1,4 +1,4 @@
-#include "repo/kivvet/kivvet.h"
+#include "kivvet/kivvet.h"
 #include "repo/passwdlineedit.h"
 #include "repo/passwdreal.h"
 #include "repo/passwdtextedit.h"

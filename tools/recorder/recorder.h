@@ -19,14 +19,16 @@ class YumIO;
 //   wait                       until no job runs and no dialog is open
 //   until state [percent]      until the job is in that state and the item bar that far
 //   dialog                     until a dialog is open
-//   press button               a button or action, by object name; or the open dialog's, by its
-//   text mark names action          rows of those names; action as Package::Action answer rules see
-//   DialogWatcher cancelAt state             presses Cancel when the job is in that state and it
-//   can be pressed rows                       {name: [state, version, repository, action]} of all
-//   rows, as numbers log                        [kind, level, text] of all log entries recording,
-//   gaps            see Recording and Heartbeat stacks                     from now on gaps have
-//   stacks tip, showLog level         shows the item bar's tip, the log window picture path [of] a
-//   picture of the window, or of the open "dialog", "tip" or "log"
+//   press button               a button or action, by object name; or the open dialog's, by its text
+//   mark names action          rows of those names; action as Package::Action
+//   answer rules               see DialogWatcher
+//   cancelAt state             presses Cancel when the job is in that state and it can be pressed
+//   rows                       {name: [state, version, repository, action]} of all rows, as numbers
+//   log                        [kind, level, text] of all log entries
+//   recording, gaps            see Recording and Heartbeat
+//   stacks                     from now on gaps have stacks
+//   tip, showLog level         shows the item bar's tip, the log window
+//   picture path [of]          a picture of the window, or of the open "dialog", "tip" or "log"
 //
 // Every answer holds "dialogs" and "states", what came since the last one, "rows" (their number)
 // and "placeholder" (whether the first collection's placeholder is shown).

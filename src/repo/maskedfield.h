@@ -8,7 +8,7 @@ class QKeyEvent;
 
 // What the two masked fields share. Each shows a copy of the text of a real editor that nobody
 // sees, and this is about the copy. Lengths never change, so a position is the same in both.
-namespace PasswordMask {
+namespace MaskedField {
 
 // The text with every non-empty capture replaced by mask characters: of one match of the whole
 // text, or of all matches in it.
@@ -39,4 +39,4 @@ withoutSelection(const QList<QInputMethodEvent::Attribute> &attributes);
 // assistive technology what they hold.
 void hideFromAccessibility();
 
-} // namespace PasswordMask
+} // namespace MaskedField

@@ -1,6 +1,6 @@
-#include "mask.h"
+#include "passwordsintext.h"
 
-#include "repo/kivvet/kivvet.h"
+#include "kivvet/kivvet.h"
 
 #include <QRegularExpression>
 

@@ -1,4 +1,4 @@
-#include "passwordmask.h"
+#include "maskedfield.h"
 
 #include <QAccessible>
 #include <QAccessibleObject>
@@ -53,8 +53,8 @@ QAccessibleInterface *mute(const QString &className, QObject *object)
 
 } // namespace
 
-QString PasswordMask::maskWhole(const QString &text, const QRegularExpression &expression,
-                                QChar mask)
+QString MaskedField::maskWhole(const QString &text, const QRegularExpression &expression,
+                               QChar mask)
 {
     QString masked = text;
     const QRegularExpression whole(QRegularExpression::anchoredPattern(expression.pattern()),
@@ -63,7 +63,7 @@ QString PasswordMask::maskWhole(const QString &text, const QRegularExpression &e
     return masked;
 }
 
-QString PasswordMask::maskAll(const QString &text, const QRegularExpression &expression, QChar mask)
+QString MaskedField::maskAll(const QString &text, const QRegularExpression &expression, QChar mask)
 {
     QString masked = text;
     auto matches = expression.globalMatch(text);
@@ -72,8 +72,8 @@ QString PasswordMask::maskAll(const QString &text, const QRegularExpression &exp
     return masked;
 }
 
-PasswordMask::Edit PasswordMask::difference(const QString &before, const QString &after,
-                                            qsizetype cursor)
+MaskedField::Edit MaskedField::difference(const QString &before, const QString &after,
+                                          qsizetype cursor)
 {
     const qsizetype shorter = std::min(before.size(), after.size());
     qsizetype ahead = 0, behind = 0;
@@ -91,7 +91,7 @@ PasswordMask::Edit PasswordMask::difference(const QString &before, const QString
     return {ahead, before.size() - behind - ahead, after.mid(ahead, after.size() - behind - ahead)};
 }
 
-qsizetype PasswordMask::wholeCharacter(const QString &text, qsizetype position)
+qsizetype MaskedField::wholeCharacter(const QString &text, qsizetype position)
 {
     const bool inside = position > 0 && position < text.size() &&
                         text.at(position - 1).isHighSurrogate() &&
@@ -99,7 +99,7 @@ qsizetype PasswordMask::wholeCharacter(const QString &text, qsizetype position)
     return inside ? position + 1 : position;
 }
 
-bool PasswordMask::editsText(const QKeyEvent *event)
+bool MaskedField::editsText(const QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete ||
         event->matches(QKeySequence::DeleteStartOfWord) ||
@@ -114,14 +114,14 @@ bool PasswordMask::editsText(const QKeyEvent *event)
 }
 
 QList<QInputMethodEvent::Attribute>
-PasswordMask::withoutSelection(const QList<QInputMethodEvent::Attribute> &attributes)
+MaskedField::withoutSelection(const QList<QInputMethodEvent::Attribute> &attributes)
 {
     QList<QInputMethodEvent::Attribute> result = attributes;
     result.removeIf([](const auto &one) { return one.type == QInputMethodEvent::Selection; });
     return result;
 }
 
-void PasswordMask::hideFromAccessibility()
+void MaskedField::hideFromAccessibility()
 {
     static const bool installed = [] {
         QAccessible::installFactory(mute);

@@ -1,5 +1,5 @@
-#include "repo/kivvet/kivvet.h"
-#include "repo/kivvet/percent.h"
+#include "kivvet/kivvet.h"
+#include "kivvet/percent.h"
 #include "repo/repoentry.h"
 
 #include <QRandomGenerator>

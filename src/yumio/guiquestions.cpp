@@ -1,7 +1,7 @@
-#include "dialogs.h"
+#include "guiquestions.h"
 
 #include "app/harmless.h"
-#include "mask.h"
+#include "passwordsintext.h"
 #include "widgets/messagebox.h"
 #include "widgets/scrollabledialogs.h"
 
