@@ -12,12 +12,13 @@ import dnf.transaction
 import dnf.yum.rpmtrans
 
 from . import packages, report
+from .elements import Action, making_room
 
-INSTALL_CODES = {dnf.transaction.PKG_INSTALL: 30, dnf.transaction.PKG_UPGRADE: 10,
-                 dnf.transaction.PKG_OBSOLETE: 60, dnf.transaction.PKG_DOWNGRADE: 20,
-                 dnf.transaction.PKG_REINSTALL: 20}
-ERASE_CODES = {dnf.transaction.PKG_ERASE: 40, dnf.transaction.PKG_OBSOLETED: 50,
-               dnf.transaction.PKG_UPGRADED: 90, dnf.transaction.PKG_CLEANUP: 90}
+_INSTALL_CODES = {Action.INSTALL: 30, Action.UPGRADE: 10, Action.OBSOLETE: 60, Action.DOWNGRADE: 20,
+                  Action.REINSTALL: 20}
+_UPDATED = 90  # the old version goes at the end of its update
+_ERASE_CODES = {Action.REMOVE: 40, Action.OBSOLETED: 50, Action.UPGRADED: _UPDATED,
+                dnf.transaction.PKG_CLEANUP: _UPDATED}
 _TEXTS = dict(dnf.transaction.ACTIONS)
 _TEXTS[dnf.transaction.TRANS_POST] = "Running the final scriptlets"
 _TROUBLE = re.compile(r"^(error|warning): ")
@@ -52,52 +53,61 @@ class RpmTransaction(dnf.yum.rpmtrans.RPMTransaction):
 dnf.yum.rpmtrans.RPMTransaction = RpmTransaction
 
 
-def rpm_name(pkg):
+def _spellings(envra):
     """A package as rpm writes it in its messages."""
-    name, arch, _, version, release = pkg.pkgtup
-    return report.clean("%s-%s-%s.%s" % (name, version, release, arch))
-
-
-def element_name(item):
-    return rpm_name(item.pkg)
+    epoch, _, nvra = envra.partition(":")
+    name, version, rest = nvra.rsplit("-", 2)
+    return nvra, "%s-%s:%s-%s" % (name, epoch, version, rest)
 
 
 class Display(dnf.callback.TransactionProgress):
-    """`begun` is set once rpm runs. `reasons` is {name-version-release.arch: [texts]} of what went wrong
-    with an element, `trouble` a list of faults in reporting."""
+    """`begun` is set once rpm runs. `reasons` is {epoch:name-version-release.arch: [texts]} of what went
+    wrong with an element, `trouble` a list of faults in reporting."""
 
-    def __init__(self, items):
-        """`items` are DNF's items of the transaction."""
+    def __init__(self, elements, family):
+        """`family` gives the family of an architecture."""
         super().__init__()
         self.begun = False
         self.reasons = {}
         self.trouble = []
-        self._current_name = None  # as rpm writes it
-        self._current = None      # (package or name, action) of the element that rpm works on
+        self._current = None      # (package, action) of the element that rpm works on
+        self._scriptlet = None    # the package whose scriptlet runs
         self._number = 0          # of the present element
         self._told = False        # whether the present element had an event
         self._last_line = None
-        # The longest name first: it may hold a shorter one.
-        self._elements = sorted(set(map(element_name, items)), key=len, reverse=True)
-        self._total = len(self._elements)
+        self._making_room = making_room(elements, family)
+        # rpm writes the epoch in some messages only. The longest first: it may hold a shorter one.
+        self._spellings = sorted(((spelling, element.envra) for element in elements
+                                  for spelling in _spellings(element.envra)),
+                                 key=lambda pair: len(pair[0]), reverse=True)
+        self._total = len({element.envra for element in elements})
 
     @_contained
     def progress(self, package, action, ti_done, ti_total, ts_done, ts_total):
         self.begun = True
-        code = INSTALL_CODES.get(action)
-        erase = code is None and ERASE_CODES.get(action)
-        if not code and not erase:
+        if action == dnf.transaction.PKG_SCRIPTLET:
+            self._scriptlet = package if hasattr(package, "pkgtup") else None
+        if self._tell(package, action, int(ti_done or 0), int(ti_total or 0), int(ts_done or 0),
+                      int(ts_total or 0)):
+            self._told = True
+        else:
             self._log_line(package, action)
-            return
-        self._told = True
-        report.yumIOC.tsEvent(self._argument(package, code), code or erase, int(ti_done or 0),
-                              int(ti_total or 0), int(ts_done or 0), int(ts_total or 0))
 
-    @staticmethod
-    def _argument(package, code):
+    def _tell(self, package, action, *numbers):
+        """Makes an event of an action; False when it has none."""
+        code = _INSTALL_CODES.get(action)
         if code:
-            return packages.Package(package)
-        return report.clean(getattr(package, "name", package))
+            report.yumIOC.tsEvent(packages.Package(package), code, *numbers)
+            return True
+        code = _ERASE_CODES.get(action)
+        if code:
+            if self._makes_room(package, action):
+                code = _UPDATED
+            report.yumIOC.tsEvent(report.clean(getattr(package, "name", package)), code, *numbers)
+        return bool(code)
+
+    def _makes_room(self, package, action):
+        return action == Action.REMOVE and packages.envra(package) in self._making_room
 
     def _log_line(self, package, action):
         line = (action, str(package))
@@ -111,25 +121,25 @@ class Display(dnf.callback.TransactionProgress):
         """rpm turns to the next element."""
         self._finish_element()
         self._current = (package, action)
-        self._current_name = rpm_name(package)
+        self._scriptlet = None
         self._number += 1
         self._told = False
+        if self._makes_room(package, action):
+            report.log(1, "Removing %s" % package)
 
     def _finish_element(self):
         # A package without files reports no progress of its own.
-        if self._current is None or self._told:
-            return
-        package, action = self._current
-        code = INSTALL_CODES.get(action) or ERASE_CODES.get(action)
-        if code:
-            report.yumIOC.tsEvent(self._argument(package, action in INSTALL_CODES), code, 1, 1,
-                                  self._number, self._total)
+        if self._current is not None and not self._told:
+            self._tell(*self._current, 1, 1, self._number, self._total)
 
     @_contained
     def scriptout(self, msgs):
-        """Output of scriptlets and of rpm itself."""
-        if not msgs:
-            return
+        """Output of scriptlets and of rpm itself; DNF calls it, with nothing too, when one has ended."""
+        if msgs:
+            self._scriptout(msgs)
+        self._scriptlet = None
+
+    def _scriptout(self, msgs):
         text = report.clean(msgs)
         if not _TROUBLE.search(text) and "\nerror: " not in text and "\nwarning: " not in text:
             report.write_out(text)
@@ -150,12 +160,13 @@ class Display(dnf.callback.TransactionProgress):
         unnamed = []
         for text in troubles:
             unnamed.append(text)
-            element = next((one for one in self._elements if one in text), None)
+            element = next((key for spelling, key in self._spellings if spelling in text), None)
             if element is not None:
                 self._blame(element, unnamed)
                 unnamed = []
-        if self._current_name is not None:
-            self._blame(self._current_name, unnamed)
+        about = self._scriptlet or self._current and self._current[0]
+        if about:
+            self._blame(packages.envra(about), unnamed)
 
     def _blame(self, element, texts):
         known = self.reasons.setdefault(element, [])
@@ -173,6 +184,6 @@ class Display(dnf.callback.TransactionProgress):
     def finish(self):
         """rpm is through."""
         self._finish_element()
-        self._current = self._current_name = None
+        self._current = self._scriptlet = None
         for fault in self.trouble:
             report.errorlog(3, "Internal error: transaction report: %s" % fault)

@@ -7,20 +7,21 @@ import os
 import dnf.rpm.transaction
 import dnf.sack
 
-from . import locks, packages, report, root, tsinfo
+from . import locks, report, root
+from .elements import ERASING, REPLACED
 
 MARKER = "/var/lib/vok/transaction.json"
 
 
-def write(items):
-    """Notes the elements of a transaction (items of DNF) before rpm begins. A system that takes no
-    marker takes no transaction either, so a failure is only logged."""
+def write(elements):
+    """Notes the elements of a transaction before rpm begins. A system that takes no marker takes no
+    transaction either, so a failure is only logged."""
     path = root.resolve(MARKER)
-    elements = [{"action": item.action, "package": packages.envra(item.pkg)} for item in items]
+    noted = [{"action": element.action, "package": element.envra} for element in elements]
     try:
         os.makedirs(os.path.dirname(path), mode=0o755, exist_ok=True)
         with open(path + ".new", "w", encoding="utf-8") as stream:
-            json.dump({"pid": os.getpid(), "elements": elements}, stream)
+            json.dump({"pid": os.getpid(), "elements": noted}, stream)
             stream.flush()
             os.fsync(stream.fileno())
         os.replace(path + ".new", path)
@@ -78,9 +79,9 @@ def _is_twin(old, new):
 
 
 def _lines(planned, installed):
-    installs = [package for package, action in planned if action not in tsinfo.ERASING]
+    installs = [package for package, action in planned if action not in ERASING]
     erases = {package: action for package, action in planned
-              if action in tsinfo.ERASING and package not in installs}
+              if action in ERASING and package not in installs}
     missing = [package for package in installs if package not in installed]
     left = [package for package in erases if package in installed]
     lines = ["The last transaction was interrupted."]
@@ -92,7 +93,7 @@ def _lines(planned, installed):
     twice = 0
     for package in left:
         twins = [new for new in installs if new in installed and _is_twin(package, new)
-                 and erases[package] in tsinfo.REPLACED]
+                 and erases[package] in REPLACED]
         twice += bool(twins)
         lines.append("Installed twice: %s beside %s." % (package, twins[0]) if twins
                      else "Not removed: %s" % package)

@@ -5,7 +5,8 @@ import dnf.goal
 
 from yum import Errors
 
-from . import errors, explain, packages, report, tsinfo
+from . import elements, errors, explain, packages, report
+from .elements import Action
 
 _MANY = 20  # packages named in a question; the rest is counted
 
@@ -55,8 +56,8 @@ class Resolver:
         base._allow_erasing = erasing
         base.resolve(allow_erasing=erasing)
 
-    def _items(self, actions):
-        return [item for item in self._base.transaction if item.action in actions]
+    def _elements(self):
+        return elements.of(self._base.transaction)
 
     def _way_out(self, error, erasing):
         """Looks for what can be done instead, and asks about it."""
@@ -84,15 +85,14 @@ class Resolver:
     def _offer_erasing(self, _):
         if not self._try(True, True):
             return None
-        lost = self._items((tsinfo.REMOVE,))
-        return ["It can be done by removing:"] + _listed(item.pkg for item in lost) + [
+        lost = [element.po.pkg for element in self._elements() if element.action == Action.REMOVE]
+        return ["It can be done by removing:"] + _listed(lost) + [
             "Do it that way?"] if lost else None
 
     def _offer_skipping(self, erasing):
         if not self._marks.wanted or not self._try(False, erasing):
             return None
-        there = {packages.envra(item.pkg) for item in tsinfo.elements(self._base.transaction)
-                 if item.action not in tsinfo.ERASING}
+        there = {element.envra for element in self._elements() if not element.erases}
         left_out = [pkg for pkg in self._marks.wanted if packages.envra(pkg) not in there]
         if not left_out or not len(self._base.transaction):
             return None
@@ -108,9 +108,10 @@ class Resolver:
         if goal.run(allow_uninstall=True):
             expected.update(map(packages.envra, goal.list_erasures()))
         # Of packages kept in several versions the oldest makes room for the new one.
-        names = {item.pkg.name for item in self._items(tsinfo.INSTALLING)}
-        lost = [item.pkg for item in self._items((tsinfo.REMOVE,))
-                if packages.envra(item.pkg) not in expected and item.pkg.name not in names]
+        found = self._elements()
+        names = {element.name for element in found if not element.erases}
+        lost = [element.po.pkg for element in found if element.action == Action.REMOVE
+                and element.envra not in expected and element.name not in names]
         if not lost:
             return True
         return report.confirm(["What is marked for installation cannot be there together with:"]
@@ -123,27 +124,22 @@ def _listed(pkgs):
     return ["  " + report.clean(name) for name in names[:_MANY]] + more
 
 
-def tell_additions(base, marks, collection):
+def tell_additions(found, marks, collection):
     """Tells which installs and updates the resolution added to the marks. True when there were any."""
     lines = []
-    for item in base.transaction:
-        if item.action not in tsinfo.INSTALLING and item.action != tsinfo.UPGRADE:
+    for element in found:
+        if element.erases or marks.holds(element.envra):
             continue
-        new = packages.envra(item.pkg)
-        if marks.holds(new):
+        new, action = element.envra, element.action
+        update = collection.key(element) in collection.updatable
+        if action not in (Action.UPGRADE, Action.INSTALL, Action.OBSOLETE) \
+                or not update and collection.is_installed(element):
+            report.log(2, "Also needed: %s %s" % (new, action.name.lower()))
             continue
-        update = collection.key(item.pkg) in collection.updatable
-        if item.action not in (tsinfo.UPGRADE, *tsinfo.INSTALLING[:2]) \
-                or not update and collection.is_installed(item.pkg):
-            report.log(2, "Also needed: %s %s" % (new, item.action_name.lower()))
-            continue
-        replaced = [old.pkg for old in base.transaction if old.action == tsinfo.OBSOLETED
-                    and collection.key(old.pkg) in collection.updatable
-                    and any(by.getRPMItem().getNEVRA() == item._item.getRPMItem().getNEVRA()
-                            for by in old._item.getReplacedBy())]
+        replaced = [old.envra for old in found if old.action == Action.OBSOLETED
+                    and collection.key(old) in collection.updatable and new in old.replaced_by]
         if replaced:
-            lines += ["Obsoleting %s with %s" % (packages.envra(old), new + " for dependencies")
-                      for old in replaced]
+            lines += ["Obsoleting %s with %s for dependencies" % (old, new) for old in replaced]
         else:
             lines.append("Marking %s as %s for dependencies"
                          % (new, "an update" if update else "install"))

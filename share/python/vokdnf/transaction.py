@@ -13,8 +13,8 @@ import rpm
 
 from yum import Errors
 
-from . import clean, display, errors, groups, interrupted, keys, locks, meters, packages, report
-from . import resolve, root, tsinfo
+from . import display, elements, errors, groups, interrupted, keys, locks, meters, packages, report
+from . import outcome, resolve, root
 from .base import full_cache
 
 _CLONE_FS = 0x200
@@ -57,14 +57,15 @@ class Transaction:
         if not resolve.Resolver(self._base, self._marks, grouped).resolve():
             return False
         errors.check_cancelled()
-        if resolve.tell_additions(self._base, self._marks, self._collection):
+        self._elements = elements.of(self._base.transaction)
+        if resolve.tell_additions(self._elements, self._marks, self._collection):
             report.yumIOC.dsRestartLoop()
             report.yumIOC.dsTsCheck()
         groups.record(self._base, self._noted)
         if not len(self._base.transaction) and not self._noted:
             report.log(0, "Nothing to do.")
             return False
-        self._fill_tsinfo(tsinfo.elements(self._base.transaction))
+        self._fill_tsinfo(self._elements)
         install = list(self._base.transaction.install_set)
         report.yumIOC.listTransaction(self._yumio)
         report.yumIOC.reportDownloadSize([packages.Package(pkg) for pkg in install
@@ -77,8 +78,8 @@ class Transaction:
         errors.check_cancelled()
         return True
 
-    def _fill_tsinfo(self, items):
-        self._yumio.tsInfo.fill(items, self._marks, lambda pkg: self._collection.key(pkg)
+    def _fill_tsinfo(self, chosen):
+        self._yumio.tsInfo.fill(chosen, self._marks, lambda element: self._collection.key(element)
                                 in self._collection.updatable)
 
     def _download(self, install):
@@ -110,14 +111,13 @@ class Transaction:
         base, session = self._base, self._session
         report.job_state("transaction", False)
         report.yumIOC.tsInitCallback(1)
-        items = tsinfo.elements(base.transaction)
-        shown = display.Display(items)
+        shown = display.Display(self._elements, self._yumio.getBiArch)
         base.args = ["vok"]  # what DNF's history shows as the command line
         if base.conf.installroot != "/":
             # rpm changes the root directory; this thread's alone, not that of the whole process.
             ctypes.CDLL(None).unshare(_CLONE_FS)
         before = {packages.envra(pkg) for pkg in base.sack.query().installed()}
-        interrupted.write(items)
+        interrupted.write(self._elements)
         base.history.log_scriptlet_output = HistoryOutput(base.history)
         failure = ""
         try:
@@ -133,21 +133,22 @@ class Transaction:
         shown.finish()
         interrupted.clear()
         try:
-            self._tell_outcome(items, shown, failure, before)
+            self._tell_outcome(shown, failure, before)
         except Exception as error:  # what was done stays done, whatever its report meets
             report.errorlog(0, "The report of the transaction failed: %s" % report.clean(error))
 
-    def _tell_outcome(self, items, shown, failure, before):
-        outcomes = Outcomes(items, interrupted.installed_packages(self._base), shown.reasons, failure)
-        self._fill_tsinfo([item for item in items if outcomes.of(item)[0] == "done"])
+    def _tell_outcome(self, shown, failure, before):
+        outcomes = outcome.Outcomes(self._elements, interrupted.installed_packages(self._base),
+                                    shown.reasons, failure)
+        self._fill_tsinfo([element for element in self._elements if outcomes.of(element)[0] == "done"])
         report.yumIOC.postTransactionOutput(self._yumio)
         rows = outcomes.rows() + outcomes.unasked(before)
         if report.offers("transactionReport"):
             report.yumIOC.transactionReport(rows)
             return
-        for name, outcome, reason in rows:
+        for name, result, reason in rows:
             if reason:
-                report.errorlog(0, "%s %s: %s" % (name, outcome, reason))
+                report.errorlog(0, "%s %s: %s" % (name, result, reason))
 
 
 def _check_writable():
@@ -180,70 +181,6 @@ class HistoryOutput:
             lines.append(b"(more output is not recorded)")
         self._record(b"\n".join(line if isinstance(line, bytes) else line.encode("utf-8", "replace")
                                 for line in lines))
-
-
-class Outcomes:
-    """What became of each element, by the rpm database as it is now: "done", "failed" or "skipped", and
-    why. An element that is done has a reason when a scriptlet of it failed."""
-
-    def __init__(self, items, installed, reasons, failure):
-        self._items = [item for item in items if item.action in tsinfo.ERASING
-                       or item.action == tsinfo.UPGRADE or item.action in tsinfo.INSTALLING]
-        self._new = {packages.envra(item.pkg) for item in self._items
-                     if item.action not in tsinfo.ERASING}
-        self._installed = installed
-        self._reasons = reasons
-        self._failure = failure
-
-    def of(self, item):
-        """(outcome, reason) of an item."""
-        key = packages.envra(item.pkg)
-        erasing = item.action in tsinfo.ERASING
-        # That rpm skipped an element is no reason of its own: it follows from another's failure.
-        reason = "; ".join(text for text in self._reasons.get(display.element_name(item), ())
-                           if not text.endswith(" skipped"))
-        if (key in self._installed) != erasing or key in self._new and erasing:
-            return "done", reason
-        if reason:
-            return "failed", reason + (_lack_of_room(item.pkg) if "write failed" in reason else "")
-        return "skipped", self._why_skipped(item)
-
-    def _why_skipped(self, item):
-        for by in item._item.getReplacedBy():
-            new = by.getRPMItem()
-            key = "%s:%s-%s-%s.%s" % (new.getEpoch(), new.getName(), new.getVersion(),
-                                      new.getRelease(), new.getArch())
-            if key in self._new and key not in self._installed:
-                return "%s was not installed" % key
-        return self._failure.strip() or "rpm left it out because another package failed"
-
-    def unasked(self, before):
-        """Rows of packages that were there `before` and went although the transaction does not hold
-        them: to rpm, an update of one architecture may replace the other."""
-        erased = {packages.envra(item.pkg) for item in self._items if item.action in tsinfo.ERASING}
-        return [(key, "done", "rpm removed it along with the others")
-                for key in sorted(before - self._installed - erased)]
-
-    def rows(self):
-        """[(epoch:name-version-release.arch, outcome, reason)], a reinstalled package once."""
-        return [(packages.envra(item.pkg), *self.of(item)) for item in self._items
-                if not (item.action in tsinfo.ERASING and packages.envra(item.pkg) in self._new)]
-
-
-def _lack_of_room(pkg):
-    """rpm often names another error than the full disk that it met; the end of the reason that says so,
-    "" when there is room."""
-    free = []
-    for path in ("/", "/usr", "/usr/share", "/var", "/opt"):
-        try:
-            status = os.statvfs(root.resolve(path))
-        except OSError:
-            continue
-        free.append(status.f_bavail * status.f_frsize)
-    if min(free, default=pkg.installsize) >= pkg.installsize:
-        return ""
-    return " (the package needs %s, and a file system has only %s left)" % (
-        clean.size_text(pkg.installsize), clean.size_text(min(free)))
 
 
 def forget(session):

@@ -1,27 +1,8 @@
 """What a resolved transaction holds, in the lists that the program shows and weighs."""
 
-from libdnf import transaction as kinds
-
-from . import packages, report
+from .elements import Action
 
 NAMES = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
-UPGRADE = kinds.TransactionItemAction_UPGRADE
-INSTALLING = (kinds.TransactionItemAction_INSTALL, kinds.TransactionItemAction_OBSOLETE,
-              kinds.TransactionItemAction_DOWNGRADE, kinds.TransactionItemAction_REINSTALL)
-REMOVE = kinds.TransactionItemAction_REMOVE
-OBSOLETED = kinds.TransactionItemAction_OBSOLETED
-# The erased side of an installation, which has no line of its own.
-REPLACED = (kinds.TransactionItemAction_UPGRADED, kinds.TransactionItemAction_DOWNGRADED,
-            kinds.TransactionItemAction_REINSTALLED)
-# The element that stands for one step of rpm; DNF lists a reinstallation twice.
-ERASING = (REMOVE, OBSOLETED) + REPLACED
-
-
-def elements(transaction):
-    """The items of a transaction of DNF that stand for a package: a removal also changes the reasons of
-    what it leaves without a need, in items that have none."""
-    return [item for item in transaction
-            if item.action != kinds.TransactionItemAction_REASON_CHANGE]
 
 
 class Member:
@@ -50,37 +31,30 @@ class TsInfo:
         """The lists as a tuple, in the order of NAMES."""
         return tuple(getattr(self, name) for name in NAMES)
 
-    def fill(self, items, marks, has_row):
-        """Sorts transaction items of DNF into the lists. `marks` has `installs`, `updates` and
-        `removes`, sets of what the user marked (epoch:name-version-release.arch); `has_row` tells of a
-        DNF package whether an update row stands for it."""
+    def fill(self, elements, marks, has_row):
+        """Sorts elements into the lists. `marks` has `installs`, `updates` and `removes`, sets of what
+        the user marked (epoch:name-version-release.arch); `has_row` tells of an element whether an
+        update row stands for it."""
         for name in NAMES:
             getattr(self, name).clear()
-        for item in items:
-            name = _list_of(item, marks, has_row)
+        tuples = {element.envra: element.po.pkgtup for element in elements if not element.erases}
+        for element in elements:
+            name = _list_of(element, marks, has_row)
             if name:
-                relations = [(_tuple_of(new), "obsoletedby") for new in item._item.getReplacedBy()] \
-                    if item.action == OBSOLETED else ()
-                getattr(self, name).append(Member(packages.Package(item.pkg), relations))
+                relations = [(tuples[key], "obsoletedby") for key in element.replaced_by if key in tuples]
+                getattr(self, name).append(Member(element.po, relations))
 
 
-def _tuple_of(item):
-    """The package tuple of an item of DNF's history."""
-    rpm = item.getRPMItem()
-    return tuple(report.clean(part) for part in (rpm.getName(), rpm.getArch(), rpm.getEpoch(),
-                                                 rpm.getVersion(), rpm.getRelease()))
-
-
-def _list_of(item, marks, has_row):
-    action, key = item.action, packages.envra(item.pkg) if item.action not in REPLACED else None
-    if action == UPGRADE:
+def _list_of(element, marks, has_row):
+    action, key = element.action, element.envra
+    if action == Action.UPGRADE:
         return "updated" if key in marks.updates or key in marks.installs else "depupdated"
-    if action in INSTALLING:
+    if not element.erases:
         if key in marks.updates:
             return "updated"
         if key in marks.installs:
             return "installed"
-        return "depupdated" if has_row(item.pkg) and action == INSTALLING[0] else "depinstalled"
-    if action == REMOVE:
+        return "depupdated" if has_row(element) and action == Action.INSTALL else "depinstalled"
+    if action == Action.REMOVE:
         return "removed" if key in marks.removes else "depremoved"
-    return "obsoleted" if action == OBSOLETED else None
+    return "obsoleted" if action == Action.OBSOLETED else None

@@ -1,0 +1,62 @@
+"""What became of a transaction, element by element."""
+
+import os
+
+from . import clean, root
+
+
+class Outcomes:
+    """What became of each element, by the rpm database as it is now: "done", "failed" or "skipped", and
+    why. An element that is done has a reason when a scriptlet of it failed."""
+
+    def __init__(self, elements, installed, reasons, failure):
+        self._elements = elements
+        self._new = {element.envra for element in elements if not element.erases}
+        self._installed = installed
+        self._reasons = reasons
+        self._failure = failure
+
+    def of(self, element):
+        """(outcome, reason) of an element."""
+        key, erases = element.envra, element.erases
+        # That rpm skipped an element is no reason of its own: it follows from another's failure.
+        reason = "; ".join(text for text in self._reasons.get(key, ()) if not text.endswith(" skipped"))
+        if (key in self._installed) != erases or key in self._new and erases:
+            return "done", reason
+        if reason:
+            return "failed", reason + (_lack_of_room(element.po.pkg) if "write failed" in reason else "")
+        return "skipped", self._why_skipped(element)
+
+    def _why_skipped(self, element):
+        for key in element.replaced_by:
+            if key in self._new and key not in self._installed:
+                return "%s was not installed" % key
+        return self._failure.strip() or "rpm left it out because another package failed"
+
+    def unasked(self, before):
+        """Rows of packages that were there `before` and went although the transaction does not hold
+        them: to rpm, an update of one architecture may replace the other."""
+        erased = {element.envra for element in self._elements if element.erases}
+        return [(key, "done", "rpm removed it along with the others")
+                for key in sorted(before - self._installed - erased)]
+
+    def rows(self):
+        """[(epoch:name-version-release.arch, outcome, reason)], a reinstalled package once."""
+        return [(element.envra, *self.of(element)) for element in self._elements
+                if not (element.erases and element.envra in self._new)]
+
+
+def _lack_of_room(pkg):
+    """rpm often names another error than the full disk that it met; the end of the reason that says so,
+    "" when there is room."""
+    free = []
+    for path in ("/", "/usr", "/usr/share", "/var", "/opt"):
+        try:
+            status = os.statvfs(root.resolve(path))
+        except OSError:
+            continue
+        free.append(status.f_bavail * status.f_frsize)
+    if min(free, default=pkg.installsize) >= pkg.installsize:
+        return ""
+    return " (the package needs %s, and a file system has only %s left)" % (
+        clean.size_text(pkg.installsize), clean.size_text(min(free)))
