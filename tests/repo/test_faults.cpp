@@ -64,6 +64,12 @@ QStringList repoFiles(const ConfigRoot &root)
     return QDir(root.real(u"/etc/yum.repos.d"_s)).entryList({u"*.repo"_s}, QDir::Files);
 }
 
+bool holds(const ConfigRoot &root, const QHash<QString, QByteArray> &files)
+{
+    return std::all_of(files.keyBegin(), files.keyEnd(),
+                       [&](const QString &path) { return root.get(path) == files[path]; });
+}
+
 // What is wrong with the files of a write that was interrupted; empty when nothing is.
 QString broken(const ConfigRoot &root)
 {
@@ -144,11 +150,9 @@ int failToWrite(const QString &how)
         return 77;
 
     const auto unchanged = [&root] {
-        const auto files = oldFiles();
-        bool same = true;
-        for (auto file = files.cbegin(); file != files.cend(); ++file)
-            same = same && root.get(file.key()) == file.value() && !root.has(file.key() + suffix);
-        return same && repoFiles(root).size() == 3 && !root.has(root.repo(u"c"_s) + u".vok-new"_s);
+        const QStringList names = QDir(root.real(u"/etc/yum.repos.d"_s)).entryList(QDir::Files);
+        return holds(root, oldFiles()) && !root.has(root.mainFile() + suffix) &&
+               names.filter(u".vok-"_s).isEmpty() && repoFiles(root).size() == 3;
     };
     Answer answer(0);
     const bool written = root.io.write(nullptr);
@@ -167,8 +171,7 @@ int failToWrite(const QString &how)
         QFile::remove(root.real(filler));
     else
         umount2(directory, MNT_DETACH);
-    const bool again = root.io.write(nullptr) && broken(root).isEmpty() &&
-                       root.get(root.repo(u"c"_s)) == newFiles()[root.repo(u"c"_s)];
+    const bool again = root.io.write(nullptr) && broken(root).isEmpty() && holds(root, newFiles());
     umount2(directory, MNT_DETACH);
     return again ? 0 : 5;
 }
@@ -180,78 +183,52 @@ class TestFaults : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void killedAtAnySystemCall();
-    void fileSystems_data();
-    void fileSystems();
-    void unwritableDirectory();
-};
-
-void TestFaults::killedAtAnySystemCall()
-{
-    ConfigRoot root;
-    int stops = 0;
-    for (;; ++stops) {
-        putOld(root);
-        QVERIFY(edit(root.io));
-        const bool killed = writeAndKill(root.io, stops);
-        const QString fault = broken(root);
-        QVERIFY2(fault.isEmpty(), qPrintable(u"%1: %2"_s.arg(stops).arg(fault)));
-        if (!killed)
-            break;
-        if (stops % 5 != 0)
-            continue;
-        // What the killed one left behind is no hindrance.
-        Answer yes(0);
-        QVERIFY(edit(root.io) && root.io.write(nullptr));
-        const auto after = newFiles();
-        for (auto file = after.cbegin(); file != after.cend(); ++file)
-            QCOMPARE(root.get(file.key()), file.value());
-        for (const QString &name : QDir(root.real(u"/etc/yum.repos.d"_s)).entryList())
-            QVERIFY2(!name.endsWith(u".vok-new"_s), qPrintable(name));
+    void killedAtAnySystemCall()
+    {
+        ConfigRoot root;
+        int stops = 0;
+        for (;; ++stops) {
+            putOld(root);
+            QVERIFY(edit(root.io));
+            const bool killed = writeAndKill(root.io, stops);
+            const QString fault = broken(root);
+            QVERIFY2(fault.isEmpty(), qPrintable(u"%1: %2"_s.arg(stops).arg(fault)));
+            if (!killed)
+                break;
+            if (stops % 5 != 0)
+                continue;
+            // What the killed one left behind is no hindrance.
+            Answer yes(0);
+            QVERIFY(edit(root.io) && root.io.write(nullptr) && holds(root, newFiles()));
+            for (const QString &name : QDir(root.real(u"/etc/yum.repos.d"_s)).entryList())
+                QVERIFY2(!name.endsWith(u".vok-new"_s), qPrintable(name));
+        }
+        QVERIFY(stops > 100); // twice the calls that writing four files takes at least
+        QVERIFY(holds(root, newFiles()));
     }
-    QVERIFY(stops > 100); // twice the calls that writing four files takes at least
-    const auto after = newFiles();
-    for (auto file = after.cbegin(); file != after.cend(); ++file)
-        QCOMPARE(root.get(file.key()), file.value());
-}
 
-void TestFaults::fileSystems_data()
-{
-    QTest::addColumn<QString>("how");
-    QTest::newRow("full") << u"full"_s;
-    QTest::newRow("read-only") << u"readonly"_s;
-}
+    void fileSystems_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("full") << u"full"_s;
+        QTest::newRow("read-only") << u"readonly"_s;
+    }
 
-void TestFaults::fileSystems()
-{
-    QFETCH(QString, how);
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(u"unshare"_s,
-                  {u"--map-root-user"_s, u"--mount"_s, QCoreApplication::applicationFilePath(),
-                   u"--fail-to-write"_s, how});
-    QVERIFY(process.waitForFinished(60000));
-    const QByteArray output = process.readAll();
-    if (process.exitCode() == 77 || output.contains("unshare failed"))
-        QSKIP("no mount namespaces here");
-    QVERIFY2(process.exitCode() == 0, output + QByteArray::number(process.exitCode()));
-}
-
-void TestFaults::unwritableDirectory()
-{
-    if (geteuid() == 0)
-        QSKIP("root may write everywhere");
-    ConfigRoot root;
-    putOld(root);
-    QVERIFY(edit(root.io));
-    const QByteArray directory = root.real(u"/etc/yum.repos.d"_s).toLocal8Bit();
-    QCOMPARE(chmod(directory, 0555), 0);
-    Answer answer(0);
-    QVERIFY(!root.io.write(nullptr));
-    chmod(directory, 0755);
-    QVERIFY(answer.said.value(0).contains(u"errno = 13"_s));
-    QCOMPARE(root.get(root.repo(u"a"_s)), oldFiles()[root.repo(u"a"_s)]);
-}
+    void fileSystems()
+    {
+        QFETCH(QString, how);
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(u"unshare"_s,
+                      {u"--map-root-user"_s, u"--mount"_s, QCoreApplication::applicationFilePath(),
+                       u"--fail-to-write"_s, how});
+        QVERIFY(process.waitForFinished(60000));
+        const QByteArray output = process.readAll();
+        if (process.exitCode() == 77 || output.contains("unshare failed"))
+            QSKIP("no mount namespaces here");
+        QVERIFY2(process.exitCode() == 0, output + QByteArray::number(process.exitCode()));
+    }
+};
 
 int main(int argc, char **argv)
 {
