@@ -5,7 +5,8 @@ import re
 
 from . import report
 
-_PACKAGE = r"(\S+)"
+_MANY = 20  # packages named at once; the rest is counted
+_PACKAGE = r"(\S+)(?: from \S+)?"  # newer versions name the repository too
 _RULES = [(re.compile("^%s$" % pattern), text) for pattern, text in (
     (r"nothing provides (.+) needed by " + _PACKAGE,
      "{1} needs {0}, which no enabled repository offers."),
@@ -25,37 +26,46 @@ _RULES = [(re.compile("^%s$" % pattern), text) for pattern, text in (
     (r"package %s is not installable" % _PACKAGE, "{0} cannot be installed."),
     (r"package %s does not have a compatible architecture" % _PACKAGE,
      "{0} is for another kind of machine."),
-    (r"conflicting requests", "What was marked cannot be had all together."),
     (r"cannot install the best (?:update )?candidate.*",
      "The newest version cannot be installed."),
+    (r"The operation would result in removing the following protected packages: (.+)",
+     "The removal would take {0}, which is protected because this system needs it."),
+    (r"The operation would result in broken dependencies for the following protected packages: (.+)",
+     "The removal would leave {0}, which is protected because this system needs it, without what it "
+     "needs."),
 )]
-_EXCLUDED = re.compile(r"^package (\S+) is filtered out by exclude filtering$")
-_PROTECTED = "The operation would result in removing the following protected packages: "
+_EXCLUDED = re.compile("^package %s is filtered out by exclude filtering$" % _PACKAGE)
+_NO_REASON = "conflicting requests"  # it stands before the reasons, and alone where there are none
 
 
-def explain(problems, base):
-    """Lines for the user about the solver's `problems` (lists of its sentences)."""
-    lines = []
+def explain(problems, base, marks):
+    """Lines for the user about the solver's `problems` (lists of its sentences); `marks` are those that
+    it was given."""
+    lines = {}
     for problem in problems:
-        for sentence in problem:
-            for line in _sentence(report.clean(sentence).strip(), base):
-                if line not in lines:
-                    lines.append(line)
-    return lines
+        for sentence in map(str.strip, map(report.clean, problem)):
+            if sentence != _NO_REASON:
+                lines[_sentence(sentence, base)] = None
+    return list(lines) or ["What was marked cannot be had all together: %s."
+                           % ", ".join(names(marks.wanted + marks.unwanted))]
+
+
+def names(pkgs):
+    """The names of DNF's packages, sorted; of many the first and how many there are beside them."""
+    found = sorted(report.clean(pkg) for pkg in pkgs)
+    more = ["and %d more" % (len(found) - _MANY)] if len(found) > _MANY else []
+    return found[:_MANY] + more
 
 
 def _sentence(sentence, base):
-    if sentence.startswith(_PROTECTED):
-        return ["The removal would take %s, which is protected because this system needs it."
-                % sentence[len(_PROTECTED):]]
     excluded = _EXCLUDED.match(sentence)
     if excluded:
-        return ["%s is excluded%s." % (excluded.group(1), _excluder(excluded.group(1), base))]
+        return "%s is excluded%s." % (excluded.group(1), _excluder(excluded.group(1), base))
     for pattern, text in _RULES:
         found = pattern.match(sentence)
         if found:
-            return [text.format(*found.groups())]
-    return [sentence[:1].upper() + sentence[1:]]
+            return text.format(*found.groups())
+    return sentence[:1].upper() + sentence[1:]
 
 
 def _excluder(package, base):

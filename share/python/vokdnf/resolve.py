@@ -8,8 +8,6 @@ from yum import Errors
 from . import elements, errors, explain, packages, report
 from .elements import Action
 
-_MANY = 20  # packages named in a question; the rest is counted
-
 
 class Marks:
     """What the user marked. `wanted` and `unwanted` are DNF's objects; `installs`, `updates`, `removes`
@@ -62,7 +60,7 @@ class Resolver:
     def _way_out(self, error, erasing):
         """Looks for what can be done instead, and asks about it."""
         problems = self._base._goal.problem_rules()
-        lines = explain.explain(problems, self._base) or [report.clean(error)]
+        lines = explain.explain(problems, self._base, self._marks) if problems else [report.clean(error)]
         report.log(1, "The solver says:%s" % report.clean(error))
         errors.check_cancelled()
         offers = ([] if erasing else [self._offer_erasing]) + [self._offer_skipping]
@@ -119,9 +117,7 @@ class Resolver:
 
 
 def _listed(pkgs):
-    names = sorted(map(str, pkgs))
-    more = ["  and %d more" % (len(names) - _MANY)] if len(names) > _MANY else []
-    return ["  " + report.clean(name) for name in names[:_MANY]] + more
+    return ["  " + name for name in explain.names(pkgs)]
 
 
 def tell_additions(found, marks, collection):
