@@ -13,8 +13,8 @@ import rpm
 
 from yum import Errors
 
-from . import display, elements, errors, groups, interrupted, keys, locks, meters, packages, report
-from . import outcome, resolve, root
+from . import display, elements, errors, groups, interrupted, keys, language, locks, meters, outcome
+from . import packages, report, resolve, root
 from .base import full_cache
 
 _CLONE_FS = 0x200
@@ -40,12 +40,13 @@ class Transaction:
             raise Errors.YumBaseError("A transaction has run already; the packages must be read again.")
         _check_writable()
         try:
-            with errors.translated():
-                if not self._prepare():
-                    forget(self._session)
-                    return False
-            self._execute()
-            return True
+            with language.english():
+                with errors.translated():
+                    if not self._prepare():
+                        forget(self._session)
+                        return False
+                self._execute()
+                return True
         finally:
             report.job_state("done", False)
 
