@@ -10,7 +10,9 @@ import dnf.rpm.transaction
 
 from yum import Errors
 
-from . import errors, report, root
+from . import errors, library, report, root
+
+library.mend()
 
 
 class RepositoryKeyImport(dnf.callback.KeyImport):

@@ -24,7 +24,7 @@ class Outcomes:
         if (key in self._installed) != erases or key in self._new and erases:
             return "done", reason
         if reason:
-            return "failed", reason + (_lack_of_room(element.po.pkg) if "write failed" in reason else "")
+            return "failed", reason + (_lack_of_room(element.po.pkg) if "cpio: write" in reason else "")
         return "skipped", self._why_skipped(element)
 
     def _why_skipped(self, element):
