@@ -5,7 +5,7 @@ import re
 import unittest
 
 import httpserver
-from scriptdriver import Case, calls, mounted, run
+from scriptdriver import Case, calls, mounted, run, tool
 
 # Marks that cannot be resolved as they are; words of the explanation; the question, when there is a way
 # out; what comes and goes after a yes.
@@ -27,13 +27,15 @@ WAYS_OUT = {
                                  ("mail-alpha-1.0-1.noarch", "clock-1.0-1.x86_64"),
                                  ("mail-beta-1.0-1.noarch",)),
 }
+LONG = "fail-pretrans-under-a-name-that-is-too-long-for-lua"
 # Marks; what is reported of each element that is not simply done; what came and what went.
 HALF_WAY = {
     "%pre": ({"install": ["fail-pre", "abacus"]}, {"fail-pre": ("failed", "%prein")},
              {"abacus"}, set()),
     "%pre in Lua": ({"install": ["fail-lua"]}, {"fail-lua": ("failed", "on purpose")}, set(), set()),
-    "%pretrans": ({"install": ["fail-pretrans", "abacus"]},
-                  {"fail-pretrans": ("failed", "%pretrans")}, {"abacus"}, set()),
+    "%pretrans beside an epoch and a name that is cut": (
+        {"install": ["fail-pretrans", LONG, "abacus"]},
+        {"fail-pretrans": ("failed", "%pretrans"), LONG: ("failed", "%pretrans")}, {"abacus"}, set()),
     "%pre of an update": ({"update": ["fail-update"]}, {"fail-update": ("failed", "%prein"),
                           "fail-update old": ("skipped", "was not installed")}, set(), set()),
     "%post": ({"install": ["fail-post"]}, {"fail-post": ("done", "%post")}, {"fail-post"}, set()),
@@ -71,8 +73,21 @@ class Failures(Case):
                 self.assertEqual(error[0], "YumBaseError")
                 for word in words:
                     self.assertIn(word, error[1])
+                self.assertNotIn("What was marked", error[1])  # it has a reason
         self.assertEqual(calls(result, "userconfirm"), [])
         self.assertEqual(self.packages(root), before)
+
+    def test_no_reason(self):
+        """Where the solver knows none, the marks are named: here more kernels than may be kept."""
+        root = self.root()
+        main = pathlib.Path(root, "etc/yum.conf")
+        main.write_text(main.read_text().replace("installonly_limit=3", "installonly_limit=2"))
+        tool(root, "rpm", "-e", "kernel-6.1.0-1", "kernel-6.1.0-5")
+        kernels = "io._session.sack.query().available().filter(name='kernel')"
+        code = "io.apply([type(program.all.available[0])(one) for one in %s], [], [])" % kernels
+        result = run(root, {"confirm": [0], "steps": [{"do": "collect"}, {"do": "eval", "code": code}]})
+        self.assertIn([0, "  What was marked cannot be had all together: %s." % ", ".join(
+            "kernel-6.1.0-%d.x86_64" % release for release in (1, 5, 9))], calls(result, "log"))
 
     def test_ways_out(self):
         for name, (marks, question, gone, came) in WAYS_OUT.items():

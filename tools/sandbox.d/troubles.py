@@ -43,8 +43,10 @@ def failing(table):
               scripts={"preun": 'echo "fail-preun gives up"; exit 7'})
     table.add("fail-lua", extras="1.0-1", summary="Its %pre, in Lua, fails",
               scripts={f"pre {LUA}": 'print("fail-lua gives up") error("on purpose")'})
-    table.add("fail-pretrans", extras="1.0-1", summary="Its %pretrans fails",
-              scripts={f"pretrans {LUA}": 'error("on purpose")'})
+    for name, version in (("fail-pretrans", "1:1.0-1"),
+                          ("fail-pretrans-under-a-name-that-is-too-long-for-lua", "1.0-1")):
+        table.add(name, extras=version, summary="Its %pretrans fails",
+                  scripts={f"pretrans {LUA}": 'error("on purpose")'})
     table.add("fail-update", base="1.0-1*", summary="The %pre of its update fails")
     table.add("fail-update", updates="2.0-1", requires=("/bin/sh",),
               summary="The %pre of its update fails",

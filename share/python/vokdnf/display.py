@@ -85,8 +85,8 @@ class Display(dnf.callback.TransactionProgress):
     @_contained
     def progress(self, package, action, ti_done, ti_total, ts_done, ts_total):
         self.begun = True
-        if action == dnf.transaction.PKG_SCRIPTLET:
-            self._scriptlet = package if hasattr(package, "pkgtup") else None
+        self._scriptlet = package if action == dnf.transaction.PKG_SCRIPTLET \
+            and hasattr(package, "pkgtup") else None
         if self._tell(package, action, int(ti_done or 0), int(ti_total or 0), int(ts_done or 0),
                       int(ts_total or 0)):
             self._told = True
@@ -134,12 +134,9 @@ class Display(dnf.callback.TransactionProgress):
 
     @_contained
     def scriptout(self, msgs):
-        """Output of scriptlets and of rpm itself; DNF calls it, with nothing too, when one has ended."""
-        if msgs:
-            self._scriptout(msgs)
-        self._scriptlet = None
-
-    def _scriptout(self, msgs):
+        """Output of scriptlets and of rpm itself."""
+        if not msgs:
+            return
         text = report.clean(msgs)
         if not _TROUBLE.search(text) and "\nerror: " not in text and "\nwarning: " not in text:
             report.write_out(text)
@@ -164,6 +161,7 @@ class Display(dnf.callback.TransactionProgress):
             if element is not None:
                 self._blame(element, unnamed)
                 unnamed = []
+        # Of a scriptlet in Lua rpm tells a name that is cut, and no more.
         about = self._scriptlet or self._current and self._current[0]
         if about:
             self._blame(packages.envra(about), unnamed)

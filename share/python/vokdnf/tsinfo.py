@@ -1,6 +1,6 @@
 """What a resolved transaction holds, in the lists that the program shows and weighs."""
 
-from .elements import Action
+from .elements import REPLACED, Action
 
 NAMES = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
 
@@ -8,16 +8,18 @@ NAMES = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinsta
 class Member:
     """One package of a transaction. Texts: `repoid`, `epoch`, `ver`, `rel`; `pkgtup` is (name, arch,
     epoch, version, release); `po` the package object; `relatedto` pairs of such a tuple and a relation,
-    of which "obsoletedby" is used."""
+    of which "obsoletedby" is used; `replaces` the versions ([epoch:]version-release) of the same name
+    that go when this one comes: of a package kept in several versions none."""
 
-    __slots__ = ("pkgtup", "repoid", "po", "epoch", "ver", "rel", "relatedto")
+    __slots__ = ("pkgtup", "repoid", "po", "epoch", "ver", "rel", "relatedto", "replaces")
 
-    def __init__(self, po, relatedto=()):
+    def __init__(self, po, relatedto, replaces):
         self.po = po
         self.pkgtup = po.pkgtup
         self.repoid = po.repoid
         self.epoch, self.ver, self.rel = self.pkgtup[2:]
-        self.relatedto = list(relatedto)
+        self.relatedto = relatedto
+        self.replaces = replaces
 
 
 class TsInfo:
@@ -38,11 +40,16 @@ class TsInfo:
         for name in NAMES:
             getattr(self, name).clear()
         tuples = {element.envra: element.po.pkgtup for element in elements if not element.erases}
+        replaces = {}
+        for element in elements:
+            if element.action in REPLACED:
+                for key in element.replaced_by:
+                    replaces.setdefault(key, []).append(element.po.printVer())
         for element in elements:
             name = _list_of(element, marks, has_row)
             if name:
                 relations = [(tuples[key], "obsoletedby") for key in element.replaced_by if key in tuples]
-                getattr(self, name).append(Member(element.po, relations))
+                getattr(self, name).append(Member(element.po, relations, replaces.get(element.envra, [])))
 
 
 def _list_of(element, marks, has_row):
