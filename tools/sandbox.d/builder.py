@@ -206,11 +206,12 @@ class Workshop:
         spec = place / "package.spec"
         spec.write_text(model.spec(package, lines), encoding=package.encoding)
         output = place / "rpms"
-        target = [] if package.arch == "noarch" else ["--target", package.arch]
-        run(["rpmbuild", "-bb", "--quiet", *target, "--buildroot", str(content),
-             "--define", f"_topdir {place}",
-             "--define", f"_rpmdir {output}", "--define", "_build_name_fmt %%{NAME}-%%{VERSION}-"
-             "%%{RELEASE}.%%{ARCH}.rpm", str(spec)], env=self.environment, cwd=place)
+        target = ["--target", package.arch] if package.arch not in ("noarch", "src") else []
+        run(["rpmbuild", "-bs" if package.arch == "src" else "-bb", "--quiet", *target,
+             "--buildroot", str(content), "--define", f"_topdir {place}",
+             "--define", f"_rpmdir {output}", "--define", f"_srcrpmdir {output}",
+             "--define", "_build_name_fmt %%{NAME}-%%{VERSION}-%%{RELEASE}.%%{ARCH}.rpm", str(spec)],
+            env=self.environment, cwd=place)
         return output
 
     def sign(self, table, places, pool):

@@ -19,7 +19,8 @@ class Package:
     its options, such as "post" or "pre -p <lua>", to its body; `triggers` is a list of (section
     with its condition, body). `key` names the signing key: "aster", "foundry", "none" for an
     unsigned package, "damaged" for one whose payload is altered after it was signed. `installed`
-    says that a new root has this version.
+    says that a new root has this version. `arch` "src" makes a source package, in a repository of
+    binary ones.
     """
 
     name: str
@@ -49,6 +50,7 @@ class Package:
     side_by_side: bool = False
     encoding: str = "utf-8"
     key: str = "aster"
+    vendor: str = ""
     installed: bool = False
 
     @property
@@ -132,9 +134,9 @@ def header(package):
             ("Release", package.release), ("Summary", package.summary or article),
             ("Group", package.group), ("License", package.license),
             ("URL", package.url or f"https://aster.example/{package.name}/"),
-            ("Vendor", VENDOR if package.key != "foundry" else "Foundry Ltd."),
+            ("Vendor", package.vendor or (VENDOR if package.key != "foundry" else "Foundry Ltd.")),
             ("Packager", PACKAGER), ("AutoReqProv", "no")]
-    if package.arch == "noarch":
+    if package.arch in ("noarch", "src"):
         tags.append(("BuildArch", "noarch"))
     for tag, values in (("Requires", package.requires), ("Recommends", package.recommends),
                         ("Provides", package.provides), ("Obsoletes", package.obsoletes),

@@ -145,6 +145,22 @@ def relations(table):
               recommends=("chess",), summary="Has a rich dependency and a weak one")
 
 
+def origins(table):
+    """Packages of several vendors, sources among the packages, members of a group that exclude one
+    another."""
+    table.add("easel", base="1.0-1*", updates="1.1-1", summary="A rival offers a newer version of it")
+    table.add("easel", extras="2.0-1", vendor="Rival Ltd.",
+              summary="A rival offers a newer version of it")
+    table.add("palette", base="1.0-1*", summary="Only a rival offers an update of it")
+    table.add("palette", updates="2.0-1", vendor="Rival Ltd.",
+              summary="Only a rival offers an update of it")
+    table.add("typewriter", extras="1.3-1", arch="src", summary="A plain editor")
+    table.add("quarry", extras="1.0-1", arch="src", summary="Offered as source only")
+    table.add("quill", base="1.0-1", summary="Replaced by another package of its group")
+    table.add("fountain-pen", extras="1.0-1", obsoletes=("quill < 2",), provides=("quill = 2",),
+              summary="Replaces another package of its group")
+
+
 def suites(table):
     """Packages whose group makes them suites."""
     table.add("office-suite", base="1.0-1*", updates="2.0-1", group="Suite",
@@ -180,7 +196,7 @@ def table():
     """All packages of the sandbox."""
     import troubles
     result = Table()
-    for part in (system, tools, architectures, relations, suites, texts_and_sizes):
+    for part in (system, tools, architectures, relations, origins, suites, texts_and_sizes):
         part(result)
     troubles.fill(result)
     return result.packages
