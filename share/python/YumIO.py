@@ -73,7 +73,7 @@ class YumIO:
     def _collected(self):
         if self._collection is None:
             with errors.translated():
-                self._collection = collection.Collection(self._session.sack, self._architectures)
+                self._collection = collection.Collection(self._session.base, self._architectures)
                 self._collection.report_replacements()
         return self._collection
 

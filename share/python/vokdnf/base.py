@@ -5,6 +5,7 @@ import weakref
 
 import dnf
 import dnf.exceptions
+import hawkey
 import rpm
 
 from yum import Errors
@@ -13,6 +14,7 @@ from . import certificates, config, database, errors, keys, locks, meters, repor
 
 # rpm on some distributions keeps its database in the user's home unless told otherwise.
 _DATABASE = "/var/lib/rpm"
+_SOURCES = ["src", "nosrc"]
 
 
 class Base(dnf.Base):
@@ -31,6 +33,22 @@ class Base(dnf.Base):
         super()._add_repo_to_sack(repo)
         self._reading += 1
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
+
+    def fill_sack(self, load_system_repo=True, load_available_repos=True):
+        """DNF's own. What is installed is then there for every query and for the solver, whatever the
+        configuration and plugins exclude: excludes rule what can be installed. Source packages are for
+        none of them."""
+        sack = super().fill_sack(load_system_repo, load_available_repos)
+        everything = sack.query(flags=hawkey.IGNORE_EXCLUDES)
+        installed = everything.installed().apply()
+        if installed:
+            sack.remove_excludes(installed)
+            sack.remove_module_excludes(installed)
+            sack.set_use_includes(False, hawkey.SYSTEM_REPO_NAME)
+        sources = everything.filter(arch=_SOURCES)
+        if sources:
+            sack.add_excludes(sources)
+        return sack
 
 
 def load(dnf_base):

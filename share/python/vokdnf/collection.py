@@ -2,7 +2,9 @@
 
 import functools
 
+import dnf.goal
 import dnf.rpm
+import dnf.selector
 
 from . import packages, report
 
@@ -46,11 +48,12 @@ class Collection:
     """The packages of a filled sack as rows want them: lists of DNF's objects. `updatable` is the set of
     (name, family) that have an update."""
 
-    def __init__(self, sack, architectures):
-        self._sack = sack
+    def __init__(self, base, architectures):
+        self._base = base
+        self._sack = base.sack
         self._architectures = architectures
-        self._installed = self._families(sack.query().installed())
-        self._updates = self._newest(sack.query().available().upgrades(), self._installed)
+        self._installed = self._families(self._sack.query().installed())
+        self._updates = self._choose_updates()
         self.updatable = {self.key(pkg) for pkg in self._updates}
 
     def key(self, pkg):
@@ -74,12 +77,46 @@ class Collection:
                 versions.sort(key=order)
         return found
 
-    def _newest(self, query, keys):
-        query.filterm(latest_per_arch_by_priority=True)
-        return [packages[0] for key, packages in self._families(query).items() if key in keys]
+    def _choose_updates(self):
+        """What DNF's own upgrade would take, were all dependencies met: of the versions that are not older
+        than the installed one, first those that the vendor rules allow, of these those of the repository
+        with the best priority, of these the newest."""
+        query = self._sack.query().available().upgrades().apply()
+        newer = set(query)
+        one_vendor = not self._base.conf.allow_vendor_change
+        by_priority = len({repo.priority for repo in self._base.repos.iter_enabled()}) > 1
+        if one_vendor or by_priority:
+            # The installed version in a better repository keeps newer ones of others away.
+            query = self._sack.query().available().filterm(name=list({pkg.name for pkg in newer}))
+        found = {key: versions for key, versions in self._families(query).items()
+                 if key in self._installed}
+        if one_vendor:
+            self._leave_vendor(found)
+        updates = []
+        for key, versions in found.items():
+            if by_priority:
+                now = self._installed[key][0]
+                versions = [pkg for pkg in versions if not pkg.evr_lt(now)]
+                best = min((pkg.repo.priority for pkg in versions), default=None)
+                versions = [pkg for pkg in versions if pkg.repo.priority == best]
+            updates += [pkg for pkg in versions[:1] if pkg in newer]
+        return updates
+
+    def _leave_vendor(self, found):
+        """Takes the packages away whose vendor may not take the place of the installed one's."""
+        others = [pkg for key, versions in found.items() for pkg in versions
+                  if _vendor(pkg) != _vendor(self._installed[key][0])]
+        goal, selector = dnf.goal.Goal(self._sack), dnf.selector.Selector(self._sack)
+        selector.set(pkg=others)
+        goal.upgrade(select=selector)
+        # Policies may let vendors take each other's place: the solver knows.
+        allowed = {*goal.list_upgrades(), *goal.list_installs()} if others and goal.run() else set()
+        forbidden = set(others) - allowed
+        for key, versions in found.items():
+            found[key] = [pkg for pkg in versions if pkg not in forbidden]
 
     def updates(self):
-        """The newest update for every name and family that is installed. A package that only replaces
+        """The update for every name and family that is installed and has one. A package that only replaces
         another name is no update, nor is one for a family that is not installed."""
         return self._updates
 
@@ -89,7 +126,7 @@ class Collection:
     def available(self):
         """The newest version of everything that is not installed at all."""
         query = self._sack.query().available().filterm(latest_per_arch_by_priority=True)
-        return [packages[0] for key, packages in self._families(query).items()
+        return [versions[0] for key, versions in self._families(query).items()
                 if key not in self._installed]
 
     def report_replacements(self):
@@ -105,6 +142,10 @@ class Collection:
                    if one.name != pkg.name and itself.filter(obsoletes=[one])]
             if old:
                 report.log(2, "%s replaces the installed %s" % (pkg, ", ".join(old)))
+
+
+def _vendor(pkg):
+    return packages.Package(pkg).returnSimple("vendor")
 
 
 def row(po, state, family):
