@@ -3,11 +3,15 @@
 #include "invoker.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <fcntl.h>
+#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -105,4 +109,72 @@ void Execute::execute(QWidget *parent, char **argv)
     int status;
     while (waitpid(child, &status, 0) == -1 && errno == EINTR) {
     }
+}
+
+namespace {
+
+constexpr int askMs = 5000;
+constexpr qsizetype askBytes = 4096;
+
+// Reads until the last writer is gone; false when that takes too long.
+bool readAll(int descriptor, QByteArray &text)
+{
+    QElapsedTimer clock;
+    clock.start();
+    for (;;) {
+        pollfd ready = {descriptor, POLLIN, 0};
+        const int left = askMs - int(clock.elapsed());
+        const int polled = left > 0 ? poll(&ready, 1, left) : 0;
+        if (polled == -1 && errno == EINTR)
+            continue;
+        if (polled <= 0)
+            return false;
+        char buffer[1024];
+        const ssize_t size = read(descriptor, buffer, sizeof buffer);
+        if (size <= 0)
+            return size == 0;
+        text.append(buffer, std::min<qsizetype>(size, askBytes - text.size()));
+    }
+}
+
+} // namespace
+
+bool Execute::ask(char **argv, QString &said)
+{
+    const Invoker invoker;
+    int ends[2];
+    const auto failed = [&said](const char *call) {
+        const int error = errno;
+        said = ExecuteTexts::tr("%1() failed; errno = %2 (%3)")
+                   .arg(QLatin1String(call))
+                   .arg(error)
+                   .arg(QString::fromLocal8Bit(strerror(error)));
+        return false;
+    };
+    if (pipe2(ends, O_CLOEXEC) == -1)
+        return failed("pipe");
+    const pid_t child = fork();
+    if (child == -1) {
+        close(ends[0]);
+        close(ends[1]);
+        return failed("fork");
+    }
+    if (child == 0) {
+        dup2(ends[1], STDOUT_FILENO);
+        dup2(ends[1], STDERR_FILENO);
+        run(argv, invoker);
+    }
+    close(ends[1]);
+    QByteArray text;
+    const bool ended = readAll(ends[0], text);
+    close(ends[0]);
+    if (!ended)
+        kill(child, SIGKILL);
+    int status = 0;
+    pid_t waited;
+    while ((waited = waitpid(child, &status, 0)) == -1 && errno == EINTR) {
+    }
+    said = ended ? QString::fromLocal8Bit(text).trimmed()
+                 : ExecuteTexts::tr("%1 does not answer.").arg(QString::fromLocal8Bit(argv[0]));
+    return ended && waited == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }

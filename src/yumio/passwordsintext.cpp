@@ -17,35 +17,57 @@ QRegularExpression kivvetCredentials()
     return QRegularExpression(pattern);
 }
 
-void maskCaptures(QString &text, const QRegularExpression &expression)
+const QRegularExpression &userInfo()
 {
+    static const QRegularExpression expression(QStringLiteral("://[^/\\s:@]*(:)([^/\\s]*)@"));
+    return expression;
+}
+
+enum class Passwords { Masked, Removed };
+
+// Treats the last capture of every match, which is a password; a colon captured before it goes with
+// it.
+QString treated(const QString &text, const QRegularExpression &expression, Passwords what)
+{
+    QString result;
+    qsizetype from = 0;
     auto matches = expression.globalMatch(text);
-    QString masked = text;
     while (matches.hasNext()) {
         const auto match = matches.next();
-        for (int i = 1; i <= match.lastCapturedIndex(); ++i) {
-            const auto length = match.capturedLength(i);
-            if (length > 0)
-                masked.replace(match.capturedStart(i), length, QString(length, QLatin1Char('*')));
-        }
+        const int last = match.lastCapturedIndex();
+        const qsizetype start = match.capturedStart(last), length = match.capturedLength(last);
+        const bool hasColon = match.captured(1) == QLatin1String(":");
+        const qsizetype kept = start - (what == Passwords::Removed && hasColon);
+        result.append(QStringView(text).mid(from, kept - from));
+        if (what == Passwords::Masked)
+            result.append(QString(length, u'*'));
+        from = start + length;
     }
-    text = masked;
+    return result.append(QStringView(text).mid(from));
+}
+
+QString treated(const QString &text, Passwords what)
+{
+    static const QRegularExpression kivvet = kivvetCredentials();
+    // Most texts hold no URL; an output of many megabytes must not pay for the few that do.
+    if (!text.contains(u'/'))
+        return text;
+    QString result = text;
+    if (result.contains(QLatin1String("/kivvet?")) || result.contains(QLatin1String("/rhel/")))
+        result = treated(result, kivvet, what);
+    if (result.contains(QLatin1String("://")))
+        result = treated(result, userInfo(), what);
+    return result;
 }
 
 } // namespace
 
 QString maskPasswords(const QString &text)
 {
-    static const QRegularExpression kivvet = kivvetCredentials();
-    static const QRegularExpression userInfo(QStringLiteral("://[^/\\s:@]*:([^/\\s]*)@"));
+    return treated(text, Passwords::Masked);
+}
 
-    // Most texts hold no URL; an output of many megabytes must not pay for the few that do.
-    if (!text.contains(QLatin1Char('/')))
-        return text;
-    QString masked = text;
-    if (masked.contains(QLatin1String("/kivvet?")) || masked.contains(QLatin1String("/rhel/")))
-        maskCaptures(masked, kivvet);
-    if (masked.contains(QLatin1String("://")))
-        maskCaptures(masked, userInfo);
-    return masked;
+QString withoutPasswords(const QString &text)
+{
+    return treated(text, Passwords::Removed);
 }

@@ -5,3 +5,6 @@
 // The text with every password in a URL of it replaced by the same number of asterisks: credentials
 // that Repo::Kivvet recognises, and the "user:password@" of any URL. Any thread.
 QString maskPasswords(const QString &text);
+
+// The text with those passwords taken out; of "user:password@" the user stays.
+QString withoutPasswords(const QString &text);
