@@ -280,8 +280,8 @@ void MainWindow::connectMainArea()
     connect(m_regexpEdit, &QLineEdit::returnPressed, this, &MainWindow::filtersearch);
     connect(m_filterSearchButton, &QPushButton::clicked, this, &MainWindow::filtersearch);
     connect(m_stateCombo, &QComboBox::currentIndexChanged, this, &MainWindow::stateFilterChanged);
-    connect(m_dupsCheck, &QCheckBox::stateChanged, this, &MainWindow::dupsFilterChanged);
-    connect(m_groupsCheck, &QCheckBox::stateChanged, this, &MainWindow::groupsFilterChanged);
+    connect(m_dupsCheck, &QCheckBox::toggled, this, &MainWindow::dupsFilterChanged);
+    connect(m_groupsCheck, &QCheckBox::toggled, this, &MainWindow::groupsFilterChanged);
     connect(m_yumIO, &YumIO::collectedExtraData, this, &MainWindow::collectedExtraData);
     connect(m_yumIO, qOverload<const QString &, bool>(&YumIO::jobState), this,
             &MainWindow::jobState);

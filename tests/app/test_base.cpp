@@ -138,7 +138,8 @@ private:
         close(standardError);
         close(ends[1]);
         QFile reader;
-        reader.open(ends[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+        if (!reader.open(ends[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+            return QByteArray();
         return reader.readAll(); // ends when the launched process does
     }
 
