@@ -293,3 +293,11 @@ void MainWindow::connectMainArea()
     connect(m_clearActionsButton, &QPushButton::clicked, this, &MainWindow::clearActions);
     connect(m_applyButton, &QPushButton::clicked, this, &MainWindow::apply);
 }
+
+// Reserves the warning's room, so that the buttons stay where they are when it appears.
+void MainWindow::warnConfigure()
+{
+    m_unlistedLabel->setText(tr("Unlisted Actions"));
+    m_unlistedLabel->setFixedSize(m_unlistedLabel->sizeHint());
+    m_unlistedLabel->clear();
+}

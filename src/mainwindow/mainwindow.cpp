@@ -7,7 +7,6 @@
 #include "packagetable/sortfilterproxymodel.h"
 #include "packagetable/view.h"
 #include "repo/yumconfio.h"
-#include "widgets/hframelabel.h"
 #include "widgets/hmenu.h"
 #include "yumio/yumio.h"
 
@@ -20,8 +19,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
-
-#include <optional>
 
 MainWindow::MainWindow() : m_yumIO(new YumIO)
 {
@@ -103,17 +100,16 @@ void MainWindow::initialize()
     checkCredentials();
     if (m_quitAsked)
         return;
+    m_proxy->setFilterRegExp(m_regexpEdit->text());
     collect();
     if (m_quitAsked)
         return;
     showMainArea();
     m_view->resizeColumnsToContents();
-    prepareFilterSearch();
-    m_proxy->setFilterRegExp(m_regexpEdit->text());
     anyFilterChanged();
     m_initialized = true;
     if (m_startInEditor)
-        tell(tr("The repository editor is not available yet."));
+        note(tr("The repository editor is not available yet."));
 }
 
 // What a repository still needs to be told before it can be used is asked for here.
@@ -131,22 +127,18 @@ void MainWindow::showMainArea()
 
 void MainWindow::collect()
 {
-    // A search needs data that the collection has not loaded yet.
-    const bool searches = searchesExtraData();
-    if (searches)
-        m_proxy->setFilter(false);
     const bool collected = m_yumIO->collect(m_reposUsed);
+    if (!collected)
+        note(m_yumIO->count() > 0
+                 ? tr("The packages were not collected again; the table is as before.")
+                 : tr("The packages were not collected. Refresh tries again."));
+
+    // A search that is installed has data to wait for, which the collection has not loaded.
+    const bool waits = collected && lacksExtraData(m_proxy->query());
+    m_proxy->setWaiting(waits);
     m_model->reset();
-    if (searches && !m_quitAsked) {
-        prepareFilterSearch();
-        m_proxy->setFilter(true);
-    }
-    if (collected)
-        tell(QString());
-    else if (m_yumIO->count() > 0)
-        tell(tr("The packages were not collected again; the table is as before."));
-    else
-        tell(tr("The packages were not collected. Refresh tries again."));
+    if (waits && loadExtraData(m_proxy->query()))
+        m_proxy->setWaiting(false);
 }
 
 void MainWindow::recollect()
@@ -341,135 +333,4 @@ void MainWindow::about()
                 .arg(QStringLiteral(VOK_VERSION)) +
             tr("<p>For more information see the documentation in /usr/share/doc/vok-%1.</p>")
                 .arg(QStringLiteral(VOK_VERSION)));
-}
-
-bool MainWindow::isSearchMode() const
-{
-    return m_modeCombo->currentIndex() == int(PackageTable::Mode::Search);
-}
-
-bool MainWindow::searchesExtraData() const
-{
-    const QString text = m_regexpEdit->text();
-    return isSearchMode() && !text.isEmpty() && text != QStringLiteral(".*");
-}
-
-// A search asks the engine for every package, which takes its time; a filter does not.
-void MainWindow::changeFilter(const std::function<void()> &change)
-{
-    if (m_busy && isSearchMode())
-        return;
-    {
-        std::optional<Job> job;
-        if (isSearchMode())
-            job.emplace(this);
-        change();
-    }
-    anyFilterChanged();
-}
-
-void MainWindow::filtersearch()
-{
-    changeFilter([this] {
-        prepareFilterSearch();
-        m_proxy->setFilterRegExp(m_regexpEdit->text());
-    });
-}
-
-// File lists and the other data are read once, with the filter off, so that nothing asks for them
-// before they are there.
-void MainWindow::prepareFilterSearch()
-{
-    if (!m_engineReady || !searchesExtraData() ||
-        (m_yumIO->hasFileLists() && m_yumIO->hasOtherData()))
-        return;
-    m_proxy->setFilter(false);
-    m_yumIO->collectFileLists();
-    if (!m_quitAsked)
-        m_yumIO->collectOtherData();
-    m_proxy->setFilter(true);
-}
-
-void MainWindow::showMode()
-{
-    if (isSearchMode()) {
-        m_filterSearchButton->setText(tr("Search"));
-        m_regexpEdit->setToolTip(tr("Regular expression to compare to all fields of a package"));
-        m_filterSearchButton->setToolTip(
-            tr("Perform the search for the regular expression specified to the left"));
-    } else {
-        m_filterSearchButton->setText(tr("Filter"));
-        m_regexpEdit->setToolTip(
-            tr("Regular expression filter matching textual fields visible in the table"));
-        m_filterSearchButton->setToolTip(tr("Apply the filter specified to the left"));
-    }
-}
-
-void MainWindow::modeChanged(int mode)
-{
-    showMode();
-    changeFilter([this, mode] {
-        prepareFilterSearch();
-        m_proxy->setMode(PackageTable::Mode(mode));
-    });
-}
-
-void MainWindow::stateFilterChanged(int stateFilter)
-{
-    changeFilter(
-        [this, stateFilter] { m_proxy->setStateFilter(PackageTable::StateFilter(stateFilter)); });
-}
-
-void MainWindow::dupsFilterChanged(int state)
-{
-    changeFilter([this, state] { m_proxy->setDupsFilter(state != 0); });
-}
-
-void MainWindow::groupsFilterChanged(int state)
-{
-    changeFilter([this, state] { m_proxy->setGroupsFilter(state != 0); });
-}
-
-void MainWindow::anyFilterChanged()
-{
-    warnUnlistedActions();
-}
-
-void MainWindow::collectedExtraData()
-{
-    const QString tip =
-        tr("Specify the method for using a regular expression to select packages in the "
-           "table:\n\tFilter uses the textual fields visible in the table, as if they were "
-           "separated by spaces.\n\tSearch uses all fields in packages, including list of Files, "
-           "Change Log, Requires, etc.,\n\tindependently.  It is considerably slower.");
-    const bool loaded = m_yumIO->hasFileLists() && m_yumIO->hasOtherData();
-    m_modeCombo->setToolTip(loaded ? tip : tr("%1 (Must load extra data.)").arg(tip));
-}
-
-void MainWindow::warnUnlistedActions()
-{
-    if (m_finished)
-        return;
-    for (int row = 0, count = m_yumIO->count(); row < count; ++row) {
-        if ((*m_yumIO)[row]->action == Package::Action::None)
-            continue;
-        if (m_proxy->mapFromSource(m_model->index(row, 0)).isValid())
-            continue;
-        m_unlistedLabel->setText(tr("Unlisted Actions"));
-        m_unlistedLabel->setToolTip(
-            tr("Some packages have actions specified, but because of the current\nMode, Filter, "
-               "Search, State, Duplicates, and Groups settings,\nthese packages are not listed "
-               "currently.\nPressing Apply will cause these actions to occur nonetheless."));
-        return;
-    }
-    m_unlistedLabel->clear();
-    m_unlistedLabel->setToolTip(QString());
-}
-
-// Reserves the warning's room, so that the buttons stay where they are when it appears.
-void MainWindow::warnConfigure()
-{
-    m_unlistedLabel->setText(tr("Unlisted Actions"));
-    m_unlistedLabel->setFixedSize(m_unlistedLabel->sizeHint());
-    m_unlistedLabel->clear();
 }

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QMainWindow>
 #include <QPointer>
+#include <QStringList>
 
 #include <functional>
 
@@ -31,6 +32,7 @@ namespace PackageTable {
 class Model;
 class SortFilterProxyModel;
 class View;
+struct Query;
 } // namespace PackageTable
 
 // The program's only top-level window: owns the engine, the repository configuration and the
@@ -108,6 +110,16 @@ private:
     QLayout *createButtonRow();
     QLayout *createBarsRow();
     void connectMainArea();
+    void warnConfigure();
+
+    // filters.cpp
+    bool isSearchMode() const;
+    void changeFilter(const std::function<void()> &change);
+    bool lacksExtraData(const PackageTable::Query &query) const;
+    bool loadExtraData(const PackageTable::Query &query);
+    void anyFilterChanged();
+    void warnUnlistedActions();
+    void showMode();
 
     // quit.cpp
     void finish();
@@ -115,20 +127,13 @@ private:
     void recallGeometry();
     void tell(const QString &text);
 
+    void note(const QString &text) { m_notes.append(text); }
     void setReady(bool ready);
     void checkCredentials();
     void collect();
     void recollect();
     void cleanAndCollect(bool (YumIO::*operation)());
-    bool isSearchMode() const;
-    bool searchesExtraData() const;
-    void changeFilter(const std::function<void()> &change);
-    void prepareFilterSearch();
-    void anyFilterChanged();
-    void warnUnlistedActions();
-    void warnConfigure();
     void showMainArea();
-    void showMode();
 
     QList<YumRepoEnabled> m_repoRequests;
     QHash<QString, bool> m_reposUsed;
@@ -147,6 +152,7 @@ private:
     bool m_quitAsked = false;     // quit when the job has ended
     bool m_finished = false;      // the engine is gone
     int m_exitCode = 0;
+    QStringList m_notes;         // what the line shall say when the job has ended
     bool m_closeRefused = false; // the user was told once that a transaction runs
 
     HMenu *m_programMenu = nullptr;

@@ -13,6 +13,8 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include <utility>
+
 namespace {
 
 const QString organisation = QStringLiteral("VOK");
@@ -46,10 +48,12 @@ MainWindow::Job::~Job()
         return;
     m_window->jobState(QStringLiteral("done"), false);
     m_window->m_busy = false;
-    if (m_window->m_quitAsked)
+    if (m_window->m_quitAsked) {
         m_window->finish();
-    else
-        m_window->setReady(m_window->m_initialized);
+        return;
+    }
+    m_window->tell(std::exchange(m_window->m_notes, {}).join(QStringLiteral("  ")));
+    m_window->setReady(m_window->m_initialized);
 }
 
 void MainWindow::jobState(const QString &state, bool canCancel)

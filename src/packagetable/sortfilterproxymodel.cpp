@@ -16,18 +16,6 @@ using Package::State;
 
 namespace {
 
-const QString anything = QStringLiteral(".*");
-
-// In front of and behind an expression that may match anywhere it adds nothing but work.
-QString stripped(QString pattern)
-{
-    while (pattern.startsWith(anything))
-        pattern.remove(0, anything.size());
-    while (pattern.endsWith(anything))
-        pattern.chop(anything.size());
-    return pattern;
-}
-
 void appendUtf8(QByteArray &bytes, QStringView text)
 {
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
@@ -73,7 +61,7 @@ void SortFilterProxyModel::setSourceModel(HAbstractTableModel *model)
 
 void SortFilterProxyModel::setMode(Mode mode)
 {
-    if (changed(m_mode, mode))
+    if (changed(m_query.mode, mode))
         clear();
 }
 
@@ -101,16 +89,22 @@ void SortFilterProxyModel::setFilter(bool filter)
         clear();
 }
 
+void SortFilterProxyModel::setWaiting(bool waiting)
+{
+    if (changed(m_waiting, waiting))
+        clear();
+}
+
 void SortFilterProxyModel::setFilterRegExp(const QString &pattern)
 {
-    const QString text = stripped(pattern);
+    m_query = Query(m_query.mode, pattern);
     if (m_regexStatus == 0)
         regfree(&m_regex);
-    m_regexStatus = regcomp(&m_regex, text.toUtf8().constData(), REG_EXTENDED | REG_NOSUB);
-    m_hasExpression = !text.isEmpty();
+    m_regexStatus =
+        regcomp(&m_regex, m_query.pattern.toUtf8().constData(), REG_EXTENDED | REG_NOSUB);
 
-    const QRegularExpression expression(text);
-    if (expression != filterRegExp())
+    const QRegularExpression expression(m_query.pattern);
+    if (expression != filterRegExp() || (m_query.readsExtraData() && m_basis != loaded()))
         clearCache();
     judgeAll();
     HSortFilterProxyModel::setFilterRegExp(expression);
@@ -126,6 +120,12 @@ void SortFilterProxyModel::clear()
 void SortFilterProxyModel::clearCache()
 {
     m_acceptCache.clear();
+    m_basis = loaded();
+}
+
+SortFilterProxyModel::Basis SortFilterProxyModel::loaded() const
+{
+    return {m_yumIO->hasFileLists(), m_yumIO->hasOtherData()};
 }
 
 void SortFilterProxyModel::sourceAboutToBeReset()
@@ -160,6 +160,8 @@ const Entry *SortFilterProxyModel::entryAt(int sourceRow) const
 
 bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &) const
 {
+    if (m_waiting)
+        return false;
     if (!m_filter)
         return true;
     const Entry *entry = entryAt(sourceRow);
@@ -194,9 +196,9 @@ bool SortFilterProxyModel::acceptRow(const Entry *entry) const
         return false;
     if (!m_groups && entry->kind == Kind::Group)
         return false;
-    if (!m_hasExpression)
+    if (m_query.isEmpty())
         return true;
-    return m_mode == Mode::Search ? acceptFields(*entry) : acceptTexts(*entry);
+    return m_query.mode == Mode::Search ? acceptFields(*entry) : acceptTexts(*entry);
 }
 
 bool SortFilterProxyModel::acceptTexts(const Entry &entry) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "packagetable/packagetable.h"
+#include "packagetable/query.h"
 #include "widgets/hsortfilterproxymodel.h"
 
 #include <QByteArray>
@@ -38,8 +39,12 @@ public:
     // The master switch: off lists every row.
     void setFilter(bool filter);
     bool getFilter() const { return m_filter; }
+    // Rows wait for what their verdicts need: meanwhile none is judged, and none listed.
+    void setWaiting(bool waiting);
     // An expression that does not compile lists whatever the other rules let through.
     void setFilterRegExp(const QString &pattern) override;
+    // Mode and expression as they are installed.
+    const Query &query() const { return m_query; }
 
     // Sets Update on every listed entry that is out of date.
     void setUpdateListed();
@@ -63,19 +68,28 @@ private:
     bool acceptTexts(const Package::Entry &entry) const;
     bool acceptFields(const Package::Entry &entry) const;
     bool matches(const char *text) const;
+    // What the engine has loaded of that which verdicts rest on.
+    struct Basis
+    {
+        bool operator==(const Basis &other) const = default;
+        bool fileLists = false;
+        bool otherData = false;
+    };
+    Basis loaded() const;
     void sourceAboutToBeReset();
     void judgeAll();
     std::vector<int> ranks(int column) const;
 
-    Mode m_mode = Mode::Filter;
+    Query m_query;
     bool m_filter = true;
+    bool m_waiting = false;
     StateFilter m_stateFilter;
     bool m_dups;
     bool m_groups;
     YumIO *m_yumIO;
     HAbstractTableModel *m_sourcePackageModel = nullptr;
     mutable QHash<const Package::Entry *, bool> m_acceptCache;
-    bool m_hasExpression = false;
+    Basis m_basis;          // of the verdicts
     int m_regexStatus = -1; // 0: m_regex holds the compiled expression
     regex_t m_regex;
     mutable QByteArray m_rowText;

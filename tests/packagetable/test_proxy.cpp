@@ -90,27 +90,29 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expression");
         QTest::addColumn<QString>("filtered");
         QTest::addColumn<QString>("found");
-        QTest::newRow("description") << "needle"
-                                     << ""
-                                     << "beta";
-        QTest::newRow("one field at a time") << "beta 1-1"
-                                             << "beta"
-                                             << "";
-        QTest::newRow("summary") << "^modules summary$"
-                                 << ""
-                                 << "modules";
-        QTest::newRow("packages of groups") << "^alpha$"
-                                            << ""
-                                            << "Attic Workshop alpha";
+        QTest::addColumn<QString>("loaded"); // found by the same expression with file lists there
+        const auto row = [](const char *name, const char *expression, const char *filtered,
+                            const char *found, const char *loaded) {
+            QTest::newRow(name) << s(expression) << s(filtered) << s(found) << s(loaded);
+        };
+        row("description", "needle", "", "beta", "beta");
+        row("one field at a time", "beta 1-1", "beta", "", "");
+        row("summary", "^modules summary$", "", "modules", "modules");
+        row("packages of groups", "^alpha$", "", "Attic Workshop alpha", "Attic Workshop alpha");
+        row("files", "^/bin/b$", "", "", "beta");
     }
 
     void searches()
     {
         QFETCH(QString, expression);
+        collectAgain();
         m_case.proxy->setFilterRegExp(expression);
         QTEST(m_case.listed(), "filtered");
         m_case.proxy->setMode(Mode::Search);
         QTEST(m_case.listed(), "found");
+        QVERIFY(m_case.engine.collectFileLists());
+        m_case.proxy->setFilterRegExp(expression);
+        QTEST(m_case.listed(), "loaded");
     }
 
     void sorts_data()
@@ -183,12 +185,18 @@ private Q_SLOTS:
         m_case.engine.clear();
         m_case.model->reset();
         QCOMPARE(m_case.proxy->rowCount(), 0);
-        QVERIFY(m_case.engine.collect({}));
-        m_case.model->reset();
+        collectAgain();
         QCOMPARE(m_case.listed(), s("alpha kernel"));
     }
 
 private:
+    void collectAgain()
+    {
+        m_case.engine.clear();
+        QVERIFY(m_case.engine.collect({}));
+        m_case.model->reset();
+    }
+
     TableCase m_case;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 };

@@ -9,6 +9,7 @@ import time
 
 class P(Package):
     changelog = ()
+    files = ()
 
     def __init__(self, name, version, arch="x86_64", repo="base", size=0, group="Tools", **fields):
         super().__init__(name, version, arch, repo, size,
@@ -19,6 +20,9 @@ class P(Package):
 
     def returnPrco(self, kind):
         return [(self.name + "-" + kind, None, (None, None, None))]
+
+    def returnFileEntries(self, kind):
+        return list(self.files)
 
     def localPkg(self):
         return "/nonexistent"
@@ -43,6 +47,7 @@ available = [P("beta", "1-1", repo="extras", size=500, buildtime=86400, descript
              P("pair", "1-1", size=10), P("pair", "2-1", arch="i686", size=20),
              P("Zulu", "1-1", arch="noarch", size=2 << 30), P("tools-suite", "1-1", group="Suite"),
              P("grüße", "1-1", repo="extras")]
+available[0].files = ["/bin/b"]
 groups = [Group("Workshop", True, optional=["alpha"]), Group("Attic", False, optional=["alpha"])]
 
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "packagetable/packagetable.h"
+
+#include <QString>
+
+namespace PackageTable {
+
+// What is asked of every row: an expression, and what it is compared with.
+struct Query
+{
+    Query() = default;
+    Query(Mode mode, const QString &pattern);
+
+    bool isEmpty() const { return pattern.isEmpty(); }
+    // Whether file lists and change logs are among what it is compared with.
+    bool readsExtraData() const { return mode == Mode::Search && !isEmpty(); }
+
+    Mode mode = Mode::Filter;
+    QString pattern; // without what adds nothing to it; empty when every text matches
+};
+
+} // namespace PackageTable
