@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QList>
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <unistd.h>
@@ -12,12 +13,29 @@
 namespace {
 
 constexpr int linkLimit = 40; // the kernel's own
+constexpr char16_t escaped = 0xdc00;
+
+// The length of the UTF-8 sequence at the head of the bytes, 0 when there is none.
+qsizetype sequenceLength(QByteArrayView bytes)
+{
+    for (qsizetype length = 1; length <= std::min<qsizetype>(4, bytes.size()); ++length) {
+        if (bytes.first(length).isValidUtf8())
+            return length;
+    }
+    return 0;
+}
+
+bool isEscape(QStringView text, qsizetype i)
+{
+    return (text[i].unicode() & 0xff80) == (escaped | 0x80) &&
+           (i == 0 || !text[i - 1].isHighSurrogate());
+}
 
 QByteArray walk(const QString &path, bool followLast)
 {
     const QByteArray root = QFile::encodeName(SysRoot::prefix());
     QByteArray done = root;
-    QList<QByteArray> ahead = QFile::encodeName(path).split('/');
+    QList<QByteArray> ahead = RootPath::toBytes(path).split('/');
     int links = 0;
 
     while (!ahead.isEmpty()) {
@@ -52,9 +70,46 @@ QByteArray walk(const QString &path, bool followLast)
 
 } // namespace
 
+QString RootPath::toText(const QByteArray &name)
+{
+    QString text;
+    for (QByteArrayView rest = name; !rest.isEmpty();) {
+        const qsizetype length = sequenceLength(rest);
+        if (length > 0)
+            text += QString::fromUtf8(rest.first(length));
+        else
+            text += QChar(char16_t(escaped | uchar(rest.front())));
+        rest = rest.sliced(std::max<qsizetype>(length, 1));
+    }
+    return text;
+}
+
+QByteArray RootPath::toBytes(const QString &text)
+{
+    QByteArray bytes;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (!isEscape(text, i))
+            continue;
+        bytes += QStringView(text).sliced(start, i - start).toUtf8();
+        bytes += char(text[i].unicode() & 0xff);
+        start = i + 1;
+    }
+    return bytes + QStringView(text).sliced(start).toUtf8();
+}
+
+QString RootPath::shown(QString text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (isEscape(text, i))
+            text[i] = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
 QByteArray RootPath::locate(const QString &path)
 {
-    return SysRoot::prefix().isEmpty() ? QFile::encodeName(path) : walk(path, true);
+    return SysRoot::prefix().isEmpty() ? toBytes(path) : walk(path, true);
 }
 
 bool RootPath::status(const QString &path, struct stat &status)

@@ -6,7 +6,15 @@
 #include <sys/stat.h>
 
 // Where paths inside the system root lie for the C library.
+//
+// File names are bytes. As text, a byte that is no UTF-8 is a low surrogate by itself (U+DC80 to
+// U+DCFF), which no other text holds, so that each name has a text of its own.
 namespace RootPath {
+
+QString toText(const QByteArray &name);
+QByteArray toBytes(const QString &text);
+// For reading by people: what is no UTF-8 is marked as such.
+QString shown(QString text);
 
 // What to open for reading `path`. Links are followed inside the root: one to "/etc/x" leads to
 // the root's own /etc/x. Empty with errno set when links lead nowhere near an end.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <dirent.h>
 #include <sys/stat.h>
 
 namespace {
@@ -57,11 +58,26 @@ bool YumConfIO::filePositionLessThan(const Repo::Entry &a, const Repo::Entry &b)
     return a.file != b.file ? a.file < b.file : a.position < b.position;
 }
 
+QStringList YumConfIO::repoFiles(const QString &directory)
+{
+    QStringList files;
+    DIR *dir = opendir(RootPath::locate(directory).constData());
+    if (!dir)
+        return files;
+    while (const dirent *item = readdir(dir)) {
+        const QByteArray name(item->d_name);
+        if (name.endsWith(".repo"))
+            files += directory + QLatin1Char('/') + RootPath::toText(name);
+    }
+    closedir(dir);
+    return files;
+}
+
 void YumConfIO::error(const QString &message)
 {
     const int code = errno;
     showMessageBox(QMessageBox::Critical, m_parent, tr("VOK Repository Editor Error"),
                    tr("%1; errno = %2 (%3).")
-                       .arg(maskPasswords(message), QString::number(code),
+                       .arg(maskPasswords(RootPath::shown(message)), QString::number(code),
                             QString::fromLocal8Bit(strerror(code))));
 }

@@ -13,6 +13,7 @@
 #include <QWidget>
 
 #include <cstdio>
+#include <memory>
 
 // Reads the main configuration file and every repository definition file, keeps the definitions as
 // a list, and writes an edited list back. The only one that touches these files.
@@ -34,10 +35,13 @@ public:
     static QString fileName();
 
     // Reads everything anew. False once a failure was shown; `repos` then holds what was read
-    // before.
+    // before. A file that the user may not read is no failure: it is left out.
     bool read(QWidget *parent);
+    // The files that the last read() left out, to be shown. Nothing is written while there are any.
+    const QStringList &unreadable() const { return m_unreadable; }
     // Checks, asks, writes all files and removes those that hold no repository any more. False when
-    // the user declined or a failure was shown; what was written until then stays written.
+    // the user declined, and then `repos` is as it was, or when a failure was shown; what was
+    // written until then stays written.
     bool write(QWidget *parent);
 
     QString cachedir;
@@ -79,10 +83,18 @@ private:
         QList<Repo::Entry> entries;
     };
 
-    FILE *openForReading(const QString &path, const QByteArray &located, const QString &failure);
+    using File = std::unique_ptr<FILE, int (*)(FILE *)>;
+    enum OpenResult { Opened, LeftOut, Failed };
+
+    // The names in a directory that end in ".repo", in the directory's order, as paths.
+    static QStringList repoFiles(const QString &directory);
+    OpenResult openForReading(const QString &path, const QByteArray &located,
+                              const QString &failure, File &file);
     static FileState examine(FILE *file);
     void noteRead(const QString &path, FileState state, qsizetype firstRepo);
+    bool readMainFile();
     bool readReposDir(const QString &directory);
+    bool readReposFile(const QString &path, const QByteArray &real);
     int readLogicalLine(FILE *file, const QString &path, QString &line);
     int readLine(FILE *file, const QString &path, QString &line);
     void unreadLine(const QString &line);
@@ -93,10 +105,10 @@ private:
     void applyUsedOptions(const Repo::Entry &entry);
 
     void cleanupWrite(QList<Repo::Entry> &list) const;
-    bool checkErrors();
-    bool hasEmptyId() const;
-    QString getDuplicateId() const;
-    QList<FileContent> sortedContents() const;
+    bool checkErrors(QList<Repo::Entry> &list);
+    static bool hasEmptyId(const QList<Repo::Entry> &list);
+    static QString getDuplicateId(const QList<Repo::Entry> &list);
+    QList<FileContent> sortedContents(QList<Repo::Entry> sorted) const;
     bool checkChangedOnDisk(const QList<FileContent> &contents, const QSet<QString> &used);
     bool writeFile(const FileContent &content);
     void put(FILE *file, const QString &text) const;
@@ -109,4 +121,5 @@ private:
     QStringList m_pendingLines; // look-ahead and pushed-back lines
     bool m_latin1 = false;      // how the file at hand is decoded and encoded
     QHash<QString, FileState> m_files;
+    QStringList m_unreadable;
 };

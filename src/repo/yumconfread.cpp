@@ -3,27 +3,17 @@
 #include "rootpath.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QRegularExpression>
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <cerrno>
-#include <dirent.h>
 #include <fcntl.h>
-#include <memory>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace {
-
-struct Closer
-{
-    void operator()(FILE *file) const { fclose(file); }
-    void operator()(DIR *directory) const { closedir(directory); }
-};
-using File = std::unique_ptr<FILE, Closer>;
-using Directory = std::unique_ptr<DIR, Closer>;
 
 // A repository file that a link leads to the null device is a usual way to switch it off.
 bool isNullDevice(const struct stat &status)
@@ -50,17 +40,22 @@ Qt::CheckState onOff(const QString &value)
 
 } // namespace
 
-FILE *YumConfIO::openForReading(const QString &path, const QByteArray &located,
-                                const QString &failure)
+YumConfIO::OpenResult YumConfIO::openForReading(const QString &path, const QByteArray &located,
+                                                const QString &failure, File &file)
 {
     // A pipe without a writer must not be waited for.
     const int fd = open(located.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0 && errno == EACCES) {
+        m_unreadable.append(RootPath::shown(path));
+        return LeftOut;
+    }
     struct stat status;
     if (fd >= 0 && fstat(fd, &status) == 0) {
         // Reading a directory reports itself.
         if (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode) || isNullDevice(status)) {
-            if (FILE *file = fdopen(fd, "r"))
-                return file;
+            file.reset(fdopen(fd, "r"));
+            if (file)
+                return Opened;
         } else {
             errno = ENOTSUP;
         }
@@ -68,7 +63,7 @@ FILE *YumConfIO::openForReading(const QString &path, const QByteArray &located,
     error(failure.arg(path));
     if (fd >= 0)
         close(fd);
-    return nullptr;
+    return Failed;
 }
 
 // Looks at the whole file before its lines are read: what it is encoded in shows nowhere else.
@@ -100,23 +95,15 @@ bool YumConfIO::read(QWidget *parent)
     m_mainText.clear();
     m_pendingLines.clear();
     m_files.clear();
+    m_unreadable.clear();
     cachedir = QStringLiteral("/var/cache/yum");
     reposdirs = {QStringLiteral("/etc/yum.repos.d"), QStringLiteral("/etc/yum/repos.d")};
     mainEnabled = true;
     mainGpgcheck = false;
     repos.clear();
 
-    const QString main = fileName();
-    const File file(openForReading(main, RootPath::locate(main),
-                                   tr("Unable to read yum configuration file %1")));
-    if (!file)
+    if (!readMainFile())
         return false;
-    const FileState state = examine(file.get());
-    m_latin1 = state.latin1;
-    if (!readConfFile(file.get()))
-        return false;
-    noteRead(main, state, 0);
-
     for (const QString &directory : std::as_const(reposdirs)) {
         if (!readReposDir(directory))
             return false;
@@ -125,40 +112,60 @@ bool YumConfIO::read(QWidget *parent)
     return true;
 }
 
+bool YumConfIO::readMainFile()
+{
+    const QString main = fileName();
+    File file(nullptr, fclose);
+    const OpenResult opened = openForReading(main, RootPath::locate(main),
+                                             tr("Unable to read yum configuration file %1"), file);
+    if (opened != Opened)
+        return opened == LeftOut;
+    const FileState state = examine(file.get());
+    m_latin1 = state.latin1;
+    if (!readConfFile(file.get()))
+        return false;
+    noteRead(main, state, 0);
+    return true;
+}
+
 bool YumConfIO::readReposDir(const QString &directory)
 {
     const QByteArray real = RootPath::locate(directory);
-    const Directory dir(opendir(real.constData()));
-    if (!dir)
-        return true;
-    while (const dirent *item = readdir(dir.get())) {
-        const QString name = QFile::decodeName(item->d_name);
-        if (!name.endsWith(QLatin1String(".repo")))
-            continue;
-        const QString path = directory + QLatin1Char('/') + name;
-        struct stat status;
-        QByteArray located = real + '/' + QFile::encodeName(name);
-        const bool isLink = lstat(located.constData(), &status) != 0 || S_ISLNK(status.st_mode);
-        if (isLink && !RootPath::status(path, status)) {
-            error(tr("Unable to stat repository configuration file %1").arg(path));
-            return false;
+    const QStringList files = repoFiles(directory);
+    return std::all_of(files.cbegin(), files.cend(), [&](const QString &path) {
+        const QString name = path.sliced(directory.size());
+        return readReposFile(path, real + RootPath::toBytes(name));
+    });
+}
+
+// `real` is where the file lies if it is no link.
+bool YumConfIO::readReposFile(const QString &path, const QByteArray &real)
+{
+    struct stat status;
+    const bool isLink = lstat(real.constData(), &status) != 0 || S_ISLNK(status.st_mode);
+    if (isLink && !RootPath::status(path, status)) {
+        if (errno == EACCES) {
+            m_unreadable.append(RootPath::shown(path));
+            return true;
         }
-        if (S_ISDIR(status.st_mode))
-            continue;
-        if (isLink)
-            located = RootPath::locate(path);
-        const File file(
-            openForReading(path, located, tr("Unable to read repository configuration file %1")));
-        if (!file)
-            return false;
-        const FileState state = examine(file.get());
-        const qsizetype before = repos.size();
-        m_latin1 = state.latin1;
-        m_pendingLines.clear();
-        if (!readRepoFile(file.get(), path))
-            return false;
-        noteRead(path, state, before);
+        error(tr("Unable to stat repository configuration file %1").arg(path));
+        return false;
     }
+    if (S_ISDIR(status.st_mode))
+        return true;
+    File file(nullptr, fclose);
+    const OpenResult opened =
+        openForReading(path, isLink ? RootPath::locate(path) : real,
+                       tr("Unable to read repository configuration file %1"), file);
+    if (opened != Opened)
+        return opened == LeftOut;
+    const FileState state = examine(file.get());
+    const qsizetype before = repos.size();
+    m_latin1 = state.latin1;
+    m_pendingLines.clear();
+    if (!readRepoFile(file.get(), path))
+        return false;
+    noteRead(path, state, before);
     return true;
 }
 
@@ -198,7 +205,8 @@ void YumConfIO::readMainOption(const QString &line)
     if (isOption(line, QStringLiteral("cachedir"), value))
         cachedir = value;
     else if (isOption(line, QStringLiteral("reposdir"), value))
-        reposdirs = value.split(separators, Qt::SkipEmptyParts);
+        reposdirs = (m_latin1 ? RootPath::toText(value.toLatin1()) : value)
+                        .split(separators, Qt::SkipEmptyParts);
     else if (isOption(line, QStringLiteral("enabled"), value))
         mainEnabled = onOff(value) == Qt::Checked;
     else if (isOption(line, QStringLiteral("gpgcheck"), value))

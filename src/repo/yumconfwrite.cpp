@@ -6,13 +6,11 @@
 #include "widgets/messagebox.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <dirent.h>
 #include <sys/stat.h>
 
 namespace {
@@ -20,22 +18,6 @@ namespace {
 constexpr int shownFiles = 20;          // of the files that a question lists
 constexpr int shownIdents = 1000;       // of the identifiers that a question lists
 constexpr char mark[] = "\xef\xbb\xbf"; // the byte order mark
-
-// The names in a directory that end in ".repo", in the directory's order.
-QStringList repoFiles(const QString &directory)
-{
-    QStringList files;
-    DIR *dir = opendir(RootPath::locate(directory).constData());
-    if (!dir)
-        return files;
-    while (const dirent *item = readdir(dir)) {
-        const QString name = QFile::decodeName(item->d_name);
-        if (name.endsWith(QLatin1String(".repo")))
-            files += directory + QLatin1Char('/') + name;
-    }
-    closedir(dir);
-    return files;
-}
 
 bool isDirectory(const QString &path)
 {
@@ -87,11 +69,18 @@ QByteArray digestOf(const QByteArray &bytes)
 bool YumConfIO::write(QWidget *parent)
 {
     m_parent = parent;
-    if (!checkErrors())
+    if (!m_unreadable.isEmpty()) {
+        errno = EACCES;
+        error(tr("Nothing is written, because what these files hold is not known:\n%1\n")
+                  .arg(m_unreadable.join(u'\n')));
         return false;
-    cleanupWrite(repos);
+    }
+    QList<Repo::Entry> list = repos;
+    if (!checkErrors(list))
+        return false;
+    cleanupWrite(list);
 
-    QList<FileContent> contents = sortedContents();
+    QList<FileContent> contents = sortedContents(list);
     QSet<QString> used;
     for (const FileContent &content : std::as_const(contents))
         used.insert(content.path);
@@ -100,6 +89,7 @@ bool YumConfIO::write(QWidget *parent)
         contents.append({main, {}});
     if (!checkChangedOnDisk(contents, used))
         return false;
+    repos = list;
 
     for (const FileContent &content : std::as_const(contents)) {
         if (!writeFile(content))
@@ -120,9 +110,8 @@ void YumConfIO::cleanupWrite(QList<Repo::Entry> &list) const
 }
 
 // The repositories by file, files and repositories in the order in which they are written.
-QList<YumConfIO::FileContent> YumConfIO::sortedContents() const
+QList<YumConfIO::FileContent> YumConfIO::sortedContents(QList<Repo::Entry> sorted) const
 {
-    QList<Repo::Entry> sorted = repos;
     std::stable_sort(sorted.begin(), sorted.end(), filePositionLessThan);
     QList<FileContent> contents;
     for (const Repo::Entry &entry : std::as_const(sorted)) {
@@ -284,15 +273,16 @@ bool YumConfIO::checkChangedOnDisk(const QList<FileContent> &contents, const QSe
     return ask(tr("These files are not as they were read; another program changed them, or they "
                   "could not be read:\n\n%1\n\nWhat was changed there is lost when they are "
                   "written or removed.  Proceed?")
-                   .arg(list));
+                   .arg(RootPath::shown(list)));
 }
 
-bool YumConfIO::checkErrors()
+// Takes out of the list what cannot be written, when the user agrees.
+bool YumConfIO::checkErrors(QList<Repo::Entry> &list)
 {
     QString message;
-    if (hasEmptyId())
+    if (hasEmptyId(list))
         message = tr("A repository has no Identifier.  It will be removed.");
-    const QString duplicates = getDuplicateId();
+    const QString duplicates = getDuplicateId(list);
     if (!duplicates.isEmpty()) {
         if (!message.isEmpty())
             message += QLatin1Char('\n');
@@ -306,7 +296,7 @@ bool YumConfIO::checkErrors()
         return false;
 
     QSet<QString> seen;
-    repos.removeIf([&seen](const Repo::Entry &entry) {
+    list.removeIf([&seen](const Repo::Entry &entry) {
         const bool drop = entry.id.isEmpty() || seen.contains(entry.id);
         seen.insert(entry.id);
         return drop;
@@ -314,20 +304,20 @@ bool YumConfIO::checkErrors()
     return true;
 }
 
-bool YumConfIO::hasEmptyId() const
+bool YumConfIO::hasEmptyId(const QList<Repo::Entry> &list)
 {
-    return std::any_of(repos.cbegin(), repos.cend(),
+    return std::any_of(list.cbegin(), list.cend(),
                        [](const Repo::Entry &entry) { return entry.id.isEmpty(); });
 }
 
 // An identifier stands in the list once for each later repository that has it too.
-QString YumConfIO::getDuplicateId() const
+QString YumConfIO::getDuplicateId(const QList<Repo::Entry> &list)
 {
     QHash<QString, int> later;
-    for (const Repo::Entry &entry : repos)
+    for (const Repo::Entry &entry : list)
         ++later[entry.id];
     QStringList duplicates;
-    for (const Repo::Entry &entry : repos) {
+    for (const Repo::Entry &entry : list) {
         for (int count = --later[entry.id]; count > 0; --count) {
             if (duplicates.size() == shownIdents)
                 return duplicates.join(QLatin1String(", ")) + QLatin1String(", ...");

@@ -62,26 +62,30 @@ public:
     YumConfIO io;
 };
 
-// Presses a button of each message box that comes up, and keeps what the boxes said.
+// Presses a button of each message box that comes up, the last one of all further ones, and keeps
+// what the boxes said.
 class Answer : public QTimer
 {
 public:
-    explicit Answer(int button) : m_button(button)
+    explicit Answer(const QList<int> &buttons) : m_buttons(buttons)
     {
         callOnTimeout([this] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box)
                 return;
             said += box->detailedText().isEmpty() ? box->text() : box->detailedText();
-            auto *named =
-                box->findChild<QAbstractButton *>(QStringLiteral("button%1").arg(m_button));
+            auto *named = box->findChild<QAbstractButton *>(
+                QStringLiteral("button%1").arg(m_buttons.first()));
+            if (m_buttons.size() > 1)
+                m_buttons.removeFirst();
             named ? named->click() : box->buttons().constFirst()->click();
         });
         start(1);
     }
+    explicit Answer(int button) : Answer(QList<int>{button}) {}
 
     QStringList said;
 
 private:
-    int m_button;
+    QList<int> m_buttons;
 };
