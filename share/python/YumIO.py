@@ -133,7 +133,8 @@ class YumIO:
         return groups.member_names(self._session, name)
 
     def pkgTree(self, name):
-        """The same list; see vokdnf.groups.member_names for why it holds no dependencies."""
+        """The same list; see vokdnf.groups.member_names for why it holds no dependencies. It does not hold
+        `name` itself when others replace that."""
         return groups.member_names(self._session, name)
 
     def noteGroups(self, noted):

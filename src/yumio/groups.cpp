@@ -308,7 +308,7 @@ bool YumIO::pkgTree(const QString &name, QStringList &names)
     return scriptNames("pkgTree", name, names);
 }
 
-// The members with all that their trees hold, each name once, a member before its tree.
+// What the members' trees hold, each name once. A member that others replace is not in its own tree.
 bool YumIO::groupTree(const QStringList &members, QStringList &names)
 {
     QSet<QString> seen;
@@ -316,7 +316,6 @@ bool YumIO::groupTree(const QStringList &members, QStringList &names)
         QStringList tree;
         if (!pkgTree(member, tree))
             return false;
-        appendUnique(names, member, seen);
         for (const QString &name : std::as_const(tree))
             appendUnique(names, name, seen);
     }

@@ -1,6 +1,8 @@
 """Groups of packages, from the repositories' group data and DNF's own records of what is installed."""
 
 import dnf.comps
+import dnf.goal
+import dnf.selector
 import libcomps
 import libdnf.error
 
@@ -81,9 +83,23 @@ def setup(session):
 
 def member_names(session, name):
     """The packages that marking the group member `name` stands for: itself when any package is called
-    so. What it requires is left to the resolution of the transaction: a required package marked here
-    would count as wanted for itself, would be updated with the group and removed with it."""
-    return [name] if session.sack.query().filterm(name=name) else []
+    so, or what DNF would install in its place when others replace it, nothing when one of these is
+    installed. What it requires is left to the resolution of the transaction: a required package marked
+    here would count as wanted for itself, would be updated with the group and removed with it."""
+    query = session.sack.query().filterm(name=name).apply()
+    if not query or query.installed() or not session.conf.obsoletes:
+        return [name] if query else []
+    replacing = session.sack.query().filterm(obsoletes=query).apply()
+    if not replacing:
+        return [name]
+    query = query.union(replacing)
+    goal, selector = dnf.goal.Goal(session.sack), dnf.selector.Selector(session.sack)
+    selector.set(pkg=query)
+    goal.install(select=selector)
+    if not goal.run():
+        return [name]  # resolving the transaction tells why
+    chosen = set(query)
+    return sorted({pkg.name for pkg in goal.list_installs() if pkg in chosen})
 
 
 def record(base, noted):

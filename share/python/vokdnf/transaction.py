@@ -53,8 +53,9 @@ class Transaction:
     def _prepare(self):
         report.job_state("resolve", True)
         report.yumIOC.dsTsCheck()
-        grouped = {name for group, action in self._noted if action != groups.REMOVE
-                   for name in group.members()}
+        removed = {pkg.name for pkg in self._marks.unwanted}
+        grouped = {name for group, action in self._noted for name in group.members()
+                   if action != groups.REMOVE or name in removed}
         if not resolve.Resolver(self._base, self._marks, grouped).resolve():
             return False
         errors.check_cancelled()
