@@ -18,13 +18,13 @@ _SOURCES = ["src", "nosrc"]
 
 
 class Base(dnf.Base):
-    """DNF's base, telling which repository it reads. `other` is a second one that holds the change logs
-    of available packages, once they were asked for."""
+    """DNF's base, telling which repository it reads. `apart` holds what was read later and apart from it,
+    by kind; see otherdata."""
 
     def __init__(self, conf):
         super().__init__(conf)
         self._reading = 0
-        self.other = None
+        self.apart = {}
 
     def _add_repo_to_sack(self, repo):
         errors.check_cancelled()
@@ -133,9 +133,9 @@ class Session:
     def close(self):
         """Ends the session and frees what it holds. Package objects stay readable."""
         try:
-            if self.base.other is not None:
-                self.base.other.close()
-                self.base.other = None
+            for apart in self.base.apart.values():
+                apart.close()
+            self.base.apart = {}
             self.base.close()
         except Exception as error:  # nobody waits for the result
             report.errorlog(3, "Closing the package session: %s" % report.clean(error))

@@ -1,6 +1,10 @@
 """Where versions of DNF and rpm differ, told by what they offer."""
 
+import contextlib
+
 import dnf.yum.misc
+
+_FILE_LISTS = "filelists"
 
 
 def mend():
@@ -16,3 +20,22 @@ def _key_installed(reader, key_id, timestamp):
             installed = int(header["release"], 16)
             return 0 if installed == timestamp else 1 if installed < timestamp else 2
     return -1
+
+
+def reads_file_lists(conf):
+    """Whether DNF reads the file lists along with the packages. Newer versions do when an option asks."""
+    return _FILE_LISTS in getattr(conf, "optional_metadata_types", (_FILE_LISTS,))
+
+
+@contextlib.contextmanager
+def file_lists_wanted(conf):
+    """While its block runs, what is read with `conf` is read with file lists."""
+    if reads_file_lists(conf):
+        yield
+        return
+    types = list(conf.optional_metadata_types)
+    conf.optional_metadata_types = [*types, _FILE_LISTS]
+    try:
+        yield
+    finally:
+        conf.optional_metadata_types = types

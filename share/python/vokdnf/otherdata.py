@@ -1,33 +1,59 @@
 """File lists and change logs of available packages."""
 
+import contextlib
+
 from yum import Errors
 
-from . import base, config, errors, locks, report
+from . import base, config, errors, library, locks, report
+from .packages import CHANGE_LOGS, FILE_LISTS
 
 
 def load_file_lists(session):
-    """DNF's sack holds the file lists from the start, because packages may require files; so this only
-    sees that there is one, reading it when there is none yet."""
+    """Makes file lists readable. Where DNF read them with the packages, there is nothing to do."""
     if session.base.sack is None:
         session.fill_sack()
+    if not library.reads_file_lists(session.conf):
+        _load_apart(session, FILE_LISTS)
     report.job_state("done", False)
 
 
 def load_change_logs(session):
-    """Loads the repositories once more with their change logs, into a sack of its own: one that is read
-    takes no further data. What is in the cache is not fetched again."""
-    if session.base.other is not None:
+    _load_apart(session, CHANGE_LOGS)
+
+
+class Apart:
+    """The repositories, read once more with data that the first reading lacks."""
+
+    def __init__(self, dnf_base):
+        self._base = dnf_base
+        self._packages = None
+
+    def find(self, pkg):
+        if self._packages is None:
+            self._packages = {(one.reponame, str(one)): one for one in self._base.sack.query()}
+        return self._packages.get((pkg.reponame, str(pkg)), pkg)
+
+    def close(self):
+        self._packages = None
+        self._base.close()
+
+
+def _load_apart(session, kind):
+    """Reads the repositories into a sack of its own: one that is read takes no further data. What is in
+    the cache is not fetched again."""
+    if kind in session.base.apart:
         return
     enabled = {repo.id for repo in session.base.repos.iter_enabled()}
     other = base.Base(session.conf)
+    wanted = library.file_lists_wanted(session.conf) if kind == FILE_LISTS else contextlib.nullcontext()
     try:
         report.job_state("metadata", True)
-        with errors.translated():
+        with errors.translated(), wanted:
             config.read_repositories(session.conf, other.repos)
             for repo in other.repos.values():
                 if repo.id in enabled:
                     repo.enable()
-                    repo.load_metadata_other = True
+                    repo.load_metadata_other = kind == CHANGE_LOGS
                 else:
                     repo.disable()
             try:
@@ -42,4 +68,4 @@ def load_change_logs(session):
         raise
     finally:
         report.job_state("done", False)
-    session.base.other = other
+    session.base.apart[kind] = Apart(other)

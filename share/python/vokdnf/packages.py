@@ -11,6 +11,7 @@ import os
 from . import report
 
 INSTALLED = "installed"  # what installed packages have for a repository identifier
+CHANGE_LOGS, FILE_LISTS = "changelogs", "filelists"  # what available packages get later
 _RELATIONS = ("provides", "requires", "conflicts", "obsoletes")
 _FLAGS = {"=": "EQ", "<": "LT", ">": "GT", "<=": "LE", ">=": "GE"}
 _clean = report.clean
@@ -25,6 +26,12 @@ def envra(pkg):
     """A package as epoch:name-version-release.arch, of DNF's or ours."""
     name, arch, epoch, version, release = pkg.pkgtup
     return _clean("%s:%s-%s-%s.%s" % (epoch, name, version, release, arch))
+
+
+def _best_known(pkg, kind):
+    """The package of DNF that has data of a kind: `pkg`, or the same one where that was read apart."""
+    apart = getattr(pkg.base, "apart", {}).get(kind)
+    return apart.find(pkg) if apart is not None and not pkg._from_system else pkg
 
 
 class Header:
@@ -151,16 +158,13 @@ class Package:
 
     def returnFileEntries(self, kind):
         """The paths of a package; repository data has them under "file" alone."""
-        return sorted(map(_clean, self.pkg.files)) if kind == "file" else []
+        pkg = _best_known(self.pkg, FILE_LISTS)
+        return sorted(map(_clean, pkg.files)) if kind == "file" else []
 
     def returnChangelog(self):
         """[(seconds since 1970, author, text)], newest first. Available packages have them after
         collectOtherData, which reads them apart from everything else."""
-        pkg = self.pkg
-        other = getattr(pkg.base, "other", None)
-        if other is not None and not pkg._from_system:
-            same = other.sack.query().filterm(nevra_strict=str(pkg), reponame=pkg.reponame)
-            pkg = same[0] if same else pkg
+        pkg = _best_known(self.pkg, CHANGE_LOGS)
         return [(calendar.timegm(change["timestamp"].timetuple()) + 12 * 3600,
                  _clean(change["author"]), _clean(change["text"])) for change in pkg.changelogs]
 
