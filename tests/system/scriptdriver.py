@@ -10,6 +10,7 @@ A scenario may hold
     steps               list of steps, each {"do": "collect" | "apply" | a method of yumIO, ...}
     confirm             answers to userconfirm, in order; then yes
     key                 answer to keyQuestion (default no)
+    confirmRemovals     answer to it (default no)
     lockWait            answers, in order; then "give up"
     cancelAt            name of a callback: from its first call on the job is cancelled
     killAt              [callback, number]: the process is killed in that call
@@ -38,7 +39,8 @@ collectGrabMultiMeterNew collectGrabMultiMeterRemove collectGrabMultiMeterEnd ap
 applyGrabMeterUpdate applyGrabMeterEnd applyGrabMeterFailure applyGrabMultiMeterStart
 applyGrabMultiMeterNew applyGrabMultiMeterRemove applyGrabMultiMeterEnd dsTsCheck dsRestartLoop
 userconfirm reportDownloadSize listTransaction tsInitCallback tsCallback tsEvent
-postTransactionOutput gpgsigcheck cancelled jobState lockWait keyQuestion transactionReport""".split()
+postTransactionOutput gpgsigcheck cancelled jobState lockWait keyQuestion confirmRemovals
+transactionReport""".split()
 LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
 
 
@@ -159,8 +161,8 @@ class Recorder:
         if name in self._answers:
             answers = self._answers[name]
             return int(answers.pop(0) if answers else name == "userconfirm")
-        if name == "keyQuestion":
-            return int(self._scenario.get("key", False))
+        if name in ("keyQuestion", "confirmRemovals"):
+            return int(self._scenario.get({"keyQuestion": "key"}.get(name, name), False))
         return "" if name == "postTransactionOutput" else None
 
 

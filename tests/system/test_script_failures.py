@@ -47,8 +47,6 @@ HALF_WAY = {
                   {"badwire"}, set()),
     "a missing interpreter": ({"install": ["no-shell"]}, {"no-shell": ("done", "no-such-shell")},
                               {"no-shell"}, set()),
-    "what rpm removes unasked": ({"update": ["libtwin.i686"]}, {"libtwin": ("done", "rpm removed it")},
-                                 {"libtwin"}, {"libtwin"}),
     "what needs a package that failed": ({"install": ["needs-fail-pre"]},
                                          {"fail-pre": ("failed", "%prein")}, {"needs-fail-pre"}, set()),
 }

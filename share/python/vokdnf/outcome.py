@@ -33,13 +33,6 @@ class Outcomes:
                 return "%s was not installed" % key
         return self._failure.strip() or "rpm left it out because another package failed"
 
-    def unasked(self, before):
-        """Rows of packages that were there `before` and went although the transaction does not hold
-        them: to rpm, an update of one architecture may replace the other."""
-        erased = {element.envra for element in self._elements if element.erases}
-        return [(key, "done", "rpm removed it along with the others")
-                for key in sorted(before - self._installed - erased)]
-
     def rows(self):
         """[(epoch:name-version-release.arch, outcome, reason)], a reinstalled package once."""
         return [(element.envra, *self.of(element)) for element in self._elements

@@ -142,3 +142,18 @@ def tell_additions(found, marks, collection):
     for line in lines:
         report.log(4, "TSINFO: " + line)
     return bool(lines)
+
+
+def replacements(base, marks):
+    """Lines about what is marked although another package on offer replaces it: the mark stands."""
+    if not base.conf.obsoletes or not marks.wanted:
+        return []
+    newest = base.sack.query().available().filterm(latest_per_arch_by_priority=True).apply()
+    replacing = newest.filter(obsoletes=marks.wanted)
+    lines = []
+    for pkg in sorted(marks.wanted):
+        new = [report.clean(one) for one in replacing.filter(obsoletes=[pkg]) if one.name != pkg.name]
+        if new:
+            lines.append("%s is installed as marked, although %s replaces it."
+                         % (report.clean(pkg), " or ".join(dict.fromkeys(new))))
+    return lines

@@ -14,7 +14,7 @@ import rpm
 from yum import Errors
 
 from . import display, elements, errors, groups, interrupted, keys, language, locks, meters, outcome
-from . import packages, report, resolve, root
+from . import packages, report, resolve, root, unlisted
 from .base import full_cache
 
 _CLONE_FS = 0x200
@@ -72,13 +72,39 @@ class Transaction:
         report.yumIOC.listTransaction(self._yumio)
         report.yumIOC.reportDownloadSize([packages.Package(pkg) for pkg in install
                                           if not os.path.exists(pkg.localPkg())])
+        self._tell_more(install)
         if not report.yumIOC.userconfirm():
             return False
         report.job_state("download", True)
         self._download(install)
         keys.check_signatures(self._base, sorted(install))
         errors.check_cancelled()
+        self._confirm_unlisted()
         return True
+
+    def _tell_more(self, install):
+        """Adds to the listing what its lines do not say."""
+        local = [packages.Package(pkg) for pkg in install if pkg._is_local_pkg()]
+        if local and report.offers("reportLocalSize"):
+            report.yumIOC.reportLocalSize(local)
+        for line in resolve.replacements(self._base, self._marks):
+            report.log(1, line)
+            if report.offers("listingNote"):
+                report.yumIOC.listingNote(line)
+
+    def _confirm_unlisted(self):
+        """Takes in what rpm would remove beside the confirmed listing, when the user agrees."""
+        gone = unlisted.removals(self._base, self._elements)
+        if not gone:
+            return
+        for pkg in gone:
+            self._base.transaction.add_remove(pkg)
+        listed, self._elements = self._elements, elements.of(self._base.transaction)
+        known = {element.envra for element in listed}
+        self._fill_tsinfo([element for element in self._elements if element.envra not in known])
+        if not (report.yumIOC.confirmRemovals(self._yumio) if report.offers("confirmRemovals") else
+                report.confirm(["rpm would also remove:", *map(str, gone), "Go on?"])):
+            raise Errors.CancelledError()
 
     def _fill_tsinfo(self, chosen):
         self._yumio.tsInfo.fill(chosen, self._marks, lambda element: self._collection.key(element)
@@ -118,7 +144,6 @@ class Transaction:
         if base.conf.installroot != "/":
             # rpm changes the root directory; this thread's alone, not that of the whole process.
             ctypes.CDLL(None).unshare(_CLONE_FS)
-        before = {packages.envra(pkg) for pkg in base.sack.query().installed()}
         interrupted.write(self._elements)
         base.history.log_scriptlet_output = HistoryOutput(base.history)
         failure = ""
@@ -135,16 +160,16 @@ class Transaction:
         shown.finish()
         interrupted.clear()
         try:
-            self._tell_outcome(shown, failure, before)
+            self._tell_outcome(shown, failure)
         except Exception as error:  # what was done stays done, whatever its report meets
             report.errorlog(0, "The report of the transaction failed: %s" % report.clean(error))
 
-    def _tell_outcome(self, shown, failure, before):
+    def _tell_outcome(self, shown, failure):
         outcomes = outcome.Outcomes(self._elements, interrupted.installed_packages(self._base),
                                     shown.reasons, failure)
         self._fill_tsinfo([element for element in self._elements if outcomes.of(element)[0] == "done"])
         report.yumIOC.postTransactionOutput(self._yumio)
-        rows = outcomes.rows() + outcomes.unasked(before)
+        rows = outcomes.rows()
         if report.offers("transactionReport"):
             report.yumIOC.transactionReport(rows)
             return
