@@ -6,6 +6,7 @@ no exception leaves.
 
 import functools
 import re
+import time
 
 import dnf.callback
 import dnf.transaction
@@ -31,6 +32,7 @@ def _contained(function):
     @functools.wraps(function)
     def call(self, *arguments):
         try:
+            self.last_word = time.monotonic()
             return function(self, *arguments)
         except BaseException as error:
             self.trouble.append("%s: %r" % (function.__name__, error))
@@ -40,6 +42,12 @@ def _contained(function):
 
 class RpmTransaction(dnf.yum.rpmtrans.RPMTransaction):
     """DNF's own, which keeps to itself what rpm says before an unpacking fails and at the very end."""
+
+    def __init__(self, *arguments, **options):
+        super().__init__(*arguments, **options)
+        for display in self.displays:
+            if isinstance(display, Display):
+                display.drain = lambda: display.scriptout(self._scriptOutput())
 
     def _unpackError(self, key):
         self._scriptout()
@@ -62,7 +70,8 @@ def _spellings(envra):
 
 class Display(dnf.callback.TransactionProgress):
     """`begun` is set once rpm runs. `reasons` is {epoch:name-version-release.arch: [texts]} of what went
-    wrong with an element, `trouble` a list of faults in reporting."""
+    wrong with an element, `trouble` a list of faults in reporting, `last_word` the time.monotonic() of
+    rpm's last report, `drain` a function that has told what rpm wrote last."""
 
     def __init__(self, elements, family):
         """`family` gives the family of an architecture."""
@@ -70,6 +79,8 @@ class Display(dnf.callback.TransactionProgress):
         self.begun = False
         self.reasons = {}
         self.trouble = []
+        self.last_word = time.monotonic()
+        self.drain = lambda: None
         self._current = None      # (package, action) of the element that rpm works on
         self._scriptlet = None    # the package whose scriptlet runs
         self._number = 0          # of the present element
@@ -181,6 +192,8 @@ class Display(dnf.callback.TransactionProgress):
     @_contained
     def finish(self):
         """rpm is through."""
+        drain, self.drain = self.drain, lambda: None
+        drain()
         self._finish_element()
         self._current = self._scriptlet = None
         for fault in self.trouble:

@@ -1,6 +1,5 @@
 """One transaction: mark, resolve, list, confirm, download, check signatures, run, report."""
 
-import ctypes
 import encodings.idna  # noqa: F401  (nothing can be imported while rpm is in another root)
 import linecache  # noqa: F401
 import os
@@ -14,10 +13,8 @@ import rpm
 from yum import Errors
 
 from . import display, elements, errors, groups, interrupted, keys, language, locks, meters, outcome
-from . import packages, report, resolve, root, unlisted
+from . import packages, report, resolve, root, unlisted, waiting
 from .base import full_cache
-
-_CLONE_FS = 0x200
 
 
 class Transaction:
@@ -142,14 +139,13 @@ class Transaction:
         shown = display.Display(self._elements, self._yumio.getBiArch)
         base.args = ["vok"]  # what DNF's history shows as the command line
         if base.conf.installroot != "/":
-            # rpm changes the root directory; this thread's alone, not that of the whole process.
-            ctypes.CDLL(None).unshare(_CLONE_FS)
+            root.separate()
         interrupted.write(self._elements)
         base.history.log_scriptlet_output = HistoryOutput(base.history)
         failure = ""
         try:
             with errors.translated():
-                locks.guarded("transaction", False, lambda: base.do_transaction(shown))
+                locks.guarded("transaction", False, lambda: self._run(shown))
         except BaseException as error:
             if not shown.begun:
                 interrupted.clear()
@@ -163,6 +159,10 @@ class Transaction:
             self._tell_outcome(shown, failure)
         except Exception as error:  # what was done stays done, whatever its report meets
             report.errorlog(0, "The report of the transaction failed: %s" % report.clean(error))
+
+    def _run(self, shown):
+        with waiting.Watcher(lambda: shown.last_word):
+            self._base.do_transaction(shown)
 
     def _tell_outcome(self, shown, failure):
         outcomes = outcome.Outcomes(self._elements, interrupted.installed_packages(self._base),
