@@ -6,14 +6,11 @@ import weakref
 import dnf
 import dnf.exceptions
 import hawkey
-import rpm
 
 from yum import Errors
 
-from . import certificates, config, database, errors, keys, locks, meters, report, root
+from . import certificates, config, database, errors, keys, locks, meters, plugins, report, root
 
-# rpm on some distributions keeps its database in the user's home unless told otherwise.
-_DATABASE = "/var/lib/rpm"
 _SOURCES = ["src", "nosrc"]
 
 
@@ -24,6 +21,7 @@ class Base(dnf.Base):
     def __init__(self, conf):
         super().__init__(conf)
         self._reading = 0
+        self._plugins = plugins.Plugins()
         self.apart = {}
 
     def _add_repo_to_sack(self, repo):
@@ -102,33 +100,22 @@ class Session:
     session closes the former once it has packages of its own; until then the former can be used."""
 
     _open = lambda: None  # a weak reference to the session that is open
-    _plugins = None       # the classes of DNF's plugins, which it loads once in a process
 
     def __init__(self):
         former = Session._open()
         if former is not None and former.spent:
             former.close()
         self.conf = config.read_main()
-        if root.prefix() and rpm.expandMacro("%{_dbpath}") != _DATABASE:
-            rpm.addMacro("_dbpath", _DATABASE)
         self.spent = False
         self._cookie = ""  # of the rpm database that the sack was filled from
         self.base = Base(self.conf)
         with errors.translated():
             if self.conf.plugins:
-                self._init_plugins()
+                self.base._plugins.start(self.base)
+                self.base.pre_configure_plugins()
             config.read_repositories(self.conf, self.base.repos)
             if self.conf.plugins:
                 self.base.configure_plugins()
-
-    def _init_plugins(self):
-        if Session._plugins is None:
-            self.base.init_plugins()
-            Session._plugins = list(self.base._plugins.plugin_cls)
-        else:
-            self.base._plugins.plugin_cls = list(Session._plugins)
-            self.base._plugins._run_init(self.base)
-        self.base.pre_configure_plugins()
 
     def close(self):
         """Ends the session and frees what it holds. Package objects stay readable."""

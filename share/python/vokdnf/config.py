@@ -10,7 +10,7 @@ import dnf.repo
 import dnf.rpm
 import libdnf.conf
 
-from . import report, root
+from . import database, report, root
 
 MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf", "/etc/dnf/dnf.conf")
 REPO_DIRECTORIES = ("/etc/yum.repos.d", "/etc/yum/repos.d")
@@ -27,7 +27,7 @@ def main_file():
 
 def read_main():
     """The main section as DNF's configuration object. Raises SystemExit with the cause when there
-    is no usable main file."""
+    is no usable main file, or the rpm database cannot be read."""
     path = main_file()
     if path is None:
         raise SystemExit("There is no main configuration file: neither %s exists."
@@ -47,6 +47,7 @@ def read_main():
         raise SystemExit("The main configuration file %s is malformed: %s"
                          % (path, _reason(error))) from error
     _settings(conf)
+    database.check(conf)
     _substitutions(conf, opened)
     _directories(conf)
     return conf

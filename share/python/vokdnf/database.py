@@ -1,10 +1,36 @@
-"""rpm's database, read beside what DNF has of it: whether it changed."""
+"""rpm's database, read beside what DNF has of it: whether it is sound, and whether it changed."""
+
+import os
+import sys
+import tempfile
 
 import dnf.rpm.transaction
 import hawkey
 import rpm
 
-from . import packages, report
+from . import packages, report, root
+
+# rpm on some distributions keeps its database in the user's home unless told otherwise.
+_PATH = "/var/lib/rpm"
+
+
+def check(conf):
+    """Raises SystemExit with the reason when the database cannot be opened for reading."""
+    if root.prefix() and rpm.expandMacro("%{_dbpath}") != _PATH:
+        rpm.addMacro("_dbpath", _PATH)
+    if rpm.TransactionSet(conf.installroot).openDB() == 0:
+        return
+    with tempfile.TemporaryFile("w+", errors="replace") as log:  # rpm tells reasons in its log alone
+        rpm.setLogFile(log)
+        rpm.TransactionSet(conf.installroot).openDB()
+        rpm.setLogFile(sys.stderr)
+        log.seek(0)
+        lines = list(dict.fromkeys(line.strip().replace("error: ", "", 1) for line in log))
+    advice = "Run \"rpm --rebuilddb\" as the administrator, or restore the directory from a backup." \
+        if os.geteuid() == 0 else "The administrator can mend it by \"rpm --rebuilddb\" or from a backup."
+    raise SystemExit(report.told("\n".join(["The rpm database in %s cannot be read:"
+                                            % rpm.expandMacro("%{_dbpath}")]
+                                           + ["  " + line for line in lines] + [advice])))
 
 
 def cookie(conf):

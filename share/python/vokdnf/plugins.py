@@ -1,0 +1,73 @@
+"""DNF's plug-ins. One that fails is told of once, by its name, and does no more until VOK ends; the rest
+goes on."""
+
+import dnf.exceptions
+import dnf.plugin
+
+from . import report
+
+# Here an error of DNF's own classes is what the plug-in has to say about the transaction.
+_OBJECTIONS = ("resolved", "pre_transaction")
+
+
+class Plugins(dnf.plugin.Plugins):
+    """The plug-ins of one base. DNF loads their classes once in a process."""
+
+    _classes = None
+
+    def start(self, base):
+        """Loads and makes the plug-ins."""
+        if Plugins._classes is None:
+            Plugins._classes = []
+            with _Guarded(None):
+                self._load(base.conf, (), ())
+            Plugins._classes = list(self.plugin_cls)
+        self.plugin_cls = list(Plugins._classes)
+        self._run_init(base)
+
+    def _check_enabled(self, conf, enable_plugins):
+        enabled = []
+        for kind in self.plugin_cls:
+            alone = dnf.plugin.Plugins()
+            alone.plugin_cls = [kind]
+            with _Guarded(kind):
+                alone._check_enabled(conf, enable_plugins)
+                enabled += alone.plugin_cls
+        self.plugin_cls = enabled
+
+    def _run_init(self, base, cli=None):
+        for kind in list(self.plugin_cls):
+            with _Guarded(kind):
+                self.plugins.append(kind(base, cli))
+
+    def _caller(self, method):
+        for plugin in list(self.plugins):
+            guarded = _Guarded(type(plugin), dnf.exceptions.Error if method in _OBJECTIONS else ())
+            with guarded:
+                getattr(plugin, method)()
+            if guarded.failed:
+                self.plugins.remove(plugin)
+
+
+class _Guarded:
+    """Runs its block, a step of the plug-in of class `kind`, and tells of its failure; what is of the
+    classes `passed` goes through."""
+
+    def __init__(self, kind, passed=()):
+        self._kind = kind
+        self._passed = passed
+        self.failed = False
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, _, error, __):
+        if not isinstance(error, (Exception, SystemExit)) or isinstance(error, self._passed):
+            return False
+        self.failed = True
+        if self._kind in (Plugins._classes or ()):
+            Plugins._classes.remove(self._kind)
+        report.errorlog(0, "The plug-in %s fails and is left out: %s"
+                        % (getattr(self._kind, "name", None) or "of DNF", report.clean(error)
+                           or type(error).__name__))
+        return True
