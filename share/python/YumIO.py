@@ -130,12 +130,14 @@ class YumIO:
 
     def requiredPkgs(self, name):
         """List of package names that marking the group member `name` stands for."""
-        return groups.member_names(self._session, name)
+        with errors.translated():
+            return groups.member_names(self._session, name)
 
     def pkgTree(self, name):
         """The same list; see vokdnf.groups.member_names for why it holds no dependencies. It does not hold
         `name` itself when others replace that."""
-        return groups.member_names(self._session, name)
+        with errors.translated():
+            return groups.member_names(self._session, name)
 
     def noteGroups(self, noted):
         """List of (group object, action 0 update, 1 install, 2 remove) for the next apply."""
