@@ -1,0 +1,197 @@
+#include "widgets/htextedit.h"
+#include "widgets/messagebox.h"
+#include "widgets/scrollabledialogs.h"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBlock>
+#include <QTimer>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPushButton *button(const QWidget *dialog, const QString &name)
+{
+    return dialog->findChild<QPushButton *>(name);
+}
+
+} // namespace
+
+// Dialogs are answered by a key or a click once they are up; "close" is the window's own close button.
+class TestWidgets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void messageBox_data()
+    {
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<int>("defaultButton");
+        QTest::addColumn<int>("escapeButton");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("result");
+        const QStringList none(3), three{u"&A"_s, u"&B"_s, u"&C"_s};
+        QTest::newRow("ok by escape") << none << 0 << -1 << u"escape"_s << 0;
+        QTest::newRow("last") << three << 0 << 1 << u"button2"_s << 2;
+        QTest::newRow("default") << three << 2 << 1 << u"return"_s << 2;
+        QTest::newRow("escape") << three << 2 << 1 << u"escape"_s << 1;
+    }
+
+    void messageBox()
+    {
+        QFETCH(QStringList, buttons);
+        QFETCH(int, defaultButton);
+        QFETCH(int, escapeButton);
+        QFETCH(QString, answer);
+        answerNext(answer);
+        QTEST(showMessageBox(QMessageBox::Warning, nullptr, u"Title"_s, u"Text"_s, buttons[0],
+                             buttons[1], buttons[2], defaultButton, escapeButton),
+              "result");
+        QVERIFY(m_answered);
+    }
+
+    void messageBoxText()
+    {
+        const QString markup = u"<b>a</b>\n<img src=x>"_s;
+        answerNext(u"return"_s, [&](QWidget *dialog) {
+            const auto *box = qobject_cast<QMessageBox *>(dialog);
+            QCOMPARE(box->text(), markup);
+            QCOMPARE(box->textFormat(), Qt::PlainText);
+        });
+        showMessageBox(QMessageBox::Critical, nullptr, u"Title"_s, markup);
+        QVERIFY(m_answered);
+
+        const QString lines = u"line\n"_s.repeated(4000);
+        answerNext(u"escape"_s, [&](QWidget *dialog) {
+            QVERIFY(dialog->height() <= dialog->screen()->availableSize().height());
+            QCOMPARE(qobject_cast<QMessageBox *>(dialog)->detailedText(), lines);
+        });
+        QCOMPARE(showMessageBox(QMessageBox::Critical, nullptr, u"Title"_s, lines), 0);
+        QVERIFY(m_answered);
+    }
+
+    void confirm_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("result");
+        QTest::newRow("no") << u"noButton"_s << 0;
+        QTest::newRow("return") << u"return"_s << 1;
+        QTest::newRow("escape") << u"escape"_s << 0;
+        QTest::newRow("close") << u"close"_s << 0;
+    }
+
+    void confirm()
+    {
+        QFETCH(QString, answer);
+        ScrollableConfirmDialog dialog(u"Text"_s, u"&Proceed"_s, u"&Cancel"_s);
+        QCOMPARE(button(&dialog, u"yesButton"_s)->text(), u"&Proceed"_s);
+        QCOMPARE(button(&dialog, u"noButton"_s)->text(), u"&Cancel"_s);
+        answerNext(answer);
+        QTEST(dialog.exec(), "result");
+        QVERIFY(m_answered);
+    }
+
+    void scrollableSizes_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("scrolls");
+        const QString line = u"glibc-2.36-9.x86_64\tbase\t5 M\n"_s;
+        QTest::newRow("3 lines") << line.repeated(3) << false;
+        QTest::newRow("3000 lines") << line.repeated(3000) << true;
+        QTest::newRow("long line") << u"word "_s.repeated(50000) << true;
+    }
+
+    void scrollableSizes()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, scrolls);
+        ScrollableErrorDialog dialog(text);
+        answerNext(u"okButton"_s, [&](QWidget *shown) {
+            const QSize screen = shown->screen()->availableSize();
+            QVERIFY(shown->width() <= screen.width() * 9 / 10);
+            QVERIFY(shown->height() <= screen.height() * 9 / 10);
+            const auto *edit = shown->findChild<QPlainTextEdit *>();
+            QCOMPARE(edit->verticalScrollBar()->maximum() > 0, scrolls);
+            QCOMPARE(edit->horizontalScrollBar()->maximum(), 0);
+            // Not the largest for every text.
+            QVERIFY(scrolls || shown->height() < screen.height() / 2);
+        });
+        dialog.exec();
+        QVERIFY(m_answered);
+    }
+
+    void scrollableText()
+    {
+        const QString markup = u"<b>a</b> & b\n\tc"_s;
+        ScrollableConfirmDialog dialog(markup, u"Yes"_s, u"No"_s);
+        answerNext(QString(), [&](QWidget *shown) {
+            auto *edit = shown->findChild<QPlainTextEdit *>();
+            QCOMPARE(edit->toPlainText(), markup);
+            // By keyboard, without changing the text; Return there still is the default button's.
+            edit->setFocus();
+            QTest::keyClick(edit, Qt::Key_Home, Qt::ControlModifier);
+            QTest::keyClick(edit, Qt::Key_Right, Qt::ShiftModifier);
+            QCOMPARE(edit->textCursor().selectedText(), u"<"_s);
+            QTest::keyClick(edit, Qt::Key_X);
+            QCOMPARE(edit->toPlainText(), markup);
+            QTest::keyClick(edit, Qt::Key_Return);
+            QVERIFY(!shown->isVisible());
+        });
+        QCOMPARE(dialog.exec(), 1);
+        QVERIFY(m_answered);
+    }
+
+    void paragraphs()
+    {
+        HTextEdit edit;
+        for (const char *html :
+             {"", "<h2>Head</h2>", "<font color=\"red\">a&#x0020;&#x0020;b</font>", "c"})
+            edit.appendCompact(QLatin1String(html));
+        QCOMPARE(edit.toPlainText(), u"\nHead\na  b\nc"_s);
+        // Nothing of a paragraph's looks goes over to the next.
+        const QTextBlock last = edit.document()->lastBlock();
+        QCOMPARE(last.blockFormat().headingLevel(), 0);
+        QCOMPARE(last.begin().fragment().charFormat().fontWeight(), int(QFont::Normal));
+        QCOMPARE(last.begin().fragment().charFormat().foreground().style(), Qt::NoBrush);
+        edit.clear();
+        edit.appendCompact(u"d"_s);
+        QCOMPARE(edit.toPlainText(), u"d"_s);
+    }
+
+private:
+    // Looks at the next modal dialog once it is up, then answers it, and closes it in any case.
+    void answerNext(
+        const QString &answer, const std::function<void(QWidget *)> &look = [](auto *) {})
+    {
+        m_answered = false;
+        QTimer::singleShot(0, this, [this, look, answer] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (!dialog)
+                return;
+            look(dialog);
+            m_answered = true;
+            // The window system may not have activated it yet.
+            QWidget *focused = dialog->focusWidget() ? dialog->focusWidget() : dialog;
+            if (answer == u"return"_s)
+                QTest::keyClick(focused, Qt::Key_Return);
+            else if (answer == u"escape"_s)
+                QTest::keyClick(focused, Qt::Key_Escape);
+            else if (QPushButton *pressed = button(dialog, answer))
+                QTest::mouseClick(pressed, Qt::LeftButton);
+            else
+                dialog->close();
+        });
+    }
+
+    bool m_answered = false;
+};
+
+QTEST_MAIN(TestWidgets)
+#include "test_widgets.moc"
