@@ -7,7 +7,7 @@ thin; the work is in the package vokdnf. Errors are those of yum.Errors, with th
 import os
 import sys
 
-_HERE = os.path.join(os.environ.get("VOKSHARE") or "/usr/share/vok", "python")
+_HERE = "%s/python" % os.environ.get("VOKSHARE", "/usr/share/vok")
 if _HERE not in sys.path:
     sys.path.insert(0, _HERE)
 

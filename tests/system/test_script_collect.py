@@ -1,5 +1,6 @@
 """The script's start, what it collects, the objects it hands over, and cache cleaning."""
 
+import os
 import pathlib
 import subprocess
 import unittest
@@ -137,18 +138,21 @@ class Collect(Case):
             self.assertEqual(result["values"][1], "%s/var/cache/%s/x86_64/9" % (root, main.stem))
 
     def test_bad_repository_files(self):
-        """A bad file or section is named with the reason; the rest is used."""
+        """A bad file or section is named with the reason; the rest is used, whatever bytes its name has."""
         root = self.root()
         directory = pathlib.Path(root, "etc/yum.repos.d")
+        (directory / os.fsdecode(b"caf\xe9.repo")).write_text("[bytes]\nname=x\nbaseurl=file:///x\nenabled=0\n")
+        (directory / os.fsdecode(b"\xe9.repo")).write_text("[open\n")
         (directory / "broken.repo").write_text("[broken\nname=x\n")
         (directory / "loose.repo").write_text("text\n[loose]\nbaseurl=http://127.0.0.1/\n")
         (directory / "odd.repo").write_text("[main]\nenabled=1\n[bad id]\nname=x\nenabled=0\n"
                                             "[fine]\nname=x\nbaseurl=http://127.0.0.1/\nenabled=0\n")
         result = run(root, {"steps": [COLLECT, evaluate("list(io.repos.repos)")]})
         self.assertEqual(set(result["values"][1]), {"base", "updates", "extras", "foundry", "bulk",
-                                                    "foundry-source", "fine"})
+                                                    "foundry-source", "fine", "bytes"})
         told = [text for _, text in calls(result, "errorlog")]
         for part in ("/etc/yum.repos.d/broken.repo is left out: IniParser: Missing ']'",
+                     "/etc/yum.repos.d/\ufffd.repo is left out: IniParser: Missing ']'",
                      "/etc/yum.repos.d/loose.repo is left out: ", "Bad id for repo: bad id"):
             self.assertTrue([text for text in told if part in text], part)
 

@@ -159,4 +159,5 @@ def row(po, state, family):
     return (po, state, report.clean(pkg.name),
             packages.evr_text(pkg.epoch, report.clean(pkg.version), report.clean(pkg.release)),
             packages.INSTALLED if state == INSTALLED else pkg.reponame, arch, family(arch), pkg.size,
-            report.clean(summary) if summary else "", pkg.buildtime, group == "Suite")
+            report.clean(summary) if summary else "", pkg.buildtime,
+            (group or "").rstrip("\n") == "Suite")

@@ -10,7 +10,7 @@ import dnf.repo
 import dnf.rpm
 import libdnf.conf
 
-from . import database, report, root
+from . import database, language, report, root
 
 MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf", "/etc/dnf/dnf.conf")
 REPO_DIRECTORIES = ("/etc/yum.repos.d", "/etc/yum/repos.d")
@@ -37,9 +37,8 @@ def read_main():
     conf.installroot = root.prefix() or "/"
     conf.config_file_path = opened
     try:
-        with open(opened, "rb"):
-            pass
-        conf.read(opened, _SET_BY_FILE)
+        with open(opened, "rb"), language.english():
+            conf.read(opened, _SET_BY_FILE)
     except OSError as error:
         raise SystemExit("Unable to read the main configuration file %s: %s"
                          % (path, error.strerror)) from error
@@ -154,11 +153,13 @@ def read_repositories(conf, repositories):
         files += sorted(glob.glob(glob.escape(directory) + "/*.repo"))
     for path in files:
         try:
-            with open(path, "rb"):
-                pass
-            for repo in reader._get_repos(path):
-                _place_inside(repo)
-                repositories.add(repo)
+            with open(path, "rb") as stream, language.english():
+                # The parser takes no name that is not UTF-8.
+                name = path if report.clean(path) == path else "/proc/self/fd/%d" % stream.fileno()
+                for repo in reader._get_repos(name):
+                    repo.repofile = report.clean(path)
+                    _place_inside(repo)
+                    repositories.add(repo)
         except OSError as error:
             if not os.path.isdir(path):
                 _left_out(path, error.strerror)
@@ -171,8 +172,9 @@ def _left_out(path, reason):
 
 
 def _reason(error):
-    """The parser's own words, without the file names that were put before them."""
-    return report.clean(error).rsplit(" failed: ", 1)[-1]
+    """The parser's own words, without the sentence that DNF puts around them."""
+    words = getattr(error, "__context__", None)
+    return report.clean(words if isinstance(words, RuntimeError) else error).rsplit(" failed: ", 1)[-1]
 
 
 def _place_inside(repo):
