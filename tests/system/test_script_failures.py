@@ -30,25 +30,18 @@ WAYS_OUT = {
 LONG = "fail-pretrans-under-a-name-that-is-too-long-for-lua"
 # Marks; what is reported of each element that is not simply done; what came and what went.
 HALF_WAY = {
-    "%pre": ({"install": ["fail-pre", "abacus"]}, {"fail-pre": ("failed", "%prein")},
-             {"abacus"}, set()),
-    "%pre in Lua": ({"install": ["fail-lua"]}, {"fail-lua": ("failed", "on purpose")}, set(), set()),
     "%pretrans beside an epoch and a name that is cut": (
         {"install": ["fail-pretrans", LONG, "abacus"]},
         {"fail-pretrans": ("failed", "%pretrans"), LONG: ("failed", "%pretrans")}, {"abacus"}, set()),
-    "%pre of an update": ({"update": ["fail-update"]}, {"fail-update": ("failed", "%prein"),
-                          "fail-update old": ("skipped", "was not installed")}, set(), set()),
-    "%post": ({"install": ["fail-post"]}, {"fail-post": ("done", "%post")}, {"fail-post"}, set()),
-    "%preun": ({"remove": ["fail-preun", "clock"]}, {"fail-preun": ("failed", "%preun")},
-               set(), {"clock"}),
-    "%preun of the old version": ({"update": ["doubles"]}, {"doubles old": ("failed", "%preun")},
-                                  {"doubles"}, set()),
-    "a trigger": ({"install": ["badwire"]}, {"badwire": ("done", "%triggerin(bad-watcher")},
-                  {"badwire"}, set()),
-    "a missing interpreter": ({"install": ["no-shell"]}, {"no-shell": ("done", "no-such-shell")},
-                              {"no-shell"}, set()),
-    "what needs a package that failed": ({"install": ["needs-fail-pre"]},
-                                         {"fail-pre": ("failed", "%prein")}, {"needs-fail-pre"}, set()),
+    "scriptlets of what comes": (
+        {"install": ["needs-fail-pre", "fail-lua", "fail-post", "badwire", "no-shell", "abacus"]},
+        {"fail-pre": ("failed", "%prein"), "fail-lua": ("failed", "on purpose"), "fail-post": ("done", "%post"),
+         "badwire": ("done", "%triggerin(bad-watcher"), "no-shell": ("done", "no-such-shell")},
+        {"needs-fail-pre", "fail-post", "badwire", "no-shell", "abacus"}, set()),
+    "scriptlets of updates and of what goes": (
+        {"update": ["fail-update", "doubles"], "remove": ["fail-preun", "clock"]},
+        {"fail-update": ("failed", "%prein"), "fail-update old": ("skipped", "was not installed"),
+         "doubles old": ("failed", "%preun"), "fail-preun": ("failed", "%preun")}, {"doubles"}, {"clock"}),
 }
 
 

@@ -8,127 +8,63 @@ from scriptdriver import SANDBOX, Case, calls, run, tool
 
 # Marks; the listing (names only); what is gone and what came, as rpm tells it; what scriptlets print.
 TABLE = {
-    "an installation alone": (
-        {"install": ["abacus"]}, {"installed": ["abacus"]},
-        (), ("abacus-1.2-1.x86_64",)),
-    "a chain of dependencies": (
-        {"install": ["chain-one"]},
-        {"installed": ["chain-one"], "depinstalled": ["chain-two", "chain-three", "chain-four"]},
-        (), ("chain-one-1.0-1.noarch", "chain-two-1.0-1.noarch", "chain-three-1.0-1.noarch",
-             "chain-four-1.0-1.noarch")),
-    "an update with an epoch": (
-        {"update": ["epochal"]}, {"updated": ["epochal"]},
-        ("epochal-5.0-1.noarch",), ("epochal-1.2-1.noarch",)),
-    "an update that needs an installation": (
-        {"update": ["bellows"]}, {"updated": ["bellows"], "depinstalled": ["airpipe"]},
-        ("bellows-2.0-1.noarch",), ("bellows-3.0-1.noarch", "airpipe-1.0-1.noarch")),
-    "an update that needs another": (
-        {"update": ["lockstep"]}, {"updated": ["lockstep"], "depupdated": ["lockstep-libs"]},
-        ("lockstep-1.0-1.noarch", "lockstep-libs-1.0-1.noarch"),
-        ("lockstep-2.0-1.noarch", "lockstep-libs-2.0-1.noarch")),
-    "changes between noarch and an architecture": (
-        {"update": ["swift-data", "swallow-data"]}, {"updated": ["swallow-data", "swift-data"]},
-        ("swift-data-1.0-1.noarch", "swallow-data-1.0-1.x86_64"),
-        ("swift-data-2.0-1.x86_64", "swallow-data-2.0-1.noarch")),
-    "both architectures of one name": (
-        {"update": ["libtwin"]}, {"updated": ["libtwin", "libtwin"]},
-        ("libtwin-1.0-1.i686", "libtwin-1.0-1.x86_64"),
-        ("libtwin-1.1-1.i686", "libtwin-1.1-1.x86_64")),
-    "a package kept in several versions": (
-        {"update": ["kernel"]}, {"updated": ["kernel"]}, (), ("kernel-6.1.0-9.x86_64",)),
-    "all versions of such a package": (
-        {"remove": ["kernel"]}, {"removed": ["kernel", "kernel"]},
-        ("kernel-6.1.0-1.x86_64", "kernel-6.1.0-5.x86_64"), ()),
-    "a removal that takes what stands on it": (
-        {"remove": ["stack-floor"]},
-        {"removed": ["stack-floor"], "depremoved": ["stack-roof", "stack-wall"]},
-        ("stack-floor-1.0-1.noarch", "stack-roof-1.0-1.noarch", "stack-wall-1.0-1.noarch"), ()),
-    "a package that replaces another name": (
-        {"install": ["newname"]}, {"installed": ["newname"], "obsoleted": ["oldname"]},
-        ("oldname-1.0-1.noarch",), ("newname-2.0-1.noarch",)),
-    "an update that takes over another package": (
-        {"update": ["merged"]}, {"updated": ["merged"], "obsoleted": ["oldtwin"]},
-        ("merged-1.0-1.noarch", "oldtwin-1.0-1.noarch"), ("merged-2.0-1.noarch",)),
-    "an installation that brings a downgrade": (
-        {"install": ["pins-old"]}, {"installed": ["pins-old"], "depinstalled": ["libpin"]},
-        ("libpin-2.0-1.x86_64",), ("libpin-1.0-1.x86_64", "pins-old-1.0-1.noarch")),
-    "all three kinds at once": (
-        {"install": ["chess"], "update": ["clock"], "remove": ["orphan-notes"]},
-        {"installed": ["chess"], "updated": ["clock"], "removed": ["orphan-notes"]},
-        ("clock-1.0-1.x86_64", "orphan-notes-1.0-1.noarch"),
-        ("chess-1.2-1.x86_64", "clock-1.0-2.x86_64")),
-    "twenty thousand files": (
-        {"install": ["many-files"]}, {"installed": ["many-files"]},
-        (), ("many-files-1.0-1.noarch",)),
-    "one of two providers": (
-        {"install": ["poster"]}, {"installed": ["poster"], "depinstalled": ["font-sans"]},
-        (), ("font-sans-1.0-1.noarch", "poster-1.0-1.noarch")),
-    "both providers": (
-        {"install": ["font-sans", "font-serif"]}, {"installed": ["font-sans", "font-serif"]},
-        (), ("font-sans-1.0-1.noarch", "font-serif-1.0-1.noarch")),
-    "a removal for which another provider comes": (
-        {"remove": ["mail-alpha"]}, {"removed": ["mail-alpha"], "depinstalled": ["mail-beta"]},
-        ("mail-alpha-1.0-1.noarch",), ("mail-beta-1.0-1.noarch",)),
-    "rich and weak dependencies": (
-        {"install": ["richly"]}, {"installed": ["richly"], "depinstalled": ["chess"]},
-        (), ("chess-1.2-1.x86_64", "richly-1.0-1.noarch")),
-    "the newest of several updates": (
-        {"update": ["weather"]}, {"updated": ["weather"]},
-        ("weather-1.0-1.noarch",), ("weather-1.2-2.noarch",)),
-    "one version in two repositories": (
-        {"install": ["twice"]}, {"installed": ["twice"]}, (), ("twice-1.0-1.noarch",)),
-    "the other architecture alone": (
-        {"install": ["libsolo.i686"]}, {"installed": ["libsolo"]}, (), ("libsolo-1.1-1.i686",)),
-    "both architectures removed": (
-        {"remove": ["libtwin"]}, {"removed": ["libtwin", "libtwin"]},
-        ("libtwin-1.0-1.i686", "libtwin-1.0-1.x86_64"), ()),
-    "an update of a suite": (
-        {"update": ["office-suite"]}, {"updated": ["office-suite"]},
-        ("office-suite-1.0-1.noarch",), ("office-suite-2.0-1.noarch",)),
-    "a suite with what it holds": (
-        {"install": ["games-suite"]},
-        {"installed": ["games-suite"], "depinstalled": ["chess", "mandolin"]},
-        (), ("chess-1.2-1.x86_64", "games-suite-1.0-1.noarch", "mandolin-1.2-1.x86_64")),
-    "versions that compare unlike texts": (
-        {"update": ["dictionary", "notebook"]}, {"updated": ["dictionary", "notebook"]},
-        ("dictionary-9.1-1.x86_64", "notebook-3.1~rc2-1.x86_64"),
-        ("dictionary-9.10-1.x86_64", "notebook-3.1-1.x86_64")),
-    "texts of all sorts": (
-        {"update": ["chronicle", "latin-text", "longwinded", "polyglot"], "remove": ["markup"]},
-        {"updated": ["chronicle", "latin-text", "longwinded", "polyglot"], "removed": ["markup"]},
-        ("chronicle-1.200-1.noarch", "latin-text-1.0-1.noarch", "longwinded-1.0-1.noarch",
-         "markup-1.0-1.noarch", "polyglot-1.0-1.noarch"),
-        ("chronicle-1.400-1.noarch", "latin-text-1.1-1.noarch", "longwinded-1.1-1.noarch",
-         "polyglot-1.1-1.noarch")),
-    "a configuration file that is kept": (
-        {"update": ["confy"]}, {"updated": ["confy"]},
-        ("confy-1.0-1.noarch",), ("confy-2.0-1.noarch",)),
-    "one storey of a stack": (
-        {"update": ["stack-wall"]}, {"updated": ["stack-wall"]},
-        ("stack-wall-1.0-1.noarch",), ("stack-wall-1.1-1.noarch",)),
-    "a removal of what no repository has": (
-        {"remove": ["orphan"]}, {"removed": ["orphan"], "depremoved": ["orphan-notes"]},
-        ("orphan-1.0-1.noarch", "orphan-notes-1.0-1.noarch"), ()),
-    "a protected package's update": (
-        {"update": ["vital"]}, {"updated": ["vital"]},
-        ("vital-1.0-1.noarch",), ("vital-1.1-1.noarch",)),
-    "the distribution's release": (
-        {"update": ["aster-release"]}, {"updated": ["aster-release"]},
-        ("aster-release-9-1.noarch",), ("aster-release-9-3.noarch",)),
-    "scriptlets of the shell": (
-        {"install": ["shell-hello"]}, {"installed": ["shell-hello"]},
-        (), ("shell-hello-1.1-1.noarch",), "shell-hello pre 1\nshell-hello post 1\n"),
-    "scriptlets in Lua": (
-        {"install": ["lua-hello"]}, {"installed": ["lua-hello"]}, (), ("lua-hello-1.0-1.noarch",),
-        "lua-hello pretrans\nlua-hello pre\nlua-hello post\nlua-hello posttrans\n"),
-    "a trigger of an installed package": (
-        {"install": ["tripwire"]}, {"installed": ["tripwire"]},
-        (), ("tripwire-1.0-1.noarch",), "watcher saw tripwire come\n"),
-    "a scriptlet that reads": (
-        {"install": ["inquisitive"]}, {"installed": ["inquisitive"]},
-        (), ("inquisitive-1.0-1.noarch",), "no input\n"),
-    "a scriptlet that prints a lot": (
-        {"install": ["loud"]}, {"installed": ["loud"]}, (), ("loud-1.0-1.noarch",), "\n4711\n"),
+    "installations, with what they need": (
+        {"install": ["abacus", "chain-one", "richly", "poster", "games-suite", "twice", "many-files",
+                     "libsolo.i686"]},
+        {"installed": ["abacus", "chain-one", "richly", "poster", "games-suite", "twice", "many-files",
+                       "libsolo"],
+         "depinstalled": ["chain-two", "chain-three", "chain-four", "font-sans", "chess", "mandolin"]},
+        (), ("abacus-1.2-1.x86_64", "chain-one-1.0-1.noarch", "chain-two-1.0-1.noarch",
+             "chain-three-1.0-1.noarch", "chain-four-1.0-1.noarch", "richly-1.0-1.noarch",
+             "chess-1.2-1.x86_64", "poster-1.0-1.noarch", "font-sans-1.0-1.noarch",
+             "games-suite-1.0-1.noarch", "mandolin-1.2-1.x86_64", "twice-1.0-1.noarch",
+             "many-files-1.0-1.noarch", "libsolo-1.1-1.i686")),
+    "updates that need others, change their architecture, have both, or take over a package": (
+        {"update": ["epochal", "bellows", "lockstep", "swift-data", "swallow-data", "libtwin", "merged",
+                    "weather", "stack-wall"]},
+        {"updated": ["epochal", "bellows", "lockstep", "swift-data", "swallow-data", "libtwin", "libtwin",
+                     "merged", "weather", "stack-wall"],
+         "depinstalled": ["airpipe"], "depupdated": ["lockstep-libs"], "obsoleted": ["oldtwin"]},
+        ("epochal-5.0-1.noarch", "bellows-2.0-1.noarch", "lockstep-1.0-1.noarch",
+         "lockstep-libs-1.0-1.noarch", "swift-data-1.0-1.noarch", "swallow-data-1.0-1.x86_64",
+         "libtwin-1.0-1.i686", "libtwin-1.0-1.x86_64", "merged-1.0-1.noarch", "oldtwin-1.0-1.noarch",
+         "weather-1.0-1.noarch", "stack-wall-1.0-1.noarch"),
+        ("epochal-1.2-1.noarch", "bellows-3.0-1.noarch", "airpipe-1.0-1.noarch", "lockstep-2.0-1.noarch",
+         "lockstep-libs-2.0-1.noarch", "swift-data-2.0-1.x86_64", "swallow-data-2.0-1.noarch",
+         "libtwin-1.1-1.i686", "libtwin-1.1-1.x86_64", "merged-2.0-1.noarch", "weather-1.2-2.noarch",
+         "stack-wall-1.1-1.noarch")),
+    "updates of the distribution, of several versions, and with texts of all sorts": (
+        {"update": ["kernel", "vital", "aster-release", "office-suite", "dictionary", "notebook", "chronicle",
+                    "latin-text", "longwinded", "polyglot", "confy"]},
+        {"updated": ["kernel", "vital", "aster-release", "office-suite", "dictionary", "notebook", "chronicle",
+                     "latin-text", "longwinded", "polyglot", "confy"]},
+        ("vital-1.0-1.noarch", "aster-release-9-1.noarch", "office-suite-1.0-1.noarch",
+         "dictionary-9.1-1.x86_64", "notebook-3.1~rc2-1.x86_64", "chronicle-1.200-1.noarch",
+         "latin-text-1.0-1.noarch", "longwinded-1.0-1.noarch", "polyglot-1.0-1.noarch", "confy-1.0-1.noarch"),
+        ("kernel-6.1.0-9.x86_64", "vital-1.1-1.noarch", "aster-release-9-3.noarch", "office-suite-2.0-1.noarch",
+         "dictionary-9.10-1.x86_64", "notebook-3.1-1.x86_64", "chronicle-1.400-1.noarch",
+         "latin-text-1.1-1.noarch", "longwinded-1.1-1.noarch", "polyglot-1.1-1.noarch", "confy-2.0-1.noarch")),
+    "removals of all versions and architectures, and of what stands on something": (
+        {"remove": ["kernel", "libtwin", "stack-floor", "orphan", "markup"]},
+        {"removed": ["kernel", "kernel", "libtwin", "libtwin", "stack-floor", "orphan", "markup"],
+         "depremoved": ["stack-roof", "stack-wall", "orphan-notes"]},
+        ("kernel-6.1.0-1.x86_64", "kernel-6.1.0-5.x86_64", "libtwin-1.0-1.i686", "libtwin-1.0-1.x86_64",
+         "stack-floor-1.0-1.noarch", "stack-roof-1.0-1.noarch", "stack-wall-1.0-1.noarch",
+         "orphan-1.0-1.noarch", "orphan-notes-1.0-1.noarch", "markup-1.0-1.noarch"), ()),
+    "all three kinds, with a replacement, a downgrade and another provider": (
+        {"install": ["newname", "pins-old"], "update": ["clock"], "remove": ["mail-alpha"]},
+        {"installed": ["newname", "pins-old"], "updated": ["clock"], "removed": ["mail-alpha"],
+         "obsoleted": ["oldname"], "depinstalled": ["libpin", "mail-beta"]},
+        ("oldname-1.0-1.noarch", "libpin-2.0-1.x86_64", "clock-1.0-1.x86_64", "mail-alpha-1.0-1.noarch"),
+        ("newname-2.0-1.noarch", "libpin-1.0-1.x86_64", "pins-old-1.0-1.noarch", "clock-1.0-2.x86_64",
+         "mail-beta-1.0-1.noarch")),
+    "scriptlets of the shell and in Lua, a trigger, one that reads, one that prints a lot": (
+        {"install": ["shell-hello", "lua-hello", "tripwire", "inquisitive", "loud"]},
+        {"installed": ["shell-hello", "lua-hello", "tripwire", "inquisitive", "loud"]},
+        (), ("shell-hello-1.1-1.noarch", "lua-hello-1.0-1.noarch", "tripwire-1.0-1.noarch",
+             "inquisitive-1.0-1.noarch", "loud-1.0-1.noarch"),
+        "shell-hello pre 1\n", "shell-hello post 1\n", "lua-hello pretrans\n", "lua-hello pre\n",
+        "lua-hello post\n", "lua-hello posttrans\n", "watcher saw tripwire come\n", "no input\n", "\n4711\n"),
 }
 
 # The same marks as commands of dnf. Of updates that cannot be had it says nothing, while here the user
@@ -168,7 +104,8 @@ class Transactions(Case):
                 told = {row[0].partition(":")[2].replace(":", "", 1) for row in outcomes}
                 self.assertEqual({one for one in before ^ after}, told)
                 output = "".join(text for text, in calls(result, "stdoutWrite")) + result["stdout"]
-                self.assertIn(*(printed or [""]), output)
+                for text in printed:
+                    self.assertIn(text, output)
                 self.assertTraces(root, files - self.files(root, came), came)
                 history = tool(root, "dnf", "history", "info", "last")
                 self.assertRegex(history, r"Comment +: Done with VOK")
@@ -220,9 +157,8 @@ class Transactions(Case):
         self.assertSame(ours, theirs)
 
     def test_told_while_it_runs(self):
-        root = self.root()
-        result, *_ = self.apply(root, {"install": ["shell-hello"], "update": ["bellows"],
-                                       "remove": ["orphan-notes"]})
+        result, *_ = self.apply(self.root(), {"install": ["shell-hello"], "update": ["bellows"],
+                                              "remove": ["orphan-notes"]})
         names = [call[0] for call in result["calls"]]
         order = ["dsTsCheck", "dsRestartLoop", "listTransaction", "reportDownloadSize",
                  "userconfirm", "tsInitCallback", "tsEvent", "postTransactionOutput",
@@ -239,15 +175,10 @@ class Transactions(Case):
         self.assertEqual(set(firsts.values()), {
             ("0:airpipe-1.0-1.noarch", 30), ("0:bellows-3.0-1.noarch", 10),
             ("0:shell-hello-1.1-1.noarch", 30), ("orphan-notes", 40), ("bellows", 90)})
-        output = "".join(text for text, in calls(result, "stdoutWrite"))
-        self.assertIn("shell-hello pre 1\n", output)
         self.assertEqual([state for state, _ in calls(result, "jobState")][-4:],
                          ["resolve", "download", "transaction", "done"])
         self.assertEqual([can for state, can in calls(result, "jobState")
                           if state == "transaction"], [0])
-        history = tool(root, "dnf", "history", "info", "last")
-        self.assertRegex(history, r"Comment +: Done with VOK")
-        self.assertRegex(history, r"Return-Code +: Success")
 
     def test_sessions_after_one_another(self):
         """Declined and failed applies leave the session usable; a transaction ends it."""
