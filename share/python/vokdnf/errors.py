@@ -5,6 +5,7 @@ import contextlib
 import dnf.exceptions
 import hawkey
 import libdnf.error
+import rpm
 
 from yum import Errors
 
@@ -33,5 +34,5 @@ def translated(repo_error=Errors.NoMoreMirrorsRepoError, prefix=""):
         raise Errors.LockError(prefix + report.told(error)) from error
     except dnf.exceptions.CompsError as error:
         raise Errors.GroupsError(prefix + report.told(error)) from error
-    except (dnf.exceptions.Error, hawkey.Exception, libdnf.error.Error, RuntimeError) as error:
+    except (dnf.exceptions.Error, hawkey.Exception, libdnf.error.Error, rpm.error, RuntimeError) as error:
         raise Errors.YumBaseError(prefix + report.told(error)) from error
