@@ -20,6 +20,12 @@
 #include <QPushButton>
 #include <QTimer>
 
+namespace {
+
+constexpr int namesInLine = 5;
+
+} // namespace
+
 MainWindow::MainWindow() : m_yumIO(new YumIO)
 {
     setWindowTitle(tr("VOK"));
@@ -97,6 +103,7 @@ void MainWindow::initialize()
         return;
     }
     m_engineReady = true;
+    showKeptReport();
     checkCredentials();
     if (m_quitAsked)
         return;
@@ -115,7 +122,22 @@ void MainWindow::initialize()
 // What a repository still needs to be told before it can be used is asked for here.
 void MainWindow::checkCredentials()
 {
+    if (m_quitAsked)
+        return;
     m_yumConfIO->read(this);
+    noteUnreadable();
+}
+
+void MainWindow::noteUnreadable()
+{
+    const QStringList unreadable = m_yumConfIO->unreadable();
+    if (unreadable.isEmpty() || unreadable == m_unreadable)
+        return;
+    m_unreadable = unreadable;
+    const QString text =
+        tr("Left out, because you may not read it: %1").arg(unreadable.join(QStringLiteral(", ")));
+    m_yumIO->log(Log::Kind::Warning, 0, text);
+    note(text);
 }
 
 void MainWindow::showMainArea()
@@ -125,9 +147,10 @@ void MainWindow::showMainArea()
     m_focusBeforeJob = m_view;
 }
 
-void MainWindow::collect()
+void MainWindow::collect(Refresh why)
 {
     const bool collected = m_yumIO->collect(m_reposUsed);
+    giveMarksBack(why);
     if (!collected)
         note(m_yumIO->count() > 0
                  ? tr("The packages were not collected again; the table is as before.")
@@ -141,14 +164,33 @@ void MainWindow::collect()
         m_proxy->setWaiting(false);
 }
 
-void MainWindow::recollect()
+// What was marked and is done now has no mark any more, which needs no words.
+void MainWindow::giveMarksBack(Refresh why)
+{
+    const Marks::Told told = m_marks.giveBack(*m_yumIO);
+    const auto tell = [this](const QString &text, const QStringList &names) {
+        if (names.isEmpty())
+            return;
+        m_yumIO->log(Log::Kind::Warning, 0, text.arg(names.join(QStringLiteral(", "))));
+        QStringList first = names.mid(0, namesInLine);
+        if (first.size() < names.size())
+            first.append(tr("%1 more").arg(names.size() - first.size()));
+        note(text.arg(first.join(QStringLiteral(", "))));
+    };
+    if (why == Refresh::Asked)
+        tell(tr("No longer possible, and not marked any more: %1."), told.lost);
+    tell(tr("Marked now in another version: %1."), told.changed);
+}
+
+void MainWindow::recollect(Refresh why)
 {
     if (m_quitAsked)
         return;
+    m_marks.take(*m_yumIO);
     m_yumIO->renew();
     m_model->reset();
     if (!m_quitAsked)
-        collect();
+        collect(why);
     warnUnlistedActions();
     stateChanged(-1);
 }
@@ -289,6 +331,7 @@ void MainWindow::clearActions()
 {
     if (m_busy)
         return;
+    m_marks.clear();
     m_model->clearActions();
     warnUnlistedActions();
     stateChanged(-1);
@@ -301,7 +344,7 @@ void MainWindow::apply()
         return;
     if (m_yumIO->apply()) {
         checkCredentials();
-        recollect();
+        recollect(Refresh::AfterApply);
     }
     warnUnlistedActions();
     stateChanged(-1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mainwindow/marks.h"
 #include "packagetable/packagetable.h"
 #include "repo/yumrepoenabled.h"
 
@@ -22,7 +23,6 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class YumConfIO;
-class YumIO;
 
 namespace Log {
 class Window;
@@ -63,8 +63,10 @@ public:
 
 public Q_SLOTS:
     // Ends the program; while a job runs, as soon as it has stopped. A job that can be cancelled
-    // is.
+    // is. What an rpm transaction has to report is shown before.
     void quit();
+    // As quit, with nobody there to read: the next start shows the report.
+    void terminate();
     void displayLog();
     void cleanHeaders();
     void cleanPackages();
@@ -124,14 +126,19 @@ private:
     // quit.cpp
     void finish();
     void askToQuit();
+    void decline();
+    void showKeptReport();
     void recallGeometry();
     void tell(const QString &text);
 
     void note(const QString &text) { m_notes.append(text); }
     void setReady(bool ready);
     void checkCredentials();
-    void collect();
-    void recollect();
+    void noteUnreadable();
+    enum class Refresh { Asked, AfterApply };
+    void collect(Refresh why = Refresh::Asked);
+    void recollect(Refresh why = Refresh::Asked);
+    void giveMarksBack(Refresh why);
     void cleanAndCollect(bool (YumIO::*operation)());
     void showMainArea();
 
@@ -149,9 +156,13 @@ private:
     bool m_canCancel = false;  // the running job can be cancelled now
     QPointer<QWidget> m_focusBeforeJob;
     bool m_inTransaction = false; // rpm is at work
+    bool m_rpmBegan = false;      // in the running job
     bool m_quitAsked = false;     // quit when the job has ended
+    bool m_unattended = false;    // nobody is there to read
     bool m_finished = false;      // the engine is gone
     int m_exitCode = 0;
+    Marks m_marks;               // between two collections
+    QStringList m_unreadable;    // configuration files that were named
     QStringList m_notes;         // what the line shall say when the job has ended
     bool m_closeRefused = false; // the user was told once that a transaction runs
 

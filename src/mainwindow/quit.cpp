@@ -2,12 +2,16 @@
 #include "mainwindow/mainwindow.h"
 
 #include "log/logwindow.h"
+#include "mainwindow/keptreport.h"
 #include "packagetable/sortfilterproxymodel.h"
+#include "widgets/scrollabledialogs.h"
 #include "yumio/yumio.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
@@ -22,14 +26,16 @@ const QString application = QStringLiteral("vok");
 const QString geometryKey = QStringLiteral("mainWindow/geometry");
 constexpr int declineMs = 100;
 
-// Nobody may be there any more to answer what the job asks, now or later, before it ends.
-void declineQuestion()
+// What a dialog says that asks nothing; empty when it asks.
+QString reportIn(const QWidget *dialog)
 {
-    QWidget *question = QApplication::activeModalWidget();
-    if (auto *dialog = qobject_cast<QDialog *>(question))
-        dialog->reject();
-    else if (question)
-        question->close();
+    if (const auto *box = qobject_cast<const QMessageBox *>(dialog)) {
+        if (box->buttons().size() > 1)
+            return QString();
+        return box->detailedText().isEmpty() ? box->text() : box->detailedText();
+    }
+    const auto *scrollable = qobject_cast<const ScrollableErrorDialog *>(dialog);
+    return scrollable ? scrollable->findChild<QPlainTextEdit *>()->toPlainText() : QString();
 }
 
 } // namespace
@@ -39,6 +45,7 @@ MainWindow::Job::Job(MainWindow *window) : m_window(window->m_busy ? nullptr : w
     if (!m_window)
         return;
     m_window->m_busy = true;
+    m_window->m_rpmBegan = false;
     m_window->setReady(false);
 }
 
@@ -62,6 +69,7 @@ void MainWindow::jobState(const QString &state, bool canCancel)
         return;
     m_canCancel = canCancel;
     m_inTransaction = state == QStringLiteral("transaction");
+    m_rpmBegan = m_rpmBegan || m_inTransaction;
     if (!m_inTransaction)
         m_closeRefused = false;
     m_cancelButton->setEnabled(canCancel && !m_quitAsked);
@@ -87,13 +95,51 @@ void MainWindow::quit()
         finish();
 }
 
+void MainWindow::terminate()
+{
+    m_unattended = true;
+    quit();
+}
+
+// Nobody may be there any more to answer what the job asks, now or later, before it ends. Only what
+// rpm has done is still worth reading.
+void MainWindow::decline()
+{
+    QWidget *shown = QApplication::activeModalWidget();
+    if (!shown)
+        return;
+    const QString report = m_rpmBegan ? reportIn(shown) : QString();
+    if (!report.isEmpty()) {
+        if (!m_unattended)
+            return;
+        KeptReport::add(report);
+    }
+    if (auto *dialog = qobject_cast<QDialog *>(shown))
+        dialog->reject();
+    else
+        shown->close();
+}
+
+void MainWindow::showKeptReport()
+{
+    const QString text = KeptReport::text();
+    if (text.isEmpty())
+        return;
+    m_yumIO->log(Log::Kind::Warning, 0, text);
+    ScrollableErrorDialog dialog(text, this);
+    dialog.setWindowTitle(tr("VOK Transaction Report"));
+    dialog.exec();
+    if (!m_quitAsked) // else nobody has read it yet
+        KeptReport::remove();
+}
+
 // The job goes on until it can be stopped, or until it has ended.
 void MainWindow::askToQuit()
 {
     if (!m_quitAsked) {
         auto *decliner = new QTimer(this);
         decliner->setObjectName(QStringLiteral("decliner"));
-        connect(decliner, &QTimer::timeout, this, declineQuestion);
+        connect(decliner, &QTimer::timeout, this, &MainWindow::decline);
         decliner->start(declineMs);
     }
     m_quitAsked = true;

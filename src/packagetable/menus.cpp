@@ -6,28 +6,12 @@
 namespace PackageTable {
 
 using Package::Action;
-using Package::State;
 
 namespace {
 
 QIcon shareIcon(const char *name)
 {
     return QIcon(Share::absolute(QStringLiteral("icons/%1.png").arg(QLatin1String(name))));
-}
-
-bool fits(Action action, State state)
-{
-    switch (action) {
-    case Action::Update:
-        return state == State::Updatable;
-    case Action::Install:
-        return state == State::Installable;
-    case Action::Remove:
-        return state != State::Installable;
-    case Action::None:
-        return true;
-    }
-    return false;
 }
 
 } // namespace
@@ -57,7 +41,7 @@ void ActionContextMenu::exec(const QModelIndex &index, const QPoint &globalPos)
         rows.append(index);
     const auto anyFits = [&](Action action) {
         return std::any_of(rows.cbegin(), rows.cend(), [&](const QModelIndex &row) {
-            return fits(action, m_model->getState(row.row()));
+            return Package::allows(m_model->getState(row.row()), action);
         });
     };
     m_updateAction->setEnabled(anyFits(Action::Update));
@@ -72,7 +56,7 @@ void ActionContextMenu::handleAction(Action action)
     if (rows.isEmpty())
         m_model->setAction(m_index, action);
     for (const QModelIndex &row : rows) {
-        if (fits(action, m_model->getState(row.row())))
+        if (Package::allows(m_model->getState(row.row()), action))
             m_model->setAction(row, action);
     }
 }

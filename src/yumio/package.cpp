@@ -2,6 +2,21 @@
 
 #include <cstdio>
 
+bool Package::allows(State state, Action action)
+{
+    switch (action) {
+    case Action::Update:
+        return state == State::Updatable;
+    case Action::Install:
+        return state == State::Installable;
+    case Action::Remove:
+        return state != State::Installable;
+    case Action::None:
+        return true;
+    }
+    return false;
+}
+
 Package::Entry::~Entry()
 {
     static bool warned = false;

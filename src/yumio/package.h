@@ -15,6 +15,9 @@ enum class State { Updatable = 0, Installable = 1, Installed = 2 };
 enum class Action { Update = 0, Install = 1, Remove = 2, None = 3 };
 enum class Kind { Suite = 0, Group = 1, Package = 2 };
 
+// Whether a row in that state can be marked so.
+bool allows(State state, Action action);
+
 // One package, group or suite. Entries are created and destroyed on a worker thread that holds the
 // interpreter lock; the GUI thread reads them and sets only `action`.
 class Entry

@@ -9,8 +9,11 @@
 
 namespace {
 
+// The toolkit takes its options with one dash and with two.
 bool isStyleOption(const char *argument)
 {
+    if (strncmp(argument, "--", 2) == 0)
+        ++argument;
     return strncmp(argument, "-style=", 7) == 0 || strcmp(argument, "-style") == 0;
 }
 

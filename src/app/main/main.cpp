@@ -21,7 +21,7 @@ int main(int argc, char **argv)
     applyCommandLine(argc, argv, window);
 
     Terminator terminator;
-    QObject::connect(&terminator, &Terminator::terminated, &window, &MainWindow::quit);
+    QObject::connect(&terminator, &Terminator::terminated, &window, &MainWindow::terminate);
     window.show();
     return app.exec();
 }

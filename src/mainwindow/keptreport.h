@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+// A report that nobody was there to read, kept in the system it is about until the next start.
+namespace KeptReport {
+
+// Adds to what is kept. Without the right to keep anything there nothing is.
+void add(const QString &text);
+// Empty when there is none, or none for this user.
+QString text();
+void remove();
+
+} // namespace KeptReport
