@@ -3,6 +3,7 @@
 #include "repo/rootpath.h"
 #include "repo/wholefile.h"
 
+#include <QFile>
 #include <QSaveFile>
 
 #include <sys/stat.h>

@@ -62,6 +62,8 @@ private Q_SLOTS:
         QTest::newRow("nothing") << words("vok -l") << false << true;
         QTest::newRow("option") << words("vok -style windows") << false << false;
         QTest::newRow("option with value") << words("vok -l -style=windows") << false << false;
+        QTest::newRow("two dashes") << words("vok --style windows") << false << false;
+        QTest::newRow("two dashes with value") << words("vok --style=windows") << false << false;
         QTest::newRow("settings") << words("vok") << true << false;
     }
 

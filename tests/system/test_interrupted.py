@@ -67,8 +67,8 @@ def check(root):
                           stderr=subprocess.STDOUT).stdout
 
 
-def kill_in_scriptlet(root, words, process):
-    """Kills a process once rpm runs the scriptlet of a root that holds these words."""
+def wait_for_scriptlet(root, words):
+    """Waits until rpm runs the scriptlet of a root that holds these words."""
     def runs():
         for path in pathlib.Path(root, "var/tmp").glob("rpm-tmp.*"):
             try:
@@ -79,6 +79,11 @@ def kill_in_scriptlet(root, words, process):
         return False
 
     wait_for(runs, "the scriptlet of %s" % words)
+
+
+def kill_in_scriptlet(root, words, process):
+    """Kills a process then."""
+    wait_for_scriptlet(root, words)
     os.kill(process(), signal.SIGKILL)
 
 
@@ -199,13 +204,16 @@ class RealProgram(Case):
         self.addCleanup(program.kill)
         return program
 
-    def mark(self, program):
-        """Marks the only row that is listed."""
+    def apply_listed(self, program, count):
+        """Marks the rows that are listed, a known number of them, and applies."""
         program.wait_enabled(program.find("push button", "Refresh"), "the window")
         table = program.find(("table", "tree table"))
-        wait_for(lambda: len(program.cells(table)) == 1, "the row alone in the table")
-        program.click(table.get_table_iface().get_accessible_at(0, 0))
+        wait_for(lambda: len(program.cells(table)) == count, "the rows alone in the table")
+        for row in range(count):
+            program.click(table.get_table_iface().get_accessible_at(row, 0))
         program.wait_enabled(program.find("push button", "Apply Actions"), "Apply Actions")
+        program.click(program.find("push button", "Apply Actions"))
+        program.click(program.find("push button", "OK", program.find("dialog", "Apply")))
 
     def test_killed_and_started_again(self):
         root = self.root()
@@ -213,9 +221,7 @@ class RealProgram(Case):
             os.environ["VOKSHARE"] = str(BUILD / "share/vok")
             self.addCleanup(os.environ.pop, "VOKSHARE")
             program = self.start(root, "-s", "all", "-e", "^slow-1 ")
-            self.mark(program)
-            program.click(program.find("push button", "Apply Actions"))
-            program.click(program.find("push button", "OK", program.find("dialog", "Apply")))
+            self.apply_listed(program, 1)
             kill_in_scriptlet(root, "slow-1 post", lambda: program.process.pid)
             program.process.wait()
             tool(root, "rpm", "--verifydb")
@@ -230,6 +236,34 @@ class RealProgram(Case):
             key("ctrl+q")
             self.assertEqual(program.end(), 0)
         self.assertEqual(check(root), "")
+
+    def test_quit_in_the_midst(self):
+        """What rpm has done is told: at once to who quits, at the next start after a SIGTERM."""
+        with Screen():
+            os.environ["VOKSHARE"] = str(BUILD / "share/vok")
+            self.addCleanup(os.environ.pop, "VOKSHARE")
+            for attended in (True, False):
+                root = self.root()
+                program = self.start(root, "-s", "all", "-e", "^(slow-1|fail-post) ")
+                self.apply_listed(program, 2)
+                wait_for_scriptlet(root, "slow-1 post")
+                if attended:
+                    key("alt+F4")
+                    key("alt+F4")
+                else:
+                    program.process.terminate()
+                    self.assertEqual(program.end(), 0)
+                    program = self.start(root)
+                dialog = program.find("dialog", "VOK Transaction Report")
+                text = "\n".join(map(program.texts, program.walk(dialog)))
+                self.assertIn("Transaction: 2 done, 0 failed, 0 skipped", text)
+                self.assertIn("fail-post", text)
+                key("Return")
+                if not attended:
+                    program.wait_enabled(program.find("push button", "Refresh"), "the window")
+                    self.assertFalse((root / "var/lib/vok/report.txt").exists(), "it is shown once")
+                    key("ctrl+q")
+                self.assertEqual(program.end(), 0)
 
 
 if __name__ == "__main__":

@@ -186,6 +186,8 @@ class Trouble(Window):
                           {"abacus-1.2-1.x86_64", "fail-post-1.0-1.noarch", "doubles-2.0-1.noarch"}))
         table = window.do("rows")["table"]
         self.assertEqual([table[name][0] for name in ("abacus", "fail-post", "fail-preun")], [PRESENT] * 3)
+        self.assertEqual(self.marked(window), {"fail-pre": INSTALL, "fail-preun": REMOVE},
+                         "the marks of what was not done")
         self.assertIn("fail-post gives up", self.log(window))
         history = tool(root, "dnf", "history", "info", "last")
         self.assertRegex(history, r"Comment +: Done with VOK")
