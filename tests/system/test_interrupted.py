@@ -198,6 +198,13 @@ class Interrupted(Case):
 class RealProgram(Case):
     """The program itself, with mouse and keys on a virtual display."""
 
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.enterClassContext(Screen())
+        os.environ["VOKSHARE"] = str(BUILD / "share/vok")
+        cls.addClassCleanup(os.environ.pop, "VOKSHARE")
+
     def start(self, root, *arguments):
         program = Program([SANDBOX, "run", root, "--", BUILD / "bin/vok", *arguments],
                           self.place / "output")
@@ -217,53 +224,47 @@ class RealProgram(Case):
 
     def test_killed_and_started_again(self):
         root = self.root()
-        with Screen():
-            os.environ["VOKSHARE"] = str(BUILD / "share/vok")
-            self.addCleanup(os.environ.pop, "VOKSHARE")
-            program = self.start(root, "-s", "all", "-e", "^slow-1 ")
-            self.apply_listed(program, 1)
-            kill_in_scriptlet(root, "slow-1 post", lambda: program.process.pid)
-            program.process.wait()
-            tool(root, "rpm", "--verifydb")
+        program = self.start(root, "-s", "all", "-e", "^slow-1 ")
+        self.apply_listed(program, 1)
+        kill_in_scriptlet(root, "slow-1 post", lambda: program.process.pid)
+        program.process.wait()
+        tool(root, "rpm", "--verifydb")
 
-            program = self.start(root)
-            dialog = program.find("dialog", "VOK Interrupted Transaction")
-            text = "\n".join(map(program.texts, program.walk(dialog)))
-            self.assertIn("The last transaction was interrupted.\n1 of its 1 steps had been done.", text)
-            key("Return")
-            program.wait_enabled(program.find("push button", "Refresh"), "the window")
-            self.assertIsNone(program.look("dialog"))
-            key("ctrl+q")
-            self.assertEqual(program.end(), 0)
+        program = self.start(root)
+        dialog = program.find("dialog", "VOK Interrupted Transaction")
+        text = "\n".join(map(program.texts, program.walk(dialog)))
+        self.assertIn("The last transaction was interrupted.\n1 of its 1 steps had been done.", text)
+        key("Return")
+        program.wait_enabled(program.find("push button", "Refresh"), "the window")
+        self.assertIsNone(program.look("dialog"))
+        key("ctrl+q")
+        self.assertEqual(program.end(), 0)
         self.assertEqual(check(root), "")
 
     def test_quit_in_the_midst(self):
         """What rpm has done is told: at once to who quits, at the next start after a SIGTERM."""
-        with Screen():
-            os.environ["VOKSHARE"] = str(BUILD / "share/vok")
-            self.addCleanup(os.environ.pop, "VOKSHARE")
-            for attended in (True, False):
-                root = self.root()
-                program = self.start(root, "-s", "all", "-e", "^(slow-1|fail-post) ")
-                self.apply_listed(program, 2)
-                wait_for_scriptlet(root, "slow-1 post")
-                if attended:
-                    key("alt+F4")
-                    key("alt+F4")
-                else:
-                    program.process.terminate()
-                    self.assertEqual(program.end(), 0)
-                    program = self.start(root)
-                dialog = program.find("dialog", "VOK Transaction Report")
-                text = "\n".join(map(program.texts, program.walk(dialog)))
-                self.assertIn("Transaction: 2 done, 0 failed, 0 skipped", text)
-                self.assertIn("fail-post", text)
-                key("Return")
-                if not attended:
-                    program.wait_enabled(program.find("push button", "Refresh"), "the window")
-                    self.assertFalse((root / "var/lib/vok/report.txt").exists(), "it is shown once")
-                    key("ctrl+q")
+        for attended in (True, False):
+            root = self.root()
+            program = self.start(root, "-s", "all", "-e", "^(slow-1|fail-post) ")
+            self.apply_listed(program, 2)
+            wait_for_scriptlet(root, "slow-1 post")
+            if attended:
+                key("alt+F4")
+                key("alt+F4")
+            else:
+                program.process.terminate()
                 self.assertEqual(program.end(), 0)
+                program = self.start(root)
+            dialog = program.find("dialog", "VOK Transaction Report")
+            text = "\n".join(map(program.texts, program.walk(dialog)))
+            self.assertIn("Transaction: 2 done, 0 failed, 0 skipped", text)
+            self.assertIn("fail-post", text)
+            key("Return")
+            if not attended:
+                program.wait_enabled(program.find("push button", "Refresh"), "the window")
+                self.assertFalse((root / "var/lib/vok/report.txt").exists(), "it is shown once")
+                key("ctrl+q")
+            self.assertEqual(program.end(), 0)
 
 
 if __name__ == "__main__":
