@@ -134,13 +134,19 @@ class Program:
             item = stack.pop()
             try:
                 yield item
-                if item.get_role_name() == "table" and not tables:
+                if self.role(item) == "table" and not tables:
                     continue
                 count = item.get_child_count()
                 children = [item.get_child_at_index(index) for index in range(count)]
             except self.glib.Error:
                 continue
             stack.extend(child for child in reversed(children) if child is not None)
+
+    @staticmethod
+    def role(item):
+        """The name of an object's role, an older name for a role whose name changed."""
+        name = item.get_role_name()
+        return {"button": "push button"}.get(name, name)
 
     def look(self, role, name=None, top=None):
         """The first object with that role (a name, several, or None for any) and name that is on the
@@ -151,7 +157,7 @@ class Program:
         roles = (role,) if isinstance(role, str) else role
         for item in self.walk(top):
             try:
-                if (roles is None or item.get_role_name() in roles) \
+                if (roles is None or self.role(item) in roles) \
                         and (name is None or item.get_name() == name) \
                         and self.has(item, "SHOWING"):
                     return item
@@ -184,9 +190,10 @@ class Program:
 
     def texts(self, item):
         """What an object says: its text, else its name."""
-        text = item.get_text_iface()
-        if text is not None:
-            return text.get_text(0, text.get_character_count())
+        if item.get_text_iface() is not None:
+            # By way of the interface: newer libraries have an object's own method of that name.
+            text = self.atspi.Text
+            return text.get_text(item, 0, text.get_character_count(item))
         return item.get_name()
 
     def cells(self, table):

@@ -230,7 +230,7 @@ def certificates(place):
             "-subj", "/CN=Test Authority")
     contexts = {}
     for kind, days, names in (("https", "2", "DNS:localhost,IP:127.0.0.1"),
-                              ("expired", "-1", "DNS:localhost,IP:127.0.0.1"),
+                              ("expired", "0", "DNS:localhost,IP:127.0.0.1"),
                               ("stranger", "2", "DNS:elsewhere.example")):
         (place / "names").write_text(f"subjectAltName={names}\n", encoding="utf-8")
         openssl("req", *fresh, "-keyout", f"{kind}.key", "-out", f"{kind}.csr", "-subj", "/CN=server")

@@ -107,20 +107,20 @@ class Downloads(Case):
 
             trusted = {"sslcacert": server.authority}
             cases = {
-                "refused": ([url(kind="closed")], {}, "Couldn't connect"),
-                "timeout": ([url("hang")], {}, "Timeout"),
+                "refused": ([url(kind="closed")], {}, CURL % 7),
+                "timeout": ([url("hang")], {}, CURL % 28),
                 "not found": ([url("status=404")], {}, "Status code: 404"),
                 "forbidden": ([url("status=403")], {}, "Status code: 403"),
                 "server error": ([url("status=500")], {}, "Status code: 500"),
                 "a page": ([url("html")], {}, r"(?s)repomd\.xml parser error.*~html/bulk"),
-                "truncated": ([url(primary + "truncate=100")], {}, "(?s)primary.*partial file"),
+                "truncated": ([url(primary + "truncate=100")], {}, "(?s)primary.*" + CURL % 18),
                 "wrong checksum": ([url(primary + "flip")], {}, "checksum doesn't match.*primary"),
-                "redirect loop": ([url("loop")], {}, "redirects"),
-                "expired": ([url(kind="expired")], trusted, "certificate has expired"),
-                "another host": ([url(kind="stranger")], trusted, "does not match"),
-                "unknown authority": ([url(kind="https")], {}, "certificate verif"),
+                "redirect loop": ([url("loop")], {}, CURL % 47),
+                "expired": ([url(kind="expired")], trusted, CURL % 60),
+                "another host": ([url(kind="stranger")], trusted, CURL % 60),
+                "unknown authority": ([url(kind="https")], {}, CURL % 60),
                 "two mirrors": ([url("status=404"), url(kind="closed")], {},
-                                "(?s)404.*Couldn't connect"),
+                                "(?s)404.*" + CURL % 7),
             }
             self.serve(url())
             with Recorder(self.root) as window:
@@ -158,8 +158,8 @@ class Downloads(Case):
             with Recorder(self.root) as window:
                 window.do("wait")
                 for behaviour, reason in (("status=404", "Status code: 404"),
-                                          ("truncate=100", "partial file"), ("hang", "Timeout"),
-                                          ("flip", "checksum doesn't match"), ("loop", "redirects"),
+                                          ("truncate=100", CURL % 18), ("hang", CURL % 28),
+                                          ("flip", "checksum doesn't match"), ("loop", CURL % 47),
                                           ("html", "file length")):
                     with self.subTest(behaviour):
                         server.misbehave("only=*.rpm;" + behaviour)

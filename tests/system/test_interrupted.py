@@ -47,7 +47,7 @@ IN_A_CALLBACK = {
     "at the removal": ("abacus", "tsEvent", event("compass", 40), True),
     "in the cleanup of an update": ("abacus", "tsEvent", event("clock", 90), True),
     "at the last element": ("abacus", "tsEvent", event("bellows", 90), True),
-    "while the result is verified": ("abacus", "log", line("Verifying"), True),
+    "once rpm is through": ("abacus", "log", line("Removed: "), True),
 }
 # A scriptlet's own words: it is killed while that runs.
 IN_A_SCRIPTLET = {"slow-1 pre": "slow-1", "slow-2 post": "slow-2"}

@@ -7,7 +7,7 @@ import urllib.parse
 
 from . import report
 
-_REFUSED = re.compile(r"certificate.* for (https://\S+)")
+_REFUSED = re.compile(r"Curl error \(60\).* for (https://\S+)")
 _PATIENCE = 5  # seconds for one answer of the server
 
 
