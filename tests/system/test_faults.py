@@ -25,6 +25,10 @@ HOLD = "import fcntl, os, sys; f = open(sys.argv[1], 'r+'); fcntl.flock(f, fcntl
 WAIT = {"title": "VOK Package Lock", "button": "Wait"}
 GIVE_UP = {"title": "VOK Package Lock", "button": "Give Up"}
 PASSWORD = "se%40cret"
+# Numbers, as the words change from version to version. What curl says of a refused certificate ends in a
+# bracket; the reason that was looked for stands behind it.
+CURL = r"Curl error \(%d\)"
+REFUSED = CURL % 60 + r".*\]: \w"
 
 
 class Case(unittest.TestCase):
@@ -116,9 +120,9 @@ class Downloads(Case):
                 "truncated": ([url(primary + "truncate=100")], {}, "(?s)primary.*" + CURL % 18),
                 "wrong checksum": ([url(primary + "flip")], {}, "checksum doesn't match.*primary"),
                 "redirect loop": ([url("loop")], {}, CURL % 47),
-                "expired": ([url(kind="expired")], trusted, CURL % 60),
-                "another host": ([url(kind="stranger")], trusted, CURL % 60),
-                "unknown authority": ([url(kind="https")], {}, CURL % 60),
+                "expired": ([url(kind="expired")], trusted, REFUSED),
+                "another host": ([url(kind="stranger")], trusted, REFUSED),
+                "unknown authority": ([url(kind="https")], {}, REFUSED),
                 "two mirrors": ([url("status=404"), url(kind="closed")], {},
                                 "(?s)404.*" + CURL % 7),
             }
