@@ -47,7 +47,7 @@ class RpmTransaction(dnf.yum.rpmtrans.RPMTransaction):
         super().__init__(*arguments, **options)
         for display in self.displays:
             if isinstance(display, Display):
-                display.drain = lambda: display.scriptout(self._scriptOutput())
+                display.unread = self._scriptOutput
 
     def _unpackError(self, key):
         self._scriptout()
@@ -71,7 +71,7 @@ def _spellings(envra):
 class Display(dnf.callback.TransactionProgress):
     """`begun` is set once rpm runs. `reasons` is {epoch:name-version-release.arch: [texts]} of what went
     wrong with an element, `trouble` a list of faults in reporting, `last_word` the time.monotonic() of
-    rpm's last report, `drain` a function that has told what rpm wrote last."""
+    rpm's last report, `unread` a function for the output that is left."""
 
     def __init__(self, elements, family):
         """`family` gives the family of an architecture."""
@@ -80,7 +80,7 @@ class Display(dnf.callback.TransactionProgress):
         self.reasons = {}
         self.trouble = []
         self.last_word = time.monotonic()
-        self.drain = lambda: None
+        self.unread = None
         self._current = None      # (package, action) of the element that rpm works on
         self._scriptlet = None    # the package whose scriptlet runs
         self._number = 0          # of the present element
@@ -190,10 +190,15 @@ class Display(dnf.callback.TransactionProgress):
             self._note([text])
 
     @_contained
+    def drain(self):
+        """Tells what rpm wrote last, and lets go of its transaction, whose end restores rpm's log."""
+        unread, self.unread = self.unread, None
+        if unread:
+            self.scriptout(unread())
+
+    @_contained
     def finish(self):
         """rpm is through."""
-        drain, self.drain = self.drain, lambda: None
-        drain()
         self._finish_element()
         self._current = self._scriptlet = None
         for fault in self.trouble:

@@ -161,8 +161,11 @@ class Transaction:
             report.errorlog(0, "The report of the transaction failed: %s" % report.clean(error))
 
     def _run(self, shown):
-        with waiting.Watcher(lambda: shown.last_word):
-            self._base.do_transaction(shown)
+        try:
+            with waiting.Watcher(lambda: shown.last_word):
+                self._base.do_transaction(shown)
+        finally:
+            shown.drain()
 
     def _tell_outcome(self, shown, failure):
         outcomes = outcome.Outcomes(self._elements, interrupted.installed_packages(self._base),
