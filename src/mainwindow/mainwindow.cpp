@@ -34,7 +34,7 @@ MainWindow::MainWindow() : m_yumIO(new YumIO)
     createMenuBar();
     createCentralWidget();
     m_yumIO->setup(this, m_totalBar, m_itemBar);
-    recallGeometry();
+    m_geometryKept = recallGeometry();
 }
 
 MainWindow::~MainWindow()
@@ -112,7 +112,10 @@ void MainWindow::initialize()
     if (m_quitAsked)
         return;
     showMainArea();
-    m_view->resizeColumnsToContents();
+    if (m_geometryKept)
+        m_view->sizeColumnsToContents();
+    else
+        m_view->resizeColumnsToContents();
     anyFilterChanged();
     m_initialized = true;
     if (m_startInEditor)

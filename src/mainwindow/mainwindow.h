@@ -128,7 +128,7 @@ private:
     void askToQuit();
     void decline();
     void showKeptReport();
-    void recallGeometry();
+    bool recallGeometry();
     void tell(const QString &text);
 
     void note(const QString &text) { m_notes.append(text); }
@@ -149,6 +149,7 @@ private:
     bool m_startInEditor = false;
     bool m_showLogAtStart = false;
     bool m_initializeScheduled = false;
+    bool m_geometryKept = false; // the user has chosen the window's size
     bool m_engineReady = false;
     bool m_initialized = false;
     bool m_busy = false;       // a job runs

@@ -191,9 +191,9 @@ void MainWindow::finish()
     QCoreApplication::exit(m_exitCode);
 }
 
-void MainWindow::recallGeometry()
+bool MainWindow::recallGeometry()
 {
-    restoreGeometry(QSettings(organisation, application).value(geometryKey).toByteArray());
+    return restoreGeometry(QSettings(organisation, application).value(geometryKey).toByteArray());
 }
 
 // Shows a message under the bars; an empty one takes the last away.

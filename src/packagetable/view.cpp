@@ -107,6 +107,12 @@ void View::keyPressEvent(QKeyEvent *event)
         HTableView::keyPressEvent(event);
 }
 
+void View::sizeColumnsToContents()
+{
+    const QScopedValueRollback<bool> measureAll(m_measureAll, true);
+    HTableView::sizeColumnsToContents();
+}
+
 void View::resizeColumnsToContents()
 {
     const QScopedValueRollback<bool> measureAll(m_measureAll, true);

@@ -28,7 +28,8 @@ Q_SIGNALS:
     void stateChanged(int row);
 
 public Q_SLOTS:
-    // Measures every package, listed or not.
+    // Both measure every package, listed or not.
+    void sizeColumnsToContents();
     void resizeColumnsToContents();
     void handleHorizontalHeaderClicked(int column);
     void handleActivated(const QModelIndex &index);

@@ -87,9 +87,14 @@ int HTableView::sizeHintForColumn(int column) const
     return width + (showGrid() ? 1 : 0);
 }
 
-void HTableView::resizeColumnsToContents()
+void HTableView::sizeColumnsToContents()
 {
     QTableView::resizeColumnsToContents();
+}
+
+void HTableView::resizeColumnsToContents()
+{
+    sizeColumnsToContents();
     for (QWidget *widget = this; widget; widget = widget->parentWidget())
         widget->updateGeometry();
 

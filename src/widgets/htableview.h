@@ -17,6 +17,7 @@ public:
     QSize sizeHint() const override;
     // The width that the widest cell of all rows needs; -1 without a model.
     int sizeHintForColumn(int column) const override;
+    void sizeColumnsToContents();
     // Also grows the window to show the columns, up to nine tenths of the screen.
     void resizeColumnsToContents();
 
