@@ -46,9 +46,11 @@ int showMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title
     }
     if (!buttons[0] && !buttons[1] && !buttons[2])
         buttons[0] = box.addButton(QMessageBox::Ok);
+    // Buttons with texts of their own have no icon, whatever the style gives the standard ones.
     for (int i = 0; i < 3; ++i) {
         if (!buttons[i])
             continue;
+        buttons[i]->setIcon(QIcon());
         buttons[i]->setObjectName(QStringLiteral("button%1").arg(i));
         if (i == defaultButton)
             box.setDefaultButton(buttons[i]);

@@ -114,5 +114,6 @@ ScrollableErrorDialog::ScrollableErrorDialog(const QString &text, QWidget *paren
     setObjectName(QStringLiteral("scrollableErrorDialog"));
     QPushButton *ok = m_buttons->addButton(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("okButton"));
+    ok->setIcon(QIcon()); // as on the confirmation's buttons
     setDefaultButton(ok);
 }
