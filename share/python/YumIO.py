@@ -88,17 +88,20 @@ class YumIO:
                                      available=list(map(packages.Package, found.available())))
 
     def collectRows(self):
-        """All packages in one call: a list of tuples (po, state, name, verRel, repo, arch, biArch, size,
+        """All packages in one call: yields tuples (po, state, name, verRel, repo, arch, biArch, size,
         summary, buildtime, isSuite); state 0 updatable, 1 installable, 2 installed; size in bytes and
         buildtime in seconds are ints, isSuite is a bool, the rest texts. The order is that of the single
-        calls: updates, installed, available; pairing and duplicates are left to the caller."""
-        found = self._collected()
+        calls: first the number of updates and these, then the number of the others and these, installed and
+        available; pairing and duplicates are left to the caller."""
         family, row, wrap = self._architectures.family, collection.row, packages.Package
-        return [row(wrap(pkg), state, family)
-                for state, part in ((collection.UPDATABLE, found.updates()),
-                                    (collection.INSTALLED, found.installed()),
-                                    (collection.INSTALLABLE, found.available()))
-                for pkg in part]
+        found = self._collected()
+        updates = found.updates()
+        yield len(updates)
+        yield from (row(wrap(pkg), collection.UPDATABLE, family) for pkg in updates)
+        installed, available = found.installed(), found.available()
+        yield len(installed) + len(available)
+        yield from (row(wrap(pkg), collection.INSTALLED, family) for pkg in installed)
+        yield from (row(wrap(pkg), collection.INSTALLABLE, family) for pkg in available)
 
     def isBetterThan(self, first, second):
         return self._architectures.is_better(first, second)

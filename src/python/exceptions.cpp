@@ -69,9 +69,9 @@ PyObject *Python::pyExceptValue()
 {
     PyObject *type, *value, *traceback;
     PyErr_Fetch(&type, &value, &traceback);
-    PyObject *localType = Py_XNewRef(type);
-    PyObject *localValue = Py_XNewRef(value);
-    PyObject *localTraceback = Py_XNewRef(traceback);
+    PyObject *localType = PyRef::share(type).release();
+    PyObject *localValue = PyRef::share(value).release();
+    PyObject *localTraceback = PyRef::share(traceback).release();
     // With nothing pending: making the value's object runs interpreter code.
     if (localType)
         PyErr_NormalizeException(&localType, &localValue, &localTraceback);

@@ -14,9 +14,13 @@ public:
     // Takes over a new reference; null is allowed.
     explicit PyRef(PyObject *owned) : m_object(owned) {}
     // Takes a reference of its own to a borrowed object; null is allowed.
-    static PyRef share(PyObject *borrowed) { return PyRef(Py_XNewRef(borrowed)); }
+    static PyRef share(PyObject *borrowed)
+    {
+        Py_XINCREF(borrowed);
+        return PyRef(borrowed);
+    }
     PyRef(PyRef &&other) noexcept : m_object(other.release()) {}
-    PyRef(const PyRef &other) : m_object(Py_XNewRef(other.m_object)) {}
+    PyRef(const PyRef &other) : PyRef(share(other.m_object)) {}
     PyRef &operator=(PyRef other) noexcept
     {
         std::swap(m_object, other.m_object);

@@ -37,71 +37,55 @@ bool YumIO::applyReal()
     PyGILStateWrapper lock(true);
     m_progress->startTotal(tr("Checking Dependencies: Total Progress"), 10000);
     m_progress->startItem(tr("Preparing"), 100, true);
-    resetApply();
+    m_confirmation = {};
+    m_apply = {};
+    m_packages = {};
+    // Asked now, because an answer fetched in the middle of the transaction would disturb the
+    // expected exceptions.
+    usesPresto();
+    hasMultiProgress();
     const PyRef installs(PyList_New(0)), updates(PyList_New(0)), removes(PyList_New(0));
-    for (Package::Entry *entry : std::as_const(m_entries)) {
+    for (Package::Entry *entry : std::as_const(m_store.entries)) {
         entry->applyAction = entry->action;
         entry->markedBy = entry;
         for (Package::Entry *old = entry->next; old; old = old->next)
             old->started = false;
     }
-    if (!applyGroups() || !applyLists(installs.get(), updates.get(), removes.get())) {
+    if (findOutdated() || !applyGroups() ||
+        !applyLists(installs.get(), updates.get(), removes.get())) {
         m_progress->reset();
         return false;
     }
-    m_passActs = m_resolutionActs = m_opCount;
-    m_progress->setupItemActs(9900, m_resolutionActs + 10 * m_downloadCount);
+    m_apply.passActs = m_apply.resolutionActs = m_apply.opCount;
+    m_progress->setupItemActs(9900, m_apply.resolutionActs + 10 * m_apply.downloadCount);
 
     if (!reapChildren()) {
         m_progress->reset();
         return false;
     }
     callApply(installs.get(), updates.get(), removes.get());
-    PyObject *flushed = pyMethodCall(m_yumIO, "flush", "()");
+    PyObject *flushed = pyMethodCall(m_session.yumIO, "flush", "()");
     Py_XDECREF(flushed);
     m_progress->reset();
-    return m_applied;
-}
-
-void YumIO::resetApply()
-{
-    m_pendingText.clear();
-    m_listingShown = false;
-    m_applied = false;
-    m_actPosition = 0;
-    m_opCount = 0;
-    m_downloadCount = 0;
-    m_passActs = 0;
-    m_resolutionActs = 0;
-    m_bytesTotal = 0;
-    m_bytesToDownload = 0;
-    m_downloadBudget = 0;
-    m_transactionWeight = 0;
-    m_lastTsElement = 0;
-    m_deltaRebuildShown = false;
-    m_eventsStarted = false;
-    m_multiMeterActive = false;
-    m_multiMeterFiles.clear();
-    // Asked now, because an answer fetched in the middle of the transaction would disturb the
-    // expected exceptions.
-    usesPresto();
-    hasMultiProgress();
+    return m_apply.applied;
 }
 
 // The script's part, with the process's output in the log for its length.
 void YumIO::callApply(PyObject *installs, PyObject *updates, PyObject *removes)
 {
-    YumIOCapturersUser capturersUser(m_capturers, this);
+    YumIOCapturersUser capturersUser(m_capture.capturers, this);
     sigchldDisable();
     noteGroups();
     pyExceptStart();
     commExceptSetup();
-    const PyRef result(pyMethodCall(m_yumIO, "apply", "(O,O,O)", installs, updates, removes));
+    const PyRef result(
+        pyMethodCall(m_session.yumIO, "apply", "(O,O,O)", installs, updates, removes));
     const bool raised = commExceptRaised(result.get(), tr("apply changes"));
     pyExceptClear();
+    showHeldReports();
     if (raised || !result) {
-        m_applied = false;
-        PyObject *cleaned = pyMethodCall(m_yumIO, "applyFailCleanup", "()");
+        m_apply.applied = false;
+        PyObject *cleaned = pyMethodCall(m_session.yumIO, "applyFailCleanup", "()");
         Py_XDECREF(cleaned);
     }
     sigchldRestore();
@@ -109,7 +93,7 @@ void YumIO::callApply(PyObject *installs, PyObject *updates, PyObject *removes)
 
 bool YumIO::applyLists(PyObject *installs, PyObject *updates, PyObject *removes)
 {
-    for (Package::Entry *entry : std::as_const(m_entries)) {
+    for (Package::Entry *entry : std::as_const(m_store.entries)) {
         if (entry->kind == Package::Kind::Group)
             continue;
         switch (entry->applyAction) {
@@ -120,14 +104,14 @@ bool YumIO::applyLists(PyObject *installs, PyObject *updates, PyObject *removes)
         case Package::Action::Install:
             if (!append(installs, entry->po))
                 error(tr("Unable to add package %1 to installs list").arg(entry->name));
-            ++m_opCount;
+            ++m_apply.opCount;
             countDownload(entry);
             break;
         case Package::Action::Remove:
             for (Package::Entry *old = firstInstalled(entry); old; old = old->next) {
                 if (!append(removes, old->po))
                     error(tr("Unable to add package %1 to removes list").arg(entry->name));
-                ++m_opCount;
+                ++m_apply.opCount;
             }
             break;
         case Package::Action::None:
@@ -141,11 +125,10 @@ bool YumIO::applyLists(PyObject *installs, PyObject *updates, PyObject *removes)
 bool YumIO::appendUpdate(Package::Entry *entry, PyObject *updates)
 {
     if (!entry->next) {
-        error(tr("Internal error: Unable to find installed version for package update %1")
-                  .arg(entry->name));
-        return false;
+        return fail(tr("Internal error: Unable to find installed version for package update %1")
+                        .arg(entry->name));
     }
-    ++m_opCount;
+    ++m_apply.opCount;
     for (Package::Entry *old = entry->next; old; old = old->next) {
         const PyRef pair(PyList_New(0));
         if (!append(pair.get(), entry->po)) {
@@ -156,7 +139,7 @@ bool YumIO::appendUpdate(Package::Entry *entry, PyObject *updates)
         }
         if (!append(updates, pair.get()))
             error(tr("Unable to add package %1 to updates list").arg(entry->name));
-        ++m_opCount;
+        ++m_apply.opCount;
     }
     countDownload(entry);
     return true;
@@ -165,24 +148,24 @@ bool YumIO::appendUpdate(Package::Entry *entry, PyObject *updates)
 void YumIO::countDownload(const Package::Entry *entry)
 {
     if (!QFile::exists(getLocalHdr(entry->po)))
-        ++m_downloadCount;
+        ++m_apply.downloadCount;
 }
 
 // The library keeps records of groups; they follow the transaction when the script knows which
 // groups were marked, where it takes an interest.
 void YumIO::noteGroups()
 {
-    if (!PyObject_HasAttrString(m_yumIO, "noteGroups"))
+    if (!PyObject_HasAttrString(m_session.yumIO, "noteGroups"))
         return;
     const PyRef groups(PyList_New(0));
-    for (const Package::Entry *entry : std::as_const(m_entries)) {
+    for (const Package::Entry *entry : std::as_const(m_store.entries)) {
         if (entry->kind != Package::Kind::Group || entry->applyAction == Package::Action::None)
             continue;
         const PyRef item(Py_BuildValue("(Oi)", entry->po, int(entry->applyAction)));
         if (!append(groups.get(), item.get()))
             error(tr("Unable to add group %1 to groups list").arg(entry->name));
     }
-    PyObject *result = pyMethodCall(m_yumIO, "noteGroups", "(O)", groups.get());
+    PyObject *result = pyMethodCall(m_session.yumIO, "noteGroups", "(O)", groups.get());
     Py_XDECREF(result);
 }
 
@@ -229,6 +212,6 @@ bool YumIO::hasNotStartedRemove(Package::Entry *entry)
 
 PyObject *YumIO::gpgsigcheck(PyObject *, PyObject *)
 {
-    m_pendingText.clear();
+    m_confirmation.text.clear();
     Py_RETURN_NONE;
 }

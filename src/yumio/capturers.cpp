@@ -64,12 +64,11 @@ YumIOCapturersMinion::~YumIOCapturersMinion()
     for (Stream *stream : {&m_stdout, &m_stderr}) {
         delete stream->notifier;
         stream->notifier = nullptr;
+        // The worker may be writing by now, so an unfinished line waits for its end.
         if (m_engine)
             drain(*stream);
         closeFd(stream->fd);
     }
-    if (m_engine)
-        m_engine->flushTails();
 }
 
 void YumIOCapturersMinion::activate()

@@ -5,7 +5,7 @@
 // True when the script's method returns a tuple that begins with 0.
 bool YumIO::cleanCode(const char *method)
 {
-    const PyRef result(pyMethodCall(m_yumIO, method, "()"));
+    const PyRef result(pyMethodCall(m_session.yumIO, method, "()"));
     if (!result || !PyTuple_Check(result.get()) || PyTuple_Size(result.get()) < 1)
         return false;
     const long code = PyLong_AsLong(PyTuple_GET_ITEM(result.get(), 0));

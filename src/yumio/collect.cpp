@@ -26,12 +26,11 @@ bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
     const YumIODialogsUser dialogsUser(m_dialogs, m_parent);
     log(Log::Kind::Action, 0, tr("Initialization"));
     const PyGILStateWrapper lock(true);
-    m_listingShown = false;
-    m_pendingText.clear();
+    m_confirmation = {};
 
     m_progress->startTotal(tr("Initializing: Total Progress"), totalUnits);
     m_progress->startItem(tr("Preparing"), preparingUnits, 1);
-    const bool collected = m_yumIO && takeLock() && readRepositories(reposUsed) &&
+    const bool collected = m_session.yumIO && takeLock() && readRepositories(reposUsed) &&
                            collectPackages() && collectAllGroups();
     if (collected)
         m_progress->setTotalValue(totalUnits);
@@ -41,63 +40,60 @@ bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
 
 bool YumIO::takeLock()
 {
-    if (m_locked)
+    if (m_script.locked)
         return true;
     pyExceptStart();
-    pyExceptExpect(m_exceptionTypes[LockError]);
-    const PyRef result(pyMethodCall(m_yumIO, "lock", "()"));
-    const bool refused = pyExceptMatches(result.get(), m_exceptionTypes[LockError]);
+    pyExceptExpect(m_script.exceptionTypes[LockError]);
+    const PyRef result(pyMethodCall(m_session.yumIO, "lock", "()"));
+    const bool refused = pyExceptMatches(result.get(), m_script.exceptionTypes[LockError]);
     if (refused)
         pythonExceptionV(tr("Unable to obtain yum lock"));
     pyExceptClear();
     if (!result)
         return false;
-    m_locked = true;
+    m_script.locked = true;
     reportInterrupted();
     return true;
 }
 
 bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed)
 {
-    const PyRef repos(PyObject_GetAttrString(m_yumIO, "repos"));
+    const PyRef repos(PyObject_GetAttrString(m_session.yumIO, "repos"));
     const PyRef dict(repos ? PyObject_GetAttrString(repos.get(), "repos") : nullptr);
     if (!dict) {
         PyErr_Clear();
-        error(tr("Internal error: yumIO.repos.repos not evaluable"));
-        return false;
+        return fail(tr("Internal error: yumIO.repos.repos not evaluable"));
     }
-    if (!PyDict_Check(dict.get())) {
-        error(tr("Internal error: yumIO.repos.repos not a dictionary"));
-        return false;
-    }
+    if (!PyDict_Check(dict.get()))
+        return fail(tr("Internal error: yumIO.repos.repos not a dictionary"));
     useRepos(repos.get(), reposUsed);
-    m_enabledRepos = collectRepos(dict.get());
-    resetCollectMeters();
+    m_session.enabledRepos = collectRepos(dict.get());
+    m_metadata = {};
     if (PyDict_Size(dict.get()) == 0) {
-        error(tr("No repositories are configured.\nUnder the Repositories menu, Edit Configuration "
-                 "can be used to configure repositories."));
-        return false;
+        return fail(
+            tr("No repositories are configured.\nUnder the Repositories menu, Edit Configuration "
+               "can be used to configure repositories."));
     }
-    if (m_enabledRepos.isEmpty()) {
-        error(tr("No repositories are enabled.\nUnder the Repositories menu, Edit Configuration "
-                 "can be used to configure repositories."));
-        return false;
+    if (m_session.enabledRepos.isEmpty()) {
+        return fail(
+            tr("No repositories are enabled.\nUnder the Repositories menu, Edit Configuration "
+               "can be used to configure repositories."));
     }
 
     m_progress->startItem(tr("Reading repositories"), readingUnits, 1);
-    m_progress->setupItemActs(repositoryUnits, actsPerRepo * Steps(m_enabledRepos.size()));
+    m_progress->setupItemActs(repositoryUnits, actsPerRepo * Steps(m_session.enabledRepos.size()));
     pyExceptStart();
-    pyExceptExpect(m_exceptionTypes[RepoError]);
-    pyExceptExpect(m_exceptionTypes[BdbQuit]);
-    const PyRef result(pyMethodCall(m_yumIO, "setupRepos", "()"));
-    if (pyExceptMatches(result.get(), m_exceptionTypes[RepoError]) ||
-        pyExceptMatches(result.get(), m_exceptionTypes[BdbQuit]))
+    pyExceptExpect(m_script.exceptionTypes[RepoError]);
+    pyExceptExpect(m_script.exceptionTypes[BdbQuit]);
+    const PyRef result(pyMethodCall(m_session.yumIO, "setupRepos", "()"));
+    if (pyExceptMatches(result.get(), m_script.exceptionTypes[RepoError]) ||
+        pyExceptMatches(result.get(), m_script.exceptionTypes[BdbQuit]))
         pythonExceptionV(tr("Unable to initialize"));
     pyExceptClear();
     if (!result)
         return false;
     m_progress->endItemActs();
-    m_basearch = getYumVar(QStringLiteral("basearch"));
+    m_session.basearch = getYumVar(QStringLiteral("basearch"));
     return true;
 }
 
@@ -113,10 +109,10 @@ bool YumIO::useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed)
         if (!PyDict_GetItemString(dict.get(), id.constData()))
             continue;
         pyExceptStart();
-        pyExceptExpect(m_exceptionTypes[RepoError]);
+        pyExceptExpect(m_script.exceptionTypes[RepoError]);
         const PyRef result(
             pyMethodCall(repos, it.value() ? "enableRepo" : "disableRepo", "(s)", id.constData()));
-        if (pyExceptMatches(result.get(), m_exceptionTypes[RepoError])) {
+        if (pyExceptMatches(result.get(), m_script.exceptionTypes[RepoError])) {
             warning(tr("unable to setup repository %1:\n%2").arg(it.key(), exceptionText()));
         }
         pyExceptClear();
@@ -143,7 +139,7 @@ PyObject *YumIO::bracketed(const char *method, const QString &what, bool &report
 {
     pyExceptStart();
     commExceptSetup();
-    PyObject *result = pyMethodCall(m_yumIO, method, "()");
+    PyObject *result = pyMethodCall(m_session.yumIO, method, "()");
     reported = commExceptRaised(result, what);
     pyExceptClear();
     return result;
@@ -154,33 +150,32 @@ PyObject *YumIO::bracketedOrError(const char *method, const QString &what)
     bool reported = false;
     PyObject *result = bracketed(method, what, reported);
     if (!result && !reported)
-        error(tr("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(method)));
+        fail(tr("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(method)));
     return result;
 }
 
 bool YumIO::collectPackages()
 {
-    const QString updatesText = tr("collect updatable packages");
     m_progress->startItem(tr("Collecting updatable packages"), packageUnits, packageUnits);
     bool reported = false;
     const PyRef ready(bracketed("setupTs", tr("setup transaction"), reported));
     if (!ready)
         return false;
     dropFormer();
-    if (PyObject_HasAttrString(m_yumIO, "collectRows"))
-        return collectRows(updatesText);
+    if (PyObject_HasAttrString(m_session.yumIO, "collectRows"))
+        return collectRows();
     {
-        const YumIOCapturersUser capture(m_capturers, this);
-        const PyRef updates(bracketedOrError("collectUpdates", updatesText));
-        if (!updates || !collectSet(m_byKey, updates.get(), Package::State::Updatable))
+        const YumIOCapturersUser capture(m_capture.capturers, this);
+        const PyRef updates(bracketedOrError("collectUpdates", tr("collect updatable packages")));
+        if (!updates || !collectSet(m_store.byKey, updates.get(), Package::State::Updatable))
             return false;
     }
 
     m_progress->startItem(tr("Collecting installed and available packages"), packageUnits,
                           packageUnits);
     const PyRef all(bracketedOrError("collectAll", tr("collect installed and available packages")));
-    return all && collectField(m_byKey, all.get(), "installed", Package::State::Installed) &&
-           collectField(m_byKey, all.get(), "available", Package::State::Installable);
+    return all && collectField(m_store.byKey, all.get(), "installed", Package::State::Installed) &&
+           collectField(m_store.byKey, all.get(), "available", Package::State::Installable);
 }
 
 bool YumIO::collectField(EntryHash &hash, PyObject *all, const char *field, Package::State state)
@@ -188,8 +183,7 @@ bool YumIO::collectField(EntryHash &hash, PyObject *all, const char *field, Pack
     const PyRef set(PyObject_GetAttrString(all, field));
     if (!set) {
         PyErr_Clear();
-        error(tr("Internal error: yumIO.collectAll.%1 not found").arg(QLatin1String(field)));
-        return false;
+        return fail(tr("Internal error: yumIO.collectAll.%1 not found").arg(QLatin1String(field)));
     }
     return collectSet(hash, set.get(), state);
 }
@@ -227,7 +221,7 @@ void YumIO::foldPackage(EntryHash &hash, const QString &name, const QString &arc
                         const QString &family, Package::State state, PyObject *po,
                         const std::function<void(Package::Entry *&)> &create)
 {
-    m_archFamilies.insert(family);
+    m_store.archFamilies.insert(family);
     Package::Entry *&slot = findSlot(hash, name, arch, family);
     if (slot) {
         if (state != Package::State::Installed)
@@ -239,12 +233,12 @@ void YumIO::foldPackage(EntryHash &hash, const QString &name, const QString &arc
         return;
     }
     create(slot);
-    Package::Entry *&best = m_best[name];
+    Package::Entry *&best = m_store.best[name];
     if (!best) {
         best = slot;
         return;
     }
-    const PyRef oldIsBetter(pyMethodCall(m_yumIO, "isBetterThan", "(O,O)", best->po, po));
+    const PyRef oldIsBetter(pyMethodCall(m_session.yumIO, "isBetterThan", "(O,O)", best->po, po));
     if (oldIsBetter.get() == Py_True) {
         slot->duplicate = true;
     } else {
@@ -272,7 +266,7 @@ Package::Entry *&YumIO::findSlot(EntryHash &hash, const QString &name, const QSt
 
 Package::Entry *&YumIO::findUpdateablePackage(const QString &name, const QString &arch)
 {
-    return findSlot(m_byKey, name, arch, getBiArch(arch));
+    return findSlot(m_store.byKey, name, arch, getBiArch(arch));
 }
 
 bool YumIO::collectPkg(Package::Entry *&slot, Package::State state, PyObject *po)
@@ -292,79 +286,92 @@ bool YumIO::collectPkg(Package::Entry *&slot, Package::State state, PyObject *po
     entry->summary = simpleString(po, "summary");
     entry->buildTime = buildTimeOf(po);
     entry->buildTimeText = QString::fromLocal8Bit(timeFormat(entry->buildTime));
-    entry->po = Py_NewRef(po);
+    entry->po = PyRef::share(po).release();
     slot = entry;
     return true;
 }
 
 // The whole collection of packages from one call of the script, for speed. The rows are those that
-// the single calls would give.
-bool YumIO::collectRows(const QString &what)
+// the single calls would give. They come in two parts, updates and all others, each announced by the
+// number of its rows.
+bool YumIO::collectRows()
 {
-    PyRef rows;
-    {
-        const YumIOCapturersUser capture(m_capturers, this);
-        rows = PyRef(bracketedOrError("collectRows", what));
-    }
-    if (!rows)
+    QString what = tr("collect updatable packages");
+    std::optional<YumIOCapturersUser> capture;
+    capture.emplace(m_capture.capturers, this);
+    const PyRef result(bracketedOrError("collectRows", what));
+    if (!result)
         return false;
-    const PyRef list(PySequence_Fast(rows.get(), "collectRows must return a sequence"));
-    if (!list) {
-        handleException();
-        return false;
+    const PyRef rows(PyObject_GetIter(result.get()));
+    int parts = 0;
+    Steps count = 0, done = 0;
+    while (const PyRef row = PyRef(rows ? PyIter_Next(rows.get()) : nullptr)) {
+        if (!PyLong_Check(row.get())) {
+            m_progress->setItemValue(count ? done++ * packageUnits / count : 0);
+            if (!collectRow(row.get()))
+                break;
+            continue;
+        }
+        count = PyLong_AsSize_t(row.get());
+        done = 0;
+        if (++parts == 1)
+            continue;
+        capture.reset();
+        what = tr("collect installed and available packages");
+        m_progress->startItem(tr("Collecting installed and available packages"), packageUnits,
+                              packageUnits);
     }
+    if (!PyErr_Occurred())
+        return true;
+    reportPending(what);
+    return false;
+}
 
-    QSet<QString> texts; // few distinct ones, shared by all rows
-    const auto shared = [&](PyObject *text) { return *texts.insert(pyString(text)); };
-    const Py_ssize_t count = PySequence_Fast_GET_SIZE(list.get());
-    m_best.reserve(count);
-    bool updatesDone = false;
-    for (Py_ssize_t i = 0; i < count; ++i) {
-        PyObject *po, *name, *verRel, *repo, *arch, *family, *summary;
-        int state, isSuite;
-        unsigned long long size;
-        long long buildTime;
-        if (!PyArg_ParseTuple(PySequence_Fast_GET_ITEM(list.get(), i), "OiOOOOOKOLp", &po, &state,
-                              &name, &verRel, &repo, &arch, &family, &size, &summary, &buildTime,
-                              &isSuite)) {
-            handleException();
-            return false;
-        }
-        const auto rowState = static_cast<Package::State>(state);
-        if (rowState != Package::State::Updatable && !updatesDone) {
-            updatesDone = true;
-            m_progress->startItem(tr("Collecting installed and available packages"), packageUnits,
-                                  packageUnits);
-        }
-        m_progress->setItemValue(Steps(i) * packageUnits / Steps(count));
-        const QString nameText = pyString(name);
-        const QString archText = shared(arch);
-        const QString familyText = shared(family);
-        const auto create = [&](Package::Entry *&slot) {
-            auto *entry = new Package::Entry;
-            entry->state = rowState;
-            entry->kind = isSuite ? Package::Kind::Suite : Package::Kind::Package;
-            entry->name = nameText;
-            entry->verRel = pyString(verRel);
-            entry->repo = shared(repo);
-            entry->arch = archText;
-            entry->biArch = familyText;
-            entry->size = qint64(size);
-            entry->sizeText = bytesFormat(size);
-            entry->summary = pyString(summary);
-            entry->buildTime = buildTime;
-            entry->buildTimeText = QString::fromLocal8Bit(timeFormat(buildTime));
-            entry->po = Py_NewRef(po);
-            slot = entry;
-        };
-        foldPackage(m_byKey, nameText, archText, familyText, rowState, po, create);
-    }
+// False with the interpreter's error set when it is no row.
+bool YumIO::collectRow(PyObject *row)
+{
+    PyObject *po, *name, *verRel, *repo, *arch, *family, *summary;
+    int state, isSuite;
+    unsigned long long size;
+    long long buildTime;
+    if (!PyArg_ParseTuple(row, "OiOOOOOKOLp", &po, &state, &name, &verRel, &repo, &arch, &family,
+                          &size, &summary, &buildTime, &isSuite))
+        return false;
+    const QString nameText = pyString(name);
+    const QString archText = shared(arch);
+    const QString familyText = shared(family);
+    const auto create = [&](Package::Entry *&slot) {
+        auto *entry = new Package::Entry;
+        entry->state = static_cast<Package::State>(state);
+        entry->kind = isSuite ? Package::Kind::Suite : Package::Kind::Package;
+        entry->name = nameText;
+        entry->verRel = pyString(verRel);
+        entry->repo = shared(repo);
+        entry->arch = archText;
+        entry->biArch = familyText;
+        entry->size = qint64(size);
+        entry->sizeText = bytesFormat(size);
+        entry->summary = fieldText(pyString(summary));
+        entry->buildTime = buildTime;
+        entry->buildTimeText = QString::fromLocal8Bit(timeFormat(buildTime));
+        entry->po = PyRef::share(po).release();
+        slot = entry;
+    };
+    foldPackage(m_store.byKey, nameText, archText, familyText, static_cast<Package::State>(state),
+                po, create);
     return true;
+}
+
+// Few distinct texts, which all rows share.
+QString YumIO::shared(PyObject *text)
+{
+    return *m_store.texts.insert(pyString(text));
 }
 
 QString YumIO::getBiArch(const QString &arch)
 {
-    return pyStringDec(pyMethodCall(m_yumIO, "getBiArch", "(s)", arch.toUtf8().constData()));
+    return pyStringDec(
+        pyMethodCall(m_session.yumIO, "getBiArch", "(s)", arch.toUtf8().constData()));
 }
 
 Package::Entry *YumIO::findPackage(const QString &name)
@@ -375,14 +382,14 @@ Package::Entry *YumIO::findPackage(const QString &name)
 Package::Entry *YumIO::findPackage(const QString &name, EntryPredicate predicate)
 {
     const auto candidate = [&](const QString &family) -> Package::Entry * {
-        Package::Entry *entry = m_byKey.value(EntryKey(false, name, family));
+        Package::Entry *entry = m_store.byKey.value(EntryKey(false, name, family));
         return entry && (!predicate || (this->*predicate)(entry)) ? entry : nullptr;
     };
-    const QString base = getBiArch(m_basearch);
+    const QString base = getBiArch(m_session.basearch);
     if (Package::Entry *entry = candidate(base))
         return entry;
-    for (const QString &family : std::as_const(m_archFamilies)) {
-        if (family == m_basearch)
+    for (const QString &family : std::as_const(m_store.archFamilies)) {
+        if (family == m_session.basearch)
             continue;
         if (Package::Entry *entry = candidate(family))
             return entry;

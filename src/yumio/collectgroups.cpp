@@ -17,7 +17,7 @@ bool YumIO::collectAllGroups()
     const QString what = tr("collect groups");
     pyExceptStart();
     commExceptSetup();
-    const PyRef ready(pyMethodCall(m_yumIO, "setupTsGroup", "()"));
+    const PyRef ready(pyMethodCall(m_session.yumIO, "setupTsGroup", "()"));
     const bool none =
         !ready && PyErr_Occurred() && exceptionText() == QLatin1String("No Groups Available");
     const bool reported = !none && commExceptRaised(ready.get(), what);
@@ -31,14 +31,14 @@ bool YumIO::collectAllGroups()
         return false;
     }
 
-    const PyRef info(pyMethodCall(m_yumIO, "collectGroupInfo", "()"));
+    const PyRef info(pyMethodCall(m_session.yumIO, "collectGroupInfo", "()"));
     if (!info) {
         error(tr("Internal error: execution of yumIO.collectGroupInfo failed"));
         return false;
     }
-    if (!collectGroups(m_byKey, info.get()))
+    if (!collectGroups(m_store.byKey, info.get()))
         return false;
-    const PyRef done(pyMethodCall(m_yumIO, "collectDone", "()"));
+    const PyRef done(pyMethodCall(m_session.yumIO, "collectDone", "()"));
     return true;
 }
 
@@ -110,7 +110,7 @@ bool YumIO::collectGroup(Package::Entry *&slot, PyObject *group, const QString &
     entry->kind = Package::Kind::Group;
     entry->state = installed ? Package::State::Installed : Package::State::Installable;
     entry->name = name;
-    entry->po = Py_NewRef(group);
+    entry->po = PyRef::share(group).release();
     slot = entry;
     if (installed && !upToDateGroup(entry))
         entry->state = Package::State::Updatable;
@@ -135,7 +135,8 @@ bool YumIO::upToDateGroupGrps(const Package::Entry *group, const char *attribute
         const PyRef name(PyIter_Next(iterator.get()));
         if (!name)
             break;
-        const Package::Entry *sub = m_byKey.value(EntryKey(true, pyString(name.get()), QString()));
+        const Package::Entry *sub =
+            m_store.byKey.value(EntryKey(true, pyString(name.get()), QString()));
         if (sub && !upToDateGroup(sub))
             return false;
     }

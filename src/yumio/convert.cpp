@@ -183,7 +183,12 @@ QString YumIO::simpleString(PyObject *po, const char *key)
         Py_XDECREF(value);
         return QString();
     }
-    QString text = pyStringXDec(value);
+    return fieldText(pyStringXDec(value));
+}
+
+// The text of a simple field, without the line feeds at its end.
+QString YumIO::fieldText(QString text)
+{
     while (text.endsWith(u'\n'))
         text.chop(1);
     return text;

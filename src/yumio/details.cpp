@@ -42,6 +42,12 @@ PyObject *itemOfFast(const PyRef &sequence, Py_ssize_t index)
     return PySequence_Fast_GET_ITEM(sequence.get(), index);
 }
 
+// Whether the object has an attribute, without computing one that its class makes a property.
+bool offers(PyObject *po, const char *name)
+{
+    return hasAttribute(reinterpret_cast<PyObject *>(Py_TYPE(po)), name) || hasAttribute(po, name);
+}
+
 bool isPackage(const Package::Entry &entry)
 {
     return entry.kind == Package::Kind::Suite || entry.kind == Package::Kind::Package;
@@ -222,7 +228,7 @@ PyObject *YumIO::getRpmHdrValue(PyObject *po, const char *tag)
         return nullptr;
     }
     const QByteArray name = QByteArray("RPMTAG_") + tag;
-    PyObject *value = PyDict_GetItemString(m_rpmDict, name.constData());
+    PyObject *value = PyDict_GetItemString(m_script.rpmDict, name.constData());
     if (!value) {
         error(tr("Internal error: cannot find rpm.%1").arg(QLatin1String(name)));
         return nullptr;
@@ -235,9 +241,10 @@ PyObject *YumIO::getRpmHdrValue(PyObject *po, const char *tag)
 
 QString YumIO::getRpmTime(PyObject *po, const char *tag)
 {
-    if (!hasAttribute(po, "hdr"))
+    const PyRef time(hasAttribute(po, "hdr") ? getRpmHdrValue(po, tag) : nullptr);
+    if (!time || time.get() == Py_None)
         return QString();
-    return QString::fromLocal8Bit(timeFormat(pyTimeDec(getRpmHdrValue(po, tag))));
+    return QString::fromLocal8Bit(timeFormat(pyTime(time.get())));
 }
 
 QString YumIO::getRpmList(PyObject *po, const char *tag)
@@ -409,7 +416,7 @@ QString YumIO::getChangeLog(const Package::Entry &entry)
             append(itemOfFast(times, i), itemOfFast(names, i), itemOfFast(texts, i));
         return changes.join(QStringLiteral("\n\n"));
     }
-    if (!hasAttribute(entry.po, "changelog")) {
+    if (!offers(entry.po, "changelog")) {
         error(tr("Internal error: cannot find package's changelog"));
         return QString();
     }
@@ -434,7 +441,7 @@ QString YumIO::getChangeLog(const Package::Entry &entry)
 QString YumIO::getYumVar(const QString &name)
 {
     const PyGILStateWrapper lock(true);
-    const PyRef conf(m_yumIO ? PyObject_GetAttrString(m_yumIO, "conf") : nullptr);
+    const PyRef conf(m_session.yumIO ? PyObject_GetAttrString(m_session.yumIO, "conf") : nullptr);
     const PyRef vars(conf ? PyObject_GetAttrString(conf.get(), "yumvar") : nullptr);
     const PyRef value(vars ? PyMapping_GetItemString(vars.get(), name.toUtf8().constData())
                            : nullptr);
@@ -444,28 +451,28 @@ QString YumIO::getYumVar(const QString &name)
 
 bool YumIO::collectFileLists()
 {
-    if (m_fileListsLoaded)
+    if (m_session.fileLists)
         return true;
     QEventLoop loop;
     CollectFileListsThread thread(this, loop);
     execWorkThread(loop, thread);
-    m_fileListsLoaded = thread.result();
-    if (m_fileListsLoaded)
+    m_session.fileLists = thread.result();
+    if (m_session.fileLists)
         Q_EMIT collectedExtraData();
-    return m_fileListsLoaded;
+    return m_session.fileLists;
 }
 
 bool YumIO::collectOtherData()
 {
-    if (m_otherDataLoaded)
+    if (m_session.otherData)
         return true;
     QEventLoop loop;
     CollectOtherDataThread thread(this, loop);
     execWorkThread(loop, thread);
-    m_otherDataLoaded = thread.result();
-    if (m_otherDataLoaded)
+    m_session.otherData = thread.result();
+    if (m_session.otherData)
         Q_EMIT collectedExtraData();
-    return m_otherDataLoaded;
+    return m_session.otherData;
 }
 
 bool YumIO::collectFileListsReal()
@@ -489,11 +496,13 @@ bool YumIO::collectExtraReal(const QString &heading, const QString &total, const
     const YumIODialogsUser dialogsUser(m_dialogs, m_parent);
     log(Log::Kind::Action, 0, heading);
     const PyGILStateWrapper lock(true);
-    resetCollectMeters();
+    m_metadata = {};
     m_progress->startTotal(total, extraUnits);
     m_progress->startItem(tr("Reading repositories"), extraReadingUnits, 1);
-    m_progress->setupItemActs(extraRepositoryUnits, 6 * Steps(m_enabledRepos.size()));
+    m_progress->setupItemActs(extraRepositoryUnits, 6 * Steps(m_session.enabledRepos.size()));
     const PyRef result(bracketedOrError(method, what));
+    if (result)
+        m_progress->endItemActs();
     m_progress->reset();
     return bool(result);
 }

@@ -67,13 +67,6 @@ struct YumIO::MeterStart
     }
 };
 
-// Forgets the downloads of an earlier job; at the start of each that loads metadata.
-void YumIO::resetCollectMeters()
-{
-    m_collectMeters.clear();
-    m_collectAct = 0;
-}
-
 PyObject *YumIO::collectProgress(PyObject *, PyObject *args)
 {
     long current, total;
@@ -110,12 +103,12 @@ QString YumIO::metadataText(const MeterStart &start, bool isFirst)
 // present. The last is never passed, however often a download grows.
 quint32 YumIO::nextCollectAct(const QString &repo, bool isFirst)
 {
-    const quint32 index = quint32(std::max<qsizetype>(m_enabledRepos.indexOf(repo), 0));
+    const quint32 index = quint32(std::max<qsizetype>(m_session.enabledRepos.indexOf(repo), 0));
     const quint32 first = index * actsPerRepo + 1;
     const quint32 last = first + actsPerRepo - 1;
     if (isFirst)
-        return std::max(m_collectAct, first);
-    return std::max(m_collectAct, std::min(m_collectAct + 1, last));
+        return std::max(m_metadata.act, first);
+    return std::max(m_metadata.act, std::min(m_metadata.act + 1, last));
 }
 
 PyObject *YumIO::collectGrabMeterStart(PyObject *, PyObject *args)
@@ -127,11 +120,11 @@ PyObject *YumIO::collectGrabMeterStart(PyObject *, PyObject *args)
         error(tr("Internal error: collect grab size not understood"));
     if (!m_progress)
         Py_RETURN_NONE;
-    Meter &meter = m_collectMeters[start.id];
+    Meter &meter = m_metadata.meters.byId[start.id];
     const bool isFirst = !meter.started;
     const quint32 act = nextCollectAct(start.text, isFirst);
     // Growth that no act is left for shows in the numbers that follow, not as another item.
-    if (!isFirst && act == m_collectAct)
+    if (!isFirst && act == m_metadata.act)
         Py_RETURN_NONE;
     meter.started = true;
     meter.sized = start.sized;
@@ -139,7 +132,7 @@ PyObject *YumIO::collectGrabMeterStart(PyObject *, PyObject *args)
     meter.text = maskPasswords(metadataText(start, isFirst));
     m_progress->setupItemActsThreads(meter.text, 0, act + 1, 1, meter.max);
     m_progress->startItemActThread(meter.text, 0, meter.max);
-    m_collectAct = act;
+    m_metadata.act = act;
     if (meter.sized && meter.read > 0)
         m_progress->setItemActsThreadValue(0, std::min(meter.read, meter.max));
     Py_RETURN_NONE;
@@ -151,7 +144,7 @@ PyObject *YumIO::collectGrabMeterUpdate(PyObject *, PyObject *args)
     long long amount;
     if (!PyArg_ParseTuple(args, "OL", &id, &amount))
         return nullptr;
-    updateMeter(m_collectMeters, id, amount);
+    updateMeter(m_metadata.meters, id, amount);
     Py_RETURN_NONE;
 }
 
@@ -161,7 +154,7 @@ PyObject *YumIO::collectGrabMeterEnd(PyObject *, PyObject *args)
     long long amount;
     if (!PyArg_ParseTuple(args, "OL", &id, &amount))
         return nullptr;
-    endMeter(m_collectMeters, id);
+    endMeter(m_metadata.meters, id);
     Py_RETURN_NONE;
 }
 
@@ -170,7 +163,7 @@ PyObject *YumIO::collectGrabMeterFailure(PyObject *, PyObject *args)
     PyObject *id, *message;
     if (!PyArg_ParseTuple(args, "OO", &id, &message))
         return nullptr;
-    failMeter(m_collectMeters, id, message);
+    failMeter(m_metadata.meters, id, message);
     Py_RETURN_NONE;
 }
 
@@ -179,7 +172,7 @@ PyObject *YumIO::collectGrabMultiMeterStart(PyObject *, PyObject *args)
     long long count, bytes;
     if (!PyArg_ParseTuple(args, "LL", &count, &bytes))
         return nullptr;
-    m_collectMeters.clear();
+    m_metadata.meters.byId.clear();
     if (m_progress) {
         m_progress->changeItemActivity(
             tr("Downloading repository contents for %1 repositories").arg(count));
@@ -192,7 +185,7 @@ PyObject *YumIO::collectGrabMultiMeterNew(PyObject *, PyObject *args)
     PyObject *id;
     if (!PyArg_ParseTuple(args, "O", &id))
         return nullptr;
-    m_collectMeters.insert(textOf(id), Meter());
+    m_metadata.meters.byId.insert(textOf(id), Meter());
     Py_RETURN_NONE;
 }
 
@@ -201,14 +194,14 @@ PyObject *YumIO::collectGrabMultiMeterRemove(PyObject *, PyObject *args)
     PyObject *id;
     if (!PyArg_ParseTuple(args, "O", &id))
         return nullptr;
-    if (m_collectMeters.remove(textOf(id)) > 0 && m_progress)
+    if (m_metadata.meters.byId.remove(textOf(id)) > 0 && m_progress)
         m_progress->endItemActsThreads();
     Py_RETURN_NONE;
 }
 
 PyObject *YumIO::collectGrabMultiMeterEnd(PyObject *, PyObject *)
 {
-    m_collectMeters.clear();
+    m_metadata.meters.byId.clear();
     if (m_progress)
         m_progress->endItemActsThreads();
     Py_RETURN_NONE;
@@ -219,25 +212,26 @@ PyObject *YumIO::applyGrabMultiMeterStart(PyObject *, PyObject *args)
     long long count, bytes;
     if (!PyArg_ParseTuple(args, "LL", &count, &bytes))
         return nullptr;
-    m_multiMeterActive = true;
-    m_multiMeterFiles.clear();
-    m_multiThreads = unsigned(std::clamp(count, 0LL, 1000000LL));
-    m_multiNextThread = 0;
+    m_packages.parallel = true;
+    m_packages.meters.byId.clear();
+    m_packages.meters.threads = unsigned(std::clamp(count, 0LL, 1000000LL));
+    m_packages.nextThread = 0;
+    m_packages.left = m_packages.meters.threads;
     if (!m_progress)
         Py_RETURN_NONE;
     // A second round after the rebuilding of deltas has no units of its own left.
-    if (m_deltaRebuildShown) {
+    if (m_packages.deltaRebuildShown) {
         m_progress->setupItemActs(0, 1);
         m_progress->setupItemActsThreads(tr("Downloading %1 packages").arg(count), 0, 1,
-                                         m_multiThreads, std::max(bytes, 1LL));
+                                         m_packages.meters.threads, std::max(bytes, 1LL));
         Py_RETURN_NONE;
     }
-    const quint64 end = std::min(m_actPosition + quint64(std::max(bytes, 0LL)),
-                                 std::max(quint64(m_bytesToDownload), m_actPosition));
-    m_actPosition = end;
+    const quint64 end = std::min(m_apply.actPosition + quint64(std::max(bytes, 0LL)),
+                                 std::max(quint64(m_apply.bytesToDownload), m_apply.actPosition));
+    m_apply.actPosition = end;
     m_progress->setupItemActsThreads(tr("Downloading %1 packages").arg(count),
-                                     Steps(m_downloadBudget), end + 1, m_multiThreads,
-                                     std::max(bytes, 1LL));
+                                     Steps(m_apply.downloadBudget), end + 1,
+                                     m_packages.meters.threads, std::max(bytes, 1LL));
     Py_RETURN_NONE;
 }
 
@@ -246,9 +240,7 @@ PyObject *YumIO::applyGrabMultiMeterNew(PyObject *, PyObject *args)
     PyObject *id;
     if (!PyArg_ParseTuple(args, "O", &id))
         return nullptr;
-    Meter meter;
-    meter.thread = m_multiNextThread++;
-    m_multiMeterFiles.insert(textOf(id), meter);
+    m_packages.meters.byId.insert(textOf(id), Meter());
     Py_RETURN_NONE;
 }
 
@@ -257,18 +249,20 @@ PyObject *YumIO::applyGrabMultiMeterRemove(PyObject *, PyObject *args)
     PyObject *id;
     if (!PyArg_ParseTuple(args, "O", &id))
         return nullptr;
-    const QString key = textOf(id);
     // One that failed for good is finished too, though its bytes never came.
-    if (m_multiMeterFiles.value(key).retrying)
-        endMeterThread(m_multiMeterFiles[key]);
-    m_multiMeterFiles.remove(key);
+    const Meter meter = m_packages.meters.byId.take(textOf(id));
+    if (meter.retrying)
+        endMeterThread(meter);
+    if (!meter.rebuild && m_packages.left > 0)
+        --m_packages.left;
+    startDeltaRebuild();
     Py_RETURN_NONE;
 }
 
 PyObject *YumIO::applyGrabMultiMeterEnd(PyObject *, PyObject *)
 {
-    m_multiMeterActive = false;
-    m_multiMeterFiles.clear();
+    m_packages.parallel = false;
+    m_packages.meters.byId.clear();
     if (m_progress)
         m_progress->endItemActsThreads();
     Py_RETURN_NONE;
@@ -294,49 +288,47 @@ PyObject *YumIO::applyGrabMeterStart(PyObject *, PyObject *args)
         error(tr("Internal error: apply grab size not understood"));
     if (!m_progress)
         Py_RETURN_NONE;
-    const bool known = m_multiMeterFiles.contains(start.id);
-    Meter &meter = m_multiMeterFiles[start.id];
+    Meter &meter = m_packages.meters.byId[start.id];
     if (meter.started) // a size that became known
         Py_RETURN_NONE;
-    if (start.filename == deltaRebuild) {
-        startDeltaRebuild(start, meter);
-        Py_RETURN_NONE;
-    }
     meter.started = true;
     meter.sized = start.sized;
     meter.max = start.sized ? start.size : 1;
+    if (start.filename == deltaRebuild) {
+        meter.rebuild = true;
+        meter.thread = ~0u; // shows in none
+        meter.text = tr("Finishing RPM rebuild from deltas");
+        startDeltaRebuild();
+        Py_RETURN_NONE;
+    }
     meter.text = maskPasswords(packageText(start));
-    if (m_multiMeterActive) {
-        if (!known)
-            meter.thread = m_multiNextThread++;
-        if (meter.thread < m_multiThreads)
+    if (m_packages.parallel) {
+        meter.thread = m_packages.nextThread++;
+        if (meter.thread < m_packages.meters.threads)
             m_progress->startItemActThread(meter.text, meter.thread, meter.max);
     } else {
         meter.single = true;
-        m_actPosition += quint64(std::max(qint64(start.size), Weights::least));
-        m_progress->startItemAct(meter.text, meter.max, m_actPosition);
+        m_apply.actPosition += quint64(std::max(qint64(start.size), Weights::least));
+        m_progress->startItemAct(meter.text, meter.max, m_apply.actPosition);
     }
     Py_RETURN_NONE;
 }
 
-// The rebuilding has an item of its own behind the downloads. While some of these still run it is
-// only one more of them, or their numbers would end in its bar.
-void YumIO::startDeltaRebuild(const MeterStart &start, Meter &meter)
+// The rebuilding has an item of its own behind the downloads. While some of these are still to come
+// nothing shows of it, or their numbers would end in its bar.
+void YumIO::startDeltaRebuild()
 {
-    meter.started = true;
-    meter.sized = start.sized;
-    meter.max = start.sized ? start.size : 1;
-    meter.text = tr("Finishing RPM rebuild from deltas");
-    if (m_deltaRebuildShown || m_multiMeterFiles.size() > 1) {
-        if (meter.thread < m_multiThreads)
-            m_progress->startItemActThread(meter.text, meter.thread, meter.max);
+    auto &meters = m_packages.meters.byId;
+    const auto meter =
+        std::find_if(meters.begin(), meters.end(), [](const Meter &one) { return one.rebuild; });
+    if (!m_progress || meter == meters.end() || m_packages.deltaRebuildShown || m_packages.left > 0)
         return;
-    }
-    m_deltaRebuildShown = true;
-    meter.single = true;
+    meter->single = true;
+    m_packages.deltaRebuildShown = true;
     m_progress->endItemActsThreads();
     m_progress->endItemActs();
-    m_progress->startItem(meter.text, deltaRebuildUnits, meter.max);
+    m_progress->startItem(meter->text, deltaRebuildUnits(), meter->max);
+    m_progress->setupItemActs(0, 0);
 }
 
 PyObject *YumIO::applyGrabMeterUpdate(PyObject *, PyObject *args)
@@ -345,7 +337,7 @@ PyObject *YumIO::applyGrabMeterUpdate(PyObject *, PyObject *args)
     long long amount;
     if (!PyArg_ParseTuple(args, "OL", &id, &amount))
         return nullptr;
-    updateMeter(m_multiMeterFiles, id, amount);
+    updateMeter(m_packages.meters, id, amount);
     Py_RETURN_NONE;
 }
 
@@ -355,7 +347,7 @@ PyObject *YumIO::applyGrabMeterEnd(PyObject *, PyObject *args)
     long long amount;
     if (!PyArg_ParseTuple(args, "OL", &id, &amount))
         return nullptr;
-    endMeter(m_multiMeterFiles, id);
+    endMeter(m_packages.meters, id);
     Py_RETURN_NONE;
 }
 
@@ -364,19 +356,14 @@ PyObject *YumIO::applyGrabMeterFailure(PyObject *, PyObject *args)
     PyObject *id, *message;
     if (!PyArg_ParseTuple(args, "OO", &id, &message))
         return nullptr;
-    failMeter(m_multiMeterFiles, id, message);
+    failMeter(m_packages.meters, id, message);
     Py_RETURN_NONE;
 }
 
-unsigned YumIO::threadLimit(const QHash<QString, Meter> &meters) const
+void YumIO::updateMeter(Meters &meters, PyObject *id, long long amount)
 {
-    return &meters == &m_collectMeters ? 1 : m_multiThreads;
-}
-
-void YumIO::updateMeter(QHash<QString, Meter> &meters, PyObject *id, long long amount)
-{
-    const auto found = meters.find(textOf(id));
-    if (found == meters.end() || !m_progress || !found->started)
+    const auto found = meters.byId.find(textOf(id));
+    if (found == meters.byId.end() || !m_progress || !found->started)
         return;
     Meter &meter = *found;
     meter.read = amount > 0 ? quint64(amount) : 0;
@@ -386,7 +373,7 @@ void YumIO::updateMeter(QHash<QString, Meter> &meters, PyObject *id, long long a
         m_progress->setItemValue(value);
         return;
     }
-    if (meter.thread >= threadLimit(meters))
+    if (meter.thread >= meters.threads)
         return;
     if (meter.retrying && meter.read > 0) {
         meter.retrying = false;
@@ -397,30 +384,30 @@ void YumIO::updateMeter(QHash<QString, Meter> &meters, PyObject *id, long long a
 
 void YumIO::endMeterThread(const Meter &meter)
 {
-    if (m_progress && meter.started && !meter.single && meter.thread < m_multiThreads)
+    if (m_progress && meter.started && !meter.single && meter.thread < m_packages.meters.threads)
         m_progress->endItemActThread(meter.thread);
 }
 
-void YumIO::endMeter(QHash<QString, Meter> &meters, PyObject *id)
+void YumIO::endMeter(Meters &meters, PyObject *id)
 {
-    const auto found = meters.find(textOf(id));
-    if (found == meters.end() || !m_progress || !found->started)
+    const auto found = meters.byId.find(textOf(id));
+    if (found == meters.byId.end() || !m_progress || !found->started)
         return;
     if (found->single) {
         m_progress->setItemValue(found->max);
         return;
     }
-    if (found->thread >= threadLimit(meters))
+    if (found->thread >= meters.threads)
         return;
     found->retrying = false;
     m_progress->setItemActsThreadValue(found->thread, found->max);
     m_progress->endItemActThread(found->thread);
 }
 
-void YumIO::failMeter(QHash<QString, Meter> &meters, PyObject *id, PyObject *message)
+void YumIO::failMeter(Meters &meters, PyObject *id, PyObject *message)
 {
-    const auto found = meters.find(textOf(id));
-    if (found == meters.end())
+    const auto found = meters.byId.find(textOf(id));
+    if (found == meters.byId.end())
         return;
     log(Log::Kind::Warning, 1,
         tr("%1: %2").arg(found->text.isEmpty() ? textOf(id) : found->text, textOf(message)));
@@ -429,7 +416,7 @@ void YumIO::failMeter(QHash<QString, Meter> &meters, PyObject *id, PyObject *mes
         return;
     if (found->single) {
         m_progress->setItemValue(0);
-    } else if (found->thread < threadLimit(meters)) {
+    } else if (found->thread < meters.threads) {
         found->retrying = true;
         m_progress->retryItemActThread(found->thread);
     }

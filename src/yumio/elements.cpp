@@ -41,27 +41,33 @@ Steps steps(long long value)
 
 } // namespace
 
+// What the downloads have left of their units, and those of a rebuilding that there was none of.
+void YumIO::endDownloads()
+{
+    m_progress->endItemActs();
+    if (m_packages.deltaRebuildShown || !usesPresto())
+        return;
+    m_packages.deltaRebuildShown = true;
+    m_progress->startItem(tr("Finishing RPM rebuild from deltas"), deltaRebuildUnits(), true);
+    m_progress->setItemValue(1);
+    m_progress->setupItemActs(0, 0);
+}
+
 PyObject *YumIO::tsInitCallback(PyObject *, PyObject *args)
 {
     long phase;
     if (!PyArg_ParseTuple(args, "l", &phase))
         return nullptr;
-    m_actPosition = 0;
+    m_apply.actPosition = 0;
     if (!m_progress)
         Py_RETURN_NONE;
-    const Steps start = Steps(m_transactionWeight / 20);
+    const Steps start = Steps(m_apply.transactionWeight / 20);
+    holdReports();
+    endDownloads();
     if (phase != 0) {
-        m_progress->endItemActs();
         m_progress->startItem(tr("Preparing to Run Transaction"), 1000, true);
-        m_progress->setupItemActs(8000, Steps(m_transactionWeight) + start);
+        m_progress->setupItemActs(8000, Steps(m_apply.transactionWeight) + start);
         Py_RETURN_NONE;
-    }
-    if (!m_deltaRebuildShown) {
-        m_progress->endItemActs();
-        if (usesPresto()) {
-            m_progress->startItem(tr("Finishing RPM rebuild from deltas"), deltaRebuildUnits, true);
-            m_progress->setItemValue(1);
-        }
     }
     if (hasTransTest()) {
         m_progress->startItem(tr("Preparing to Test Transaction"), 1000, true);
@@ -80,8 +86,8 @@ PyObject *YumIO::tsCallback(PyObject *, PyObject *args)
     if (!m_progress)
         Py_RETURN_NONE;
     if (what & TransStart) {
-        m_actPosition += Steps(m_transactionWeight / 20);
-        m_progress->startItemAct(tr("Transaction Test"), steps(total), m_actPosition);
+        m_apply.actPosition += Steps(m_apply.transactionWeight / 20);
+        m_progress->startItemAct(tr("Transaction Test"), steps(total), m_apply.actPosition);
     }
     if (what & TransProgress)
         m_progress->setItemValue(steps(amount));
@@ -119,7 +125,7 @@ void YumIO::startInstall(PyObject *key, Steps total)
     };
     PyErr_Clear();
     const QString name = field("name"), arch = field("arch");
-    Package::Entry *entry = m_byKey.value(EntryKey(false, name, getBiArch(arch)));
+    Package::Entry *entry = m_store.byKey.value(EntryKey(false, name, getBiArch(arch)));
     if (!entry) {
         error(tr("Internal error: Unable to find package for install/update of %1.%2")
                   .arg(name, arch));
@@ -132,10 +138,10 @@ void YumIO::startInstallElement(Package::Entry *entry, bool isUpdate, Steps tota
 {
     const QString text =
         isUpdate ? tr("Updating %1").arg(entry->name) : tr("Installing %1").arg(entry->name);
-    m_actPosition += Steps(Weights::install(entry->size));
+    m_apply.actPosition += Steps(Weights::install(entry->size));
     entry->started = true;
     log(Log::Kind::Normal, 1, text);
-    m_progress->startItemAct(text, total, m_actPosition);
+    m_progress->startItemAct(text, total, m_apply.actPosition);
 }
 
 // An erasure is told by name alone, so each one takes the next version of the name that rpm has not
@@ -162,11 +168,11 @@ void YumIO::startErase(const QString &name, bool mayBeUpdate, Steps total,
         entry = row;
     }
     entry->started = true;
-    m_actPosition +=
+    m_apply.actPosition +=
         Steps(isUpdate ? Weights::completion(entry->size) : Weights::removal(entry->size));
     m_progress->startItemAct(isUpdate ? tr("Completing update for: %1").arg(name)
                                       : tr("Removing %1").arg(name),
-                             total, m_actPosition);
+                             total, m_apply.actPosition);
 }
 
 PyObject *YumIO::tsEvent(PyObject *, PyObject *args)
@@ -180,11 +186,11 @@ PyObject *YumIO::tsEvent(PyObject *, PyObject *args)
         return nullptr;
     if (!m_progress)
         Py_RETURN_NONE;
-    if (!m_eventsStarted) {
-        m_actPosition += Steps(m_transactionWeight / 20);
-        m_eventsStarted = true;
+    if (!m_apply.eventsStarted) {
+        m_apply.actPosition += Steps(m_apply.transactionWeight / 20);
+        m_apply.eventsStarted = true;
     }
-    const bool isNew = element != m_lastTsElement;
+    const bool isNew = element != m_apply.lastElement;
     switch (action) {
     case UpdateElement:
     case ObsoletingElement:
@@ -192,7 +198,7 @@ PyObject *YumIO::tsEvent(PyObject *, PyObject *args)
     case TrueInstallElement: {
         const bool isUpdate = action == UpdateElement || action == ObsoletingElement;
         if (isNew && installEvent(package, isUpdate, steps(elementTotal)))
-            m_lastTsElement = element;
+            m_apply.lastElement = element;
         m_progress->setItemValue(steps(elementDone));
         break;
     }
@@ -203,7 +209,7 @@ PyObject *YumIO::tsEvent(PyObject *, PyObject *args)
             startErase(pyString(package), action != EraseElement, steps(elementTotal),
                        tr("Internal error: YumIO::tsCallback REMOVE/COMPLETE of %1 not expected"),
                        tr("Internal error: YumIO::tsCallback UNINST of %1 too many times"));
-            m_lastTsElement = element;
+            m_apply.lastElement = element;
         }
         m_progress->setItemValue(steps(elementDone));
         break;
@@ -225,7 +231,7 @@ bool YumIO::installEvent(PyObject *package, bool isUpdate, Steps total)
         return value ? pyString(value.get()) : QString();
     };
     const QString name = field("name"), arch = field("arch");
-    Package::Entry *entry = m_byKey.value(EntryKey(false, name, getBiArch(arch)));
+    Package::Entry *entry = m_store.byKey.value(EntryKey(false, name, getBiArch(arch)));
     if (!entry) {
         error(tr("Internal error: Unable to find package for %1 of %2.%3")
                   .arg(isUpdate ? tr("update") : tr("install"), name, arch));

@@ -1,7 +1,7 @@
 #include "python/pyref.h"
 
 #include "guiquestions.h"
-#include "passwordsintext.h"
+#include "progress/progress.h"
 #include "yumio.h"
 
 #include <QMutexLocker>
@@ -13,14 +13,14 @@
 void YumIO::error(const QString &text)
 {
     log(Log::Kind::Error, 0, text);
-    if (m_dialogs)
+    if (!isHeld(text, true) && m_dialogs)
         m_dialogs->critical(tr("VOK Yum Error"), text, QString(), QString(), QString(), 0, -1);
 }
 
 void YumIO::warning(const QString &text)
 {
     log(Log::Kind::Warning, 0, text);
-    if (m_dialogs)
+    if (!isHeld(text, false) && m_dialogs)
         m_dialogs->warning(tr("VOK Yum Warning"), text, QString(), QString(), QString(), 0, -1);
 }
 
@@ -34,33 +34,69 @@ void YumIO::warning(const char *message)
     warning(QString::fromUtf8(message));
 }
 
+// The report of what ends a job: its bars rest before the user is told. False, for returning.
+bool YumIO::fail(const QString &text)
+{
+    if (m_progress)
+        m_progress->reset();
+    error(text);
+    return false;
+}
+
+// From here on reports are only logged, and kept.
+void YumIO::holdReports()
+{
+    m_reports.held = true;
+}
+
+// Shows what was kept, in order, and no longer keeps what comes.
+void YumIO::showHeldReports()
+{
+    const Engine::Reports held = m_reports;
+    m_reports = {};
+    m_reports.logMark = held.logMark;
+    if (m_dialogs && !held.texts.isEmpty()) {
+        m_dialogs->scrollable(held.haveError ? tr("VOK Yum Error") : tr("VOK Yum Warning"),
+                              held.texts.join(QLatin1String("\n\n")));
+    }
+}
+
+bool YumIO::isHeld(const QString &text, bool isError)
+{
+    if (!m_reports.held)
+        return false;
+    m_reports.texts.append(text);
+    m_reports.haveError |= isError;
+    return true;
+}
+
 void YumIO::pyExceptExpect(PyObject *type)
 {
     {
         QMutexLocker lock(&m_log.mutex());
-        m_logMark = int(m_log.entries().size());
+        m_reports.logMark = int(m_log.entries().size());
     }
     Python::pyExceptExpect(type);
 }
 
 void YumIO::pyExceptClear()
 {
-    m_logMark = -1;
+    m_reports.logMark = -1;
     Python::pyExceptClear();
 }
 
 void YumIO::commExceptSetup()
 {
-    pyExceptExpect(m_exceptionTypes[BdbQuit]);
-    pyExceptExpect(m_exceptionTypes[YumBaseError]);
-    pyExceptExpect(m_exceptionTypes[RepoError]);
+    pyExceptExpect(m_script.exceptionTypes[BdbQuit]);
+    pyExceptExpect(m_script.exceptionTypes[YumBaseError]);
+    pyExceptExpect(m_script.exceptionTypes[RepoError]);
     pyExceptExpect(PyExc_IOError);
     pyExceptExpect(PyExc_KeyboardInterrupt);
     pyExceptExpect(PyExc_AssertionError);
-    if (m_exceptionTypes[SqliteOperationalError])
-        pyExceptExpect(m_exceptionTypes[SqliteOperationalError]);
-    if (m_exceptionTypes[NoMoreMirrorsRepoError])
-        pyExceptExpect(m_exceptionTypes[NoMoreMirrorsRepoError]);
+    if (m_script.exceptionTypes[SqliteOperationalError])
+        pyExceptExpect(m_script.exceptionTypes[SqliteOperationalError]);
+    if (m_script.exceptionTypes[NoMoreMirrorsRepoError])
+        pyExceptExpect(m_script.exceptionTypes[NoMoreMirrorsRepoError]);
 }
 
 // The pending exception's text; it stays pending.
@@ -107,6 +143,9 @@ bool YumIO::commExceptRaised(PyObject *result, const QString &what)
         return true;
     }
     const auto raised = [&](PyObject *type) { return type && pyExceptMatches(result, type); };
+    // The job ends with it, and its bars rest before the user is told.
+    if (!result && m_progress)
+        m_progress->reset();
 
     if (raised(PyExc_IOError)) {
         const QString value = exceptionText();
@@ -126,11 +165,11 @@ bool YumIO::commExceptRaised(PyObject *result, const QString &what)
         error(tr("Internal error: python assertion failed\n"
                  "When reporting this issue, please include the contents of the\n"
                  "Log window, which should contain a walkback."));
-    } else if (raised(m_exceptionTypes[NoMoreMirrorsRepoError])) {
+    } else if (raised(m_script.exceptionTypes[NoMoreMirrorsRepoError])) {
         error(tr("Unable to %1: metadata unavailable from all repo mirrors:\n%2")
                   .arg(what, exceptionText()));
-    } else if (raised(m_exceptionTypes[RepoError]) ||
-               raised(m_exceptionTypes[SqliteOperationalError])) {
+    } else if (raised(m_script.exceptionTypes[RepoError]) ||
+               raised(m_script.exceptionTypes[SqliteOperationalError])) {
         if (exceptionText().contains(QLatin1String("database is locked"))) {
             pythonException(
                 tr("Unable to %1: a repository's sqlite database was locked unexpectedly\n"
@@ -139,12 +178,25 @@ bool YumIO::commExceptRaised(PyObject *result, const QString &what)
         } else {
             exceptionError();
         }
-    } else if (raised(m_exceptionTypes[BdbQuit]) || raised(m_exceptionTypes[YumBaseError])) {
+    } else if (raised(m_script.exceptionTypes[BdbQuit]) ||
+               raised(m_script.exceptionTypes[YumBaseError])) {
         pythonExceptionV(tr("Unable to %1").arg(what));
     } else {
         return false;
     }
     return true;
+}
+
+// Reports the pending exception of a call that no expectations were declared for: what the script
+// refuses as "Unable to `what`", anything else as an internal error.
+void YumIO::reportPending(const QString &what)
+{
+    pyExceptStart();
+    commExceptSetup();
+    handleException();
+    if (PyErr_Occurred())
+        commExceptRaised(nullptr, what);
+    pyExceptClear();
 }
 
 // What failed calls wrote: the important error lines from `start` on, oldest first.
@@ -162,14 +214,17 @@ QString YumIO::errorLinesSince(qsizetype start)
 
 void YumIO::pythonException(const QString &text)
 {
-    qsizetype start = m_logMark;
+    if (m_progress)
+        m_progress->reset();
+    qsizetype start = m_reports.logMark;
     if (start == -1) {
         QMutexLocker lock(&m_log.mutex());
         start = m_log.entries().size();
     }
     log(Log::Kind::Error, 0, text);
-    if (m_dialogs)
-        m_dialogs->scrollable(tr("VOK Yum Error"), errorLinesSince(start));
+    const QString lines = errorLinesSince(start);
+    if (!isHeld(lines, true) && m_dialogs)
+        m_dialogs->scrollable(tr("VOK Yum Error"), lines);
 }
 
 void YumIO::pythonExceptionV(const QString &text)
@@ -179,14 +234,14 @@ void YumIO::pythonExceptionV(const QString &text)
         return;
     }
     // Both lines belong to the report, so the mark is set before the first when there is none.
-    const int outerMark = m_logMark;
-    if (m_logMark == -1) {
+    const int outerMark = m_reports.logMark;
+    if (m_reports.logMark == -1) {
         QMutexLocker lock(&m_log.mutex());
-        m_logMark = int(m_log.entries().size());
+        m_reports.logMark = int(m_log.entries().size());
     }
     log(Log::Kind::Error, 0, exceptionText());
     pythonException(text);
-    m_logMark = outerMark;
+    m_reports.logMark = outerMark;
 }
 
 bool YumIO::reapChildren()
@@ -211,7 +266,7 @@ void YumIO::sigchldDisable()
     struct sigaction action = {};
     action.sa_handler = SIG_DFL;
     sigemptyset(&action.sa_mask);
-    if (::sigaction(SIGCHLD, &action, &m_savedSigchld) == -1) {
+    if (::sigaction(SIGCHLD, &action, &m_capture.savedSigchld) == -1) {
         const int cause = errno;
         error(tr("Unable to disable SIGCHLD signal handler; errno=%1 (%2)")
                   .arg(cause)
@@ -221,33 +276,10 @@ void YumIO::sigchldDisable()
 
 void YumIO::sigchldRestore()
 {
-    if (::sigaction(SIGCHLD, &m_savedSigchld, nullptr) == -1) {
+    if (::sigaction(SIGCHLD, &m_capture.savedSigchld, nullptr) == -1) {
         const int cause = errno;
         error(tr("Unable to restore SIGCHLD signal handler; errno=%1 (%2)")
                   .arg(cause)
                   .arg(QString::fromLocal8Bit(std::strerror(cause))));
     }
-}
-
-void YumIO::reportInterrupted()
-{
-    if (!m_yumIO || !PyObject_HasAttrString(m_yumIO, "interrupted"))
-        return;
-    const PyRef result(pyMethodCall(m_yumIO, "interrupted", "()"));
-    const PyRef iterator(result && result.get() != Py_None ? PyObject_GetIter(result.get())
-                                                           : nullptr);
-    QStringList lines;
-    while (iterator) {
-        const PyRef line(PyIter_Next(iterator.get()));
-        if (!line)
-            break;
-        lines.append(pyString(line.get()));
-    }
-    PyErr_Clear();
-    if (lines.isEmpty())
-        return;
-    const QString text = lines.join(QLatin1Char('\n'));
-    log(Log::Kind::Warning, 0, text);
-    if (m_dialogs)
-        m_dialogs->scrollable(tr("VOK Interrupted Transaction"), text);
 }

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <ctime>
@@ -44,7 +45,12 @@ QString bytesFormat(quint64 bytes)
         unit = units[power];
     }
     const int decimals = value > 0 && value < 9.95 ? 1 : 0;
-    return QString::number(value, 'f', decimals) + QCoreApplication::translate("YumIO", unit);
+    // Exact, so that a tie goes to the even digit.
+    std::array<char, 16> digits;
+    const auto end =
+        std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed, decimals);
+    return QString::fromLatin1(digits.data(), end.ptr - digits.data()) +
+           QCoreApplication::translate("YumIO", unit);
 }
 
 const char *timeFormat(qint64 time)

@@ -39,7 +39,7 @@ QString YumIO::actionName(Package::Action action)
 
 bool YumIO::applyGroups()
 {
-    for (const Package::Entry *entry : std::as_const(m_entries)) {
+    for (const Package::Entry *entry : std::as_const(m_store.entries)) {
         if (entry->kind != Package::Kind::Group)
             continue;
         bool applied = true;
@@ -218,9 +218,9 @@ void YumIO::applyGrpLogNot(const Package::Entry *group, const Package::Entry *pa
 
 // True when the package that a conditional member depends on is there or will be, be it as one of
 // the `others` that the group brings.
-bool YumIO::conditionHolds(PyObject *conditional, PyObject *member, const QStringList &others)
+bool YumIO::conditionHolds(PyObject *conditional, const QString &member, const QStringList &others)
 {
-    const PyRef condition(PyObject_GetItem(conditional, member));
+    const PyRef condition(PyMapping_GetItemString(conditional, member.toUtf8().constData()));
     PyErr_Clear();
     if (!condition || !PyUnicode_Check(condition.get()))
         return false;
@@ -248,36 +248,42 @@ bool YumIO::groupMembers(const Package::Entry *group, std::initializer_list<Memb
             return false;
         }
         const PyRef keys(pyMethodCall(members.get(), "keys", "()"));
-        const PyRef iterator(keys ? PyObject_GetIter(keys.get()) : nullptr);
-        if (!iterator) {
+        QStringList found;
+        if (!keys ||
+            !appendNames(keys.get(), tr("read the members of group %1").arg(group->name), found)) {
             PyErr_Clear();
             return false;
         }
-        while (const PyRef key = PyRef(PyIter_Next(iterator.get()))) {
-            if (kind != ConditionalThatHolds || conditionHolds(members.get(), key.get(), names))
-                appendUnique(names, pyString(key.get()), seen);
+        for (const QString &name : std::as_const(found)) {
+            if (kind != ConditionalThatHolds || conditionHolds(members.get(), name, names))
+                appendUnique(names, name, seen);
         }
-        PyErr_Clear();
     }
     return true;
 }
 
-// Appends the names that the script's method gives for one package name.
+// Appends the names that the script's method gives for one package name. A failure is reported.
 bool YumIO::scriptNames(const char *method, const QString &name, QStringList &names)
 {
-    const PyRef result(pyMethodCall(m_yumIO, method, "(s)", name.toUtf8().constData()));
-    const PyRef iterator(result ? PyObject_GetIter(result.get()) : nullptr);
-    if (!iterator) {
-        PyErr_Clear();
-        return false;
-    }
-    while (const PyRef item = PyRef(PyIter_Next(iterator.get())))
+    const QString what = tr("find the packages that %1 stands for in a group").arg(name);
+    pyExceptStart();
+    commExceptSetup();
+    const PyRef result(pyMethodCall(m_session.yumIO, method, "(s)", name.toUtf8().constData()));
+    commExceptRaised(result.get(), what);
+    pyExceptClear();
+    return result && appendNames(result.get(), what, names);
+}
+
+// Appends the texts of an iterable. A failure is reported as "Unable to `what`".
+bool YumIO::appendNames(PyObject *iterable, const QString &what, QStringList &names)
+{
+    const PyRef iterator(PyObject_GetIter(iterable));
+    while (const PyRef item = PyRef(iterator ? PyIter_Next(iterator.get()) : nullptr))
         names.append(pyString(item.get()));
-    if (PyErr_Occurred()) {
-        handleException();
-        return false;
-    }
-    return true;
+    if (!PyErr_Occurred())
+        return true;
+    reportPending(what);
+    return false;
 }
 
 bool YumIO::requiredPkgs(const Package::Entry *group, QSet<QString> &names)

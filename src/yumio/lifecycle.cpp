@@ -24,17 +24,6 @@ void YumIO::Blocker::block()
     m_mutex.unlock();
 }
 
-YumIO::EntryKey::EntryKey(bool isGroup_, QString name_, QString arch_)
-    : isGroup(isGroup_), name(std::move(name_)), arch(std::move(arch_))
-{
-}
-
-size_t qHash(const YumIO::EntryKey &key, size_t)
-{
-    return (quint32(qHash(key.name, 0)) << 1) + (quint32(qHash(key.arch, 0)) << 2) +
-           quint32(key.isGroup);
-}
-
 YumIO::ThreadId::operator long() const
 {
     return long(quint32(qHash(text, 0)) + quint32(act));
@@ -47,18 +36,18 @@ YumIO::~YumIO()
     if (isInitialized()) {
         const PyGILStateWrapper lock(true);
         py("import sys\nsys.stdout = sys.__stdout__\nsys.stderr = sys.__stderr__\n");
-        if (m_locked && m_yumIO) {
+        if (m_script.locked && m_session.yumIO) {
             pyExceptStart();
-            pyExceptExpect(m_exceptionTypes[LockError]);
-            const PyRef result(pyMethodCall(m_yumIO, "unlock", "()"));
-            if (pyExceptMatches(result.get(), m_exceptionTypes[LockError]))
+            pyExceptExpect(m_script.exceptionTypes[LockError]);
+            const PyRef result(pyMethodCall(m_session.yumIO, "unlock", "()"));
+            if (pyExceptMatches(result.get(), m_script.exceptionTypes[LockError]))
                 pythonExceptionV(tr("Unable to release yum lock"));
             pyExceptClear();
         }
         releaseEntries(true);
-        Py_CLEAR(m_former);
-        Py_CLEAR(m_yumIO);
-        Py_CLEAR(m_yumIOClass);
+        Py_CLEAR(m_former.yumIO);
+        Py_CLEAR(m_session.yumIO);
+        Py_CLEAR(m_script.yumIOClass);
         YumIOC::initialize(nullptr);
         PyErr_Clear();
     }
@@ -73,16 +62,14 @@ void YumIO::setup(QWidget *parent, HProgressBar *totalBar, HProgressBar *itemBar
     m_dialogs = new YumIODialogs(parent);
 }
 
-// Reports why the session could not start: the interpreter's own reason first.
+// Reports what kept the session from starting. The interpreter's reason is in the log.
 bool YumIO::failInitialize(const QString &message)
 {
-    QString cause;
     if (PyErr_Occurred()) {
-        cause = exceptionText();
         handleException();
         PyErr_Clear();
     }
-    error(cause.isEmpty() ? message : message + u'\n' + cause);
+    error(message);
     return false;
 }
 
@@ -91,7 +78,7 @@ bool YumIO::initialize()
     if (!Python::initialize())
         return false;
     const PyGILStateWrapper lock(true);
-    if (m_yumIO)
+    if (m_session.yumIO)
         return true;
     if (!YumIOC::initialize(this))
         return failInitialize(tr("Internal error: cannot create python module yumIOC"));
@@ -116,15 +103,15 @@ bool YumIO::runScript()
     const PyRef rpm(PyImport_ImportModule("rpm"));
     if (!rpm)
         return failInitialize(tr("Internal error: cannot find python rpm module"));
-    m_rpmDict = PyModule_GetDict(rpm.get()); // kept alive by sys.modules
-    if (!m_rpmDict)
+    m_script.rpmDict = PyModule_GetDict(rpm.get()); // kept alive by sys.modules
+    if (!m_script.rpmDict)
         return failInitialize(tr("Internal error: cannot find python rpm dict"));
     setEnablePythonSIGINTHandler(false);
 
     QFile file(Share::absolute(QStringLiteral("python/YumIO.py")));
     if (!file.open(QIODevice::ReadOnly)) {
-        return failInitialize(tr("Internal error: unable to open YumIO.py") +
-                              QStringLiteral("\n%1: %2").arg(file.fileName(), file.errorString()));
+        log(Log::Kind::Error, 0, QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
+        return failInitialize(tr("Internal error: unable to open YumIO.py"));
     }
     const QByteArray source = file.readAll();
     file.close();
@@ -134,8 +121,9 @@ bool YumIO::runScript()
     if (!done)
         return failInitialize(tr("Internal error: unable to execute YumIO.py"));
 
-    Py_XSETREF(m_yumIOClass, Py_XNewRef(PyDict_GetItemString(main, "YumIO")));
-    if (!m_yumIOClass)
+    Py_CLEAR(m_script.yumIOClass);
+    m_script.yumIOClass = PyRef::share(PyDict_GetItemString(main, "YumIO")).release();
+    if (!m_script.yumIOClass)
         return failInitialize(tr("Internal error: cannot find python YumIO"));
     return true;
 }
@@ -145,14 +133,14 @@ bool YumIO::createYumIO()
 {
     pyExceptStart();
     pyExceptExpect(PyExc_SystemExit);
-    PyObject *object = PyObject_CallNoArgs(m_yumIOClass);
+    PyObject *object = PyObject_CallNoArgs(m_script.yumIOClass);
     const bool refused = pyExceptMatches(object, PyExc_SystemExit);
     if (refused)
         pythonExceptionV(tr("Unable to initialize"));
     else if (!object)
         failInitialize(tr("Internal error: cannot create python yumIO"));
     pyExceptClear();
-    Py_XSETREF(m_yumIO, object);
+    Py_XSETREF(m_session.yumIO, object);
     return object != nullptr;
 }
 
@@ -172,7 +160,7 @@ bool YumIO::lookUpExceptionTypes()
         {"yum.Errors.NoMoreMirrorsRepoError", true},
     };
     for (int i = 0; i < ExceptionTypeCount; ++i)
-        m_exceptionTypes[i] = pyLookup(types[i].name, types[i].optional);
+        m_script.exceptionTypes[i] = pyLookup(types[i].name, types[i].optional);
     return true;
 }
 
@@ -210,21 +198,15 @@ void YumIO::blockerRelease()
 
 bool YumIO::collect(const QHash<QString, bool> &reposUsed)
 {
-    const bool hadFileLists = std::exchange(m_fileListsLoaded, false);
-    const bool hadOtherData = std::exchange(m_otherDataLoaded, false);
-    const QStringList hadRepos = m_enabledRepos;
+    m_session.fileLists = false;
+    m_session.otherData = false;
     QEventLoop loop;
     CollectThread thread(this, loop, reposUsed);
     execWorkThread(loop, thread);
-    if (thread.result()) {
+    if (thread.result())
         publishEntries();
-        m_spent = false;
-    } else if (m_former) {
+    else if (m_former.yumIO)
         takeFormerBack();
-        m_fileListsLoaded = hadFileLists;
-        m_otherDataLoaded = hadOtherData;
-        m_enabledRepos = hadRepos;
-    }
     m_clearing = false;
     Q_EMIT collectedExtraData();
     return thread.result();
@@ -235,7 +217,7 @@ bool YumIO::apply()
     QEventLoop loop;
     ApplyThread thread(this, loop);
     execWorkThread(loop, thread);
-    m_spent = m_spent || thread.result();
+    m_session.spent = m_session.spent || thread.result();
     return thread.result();
 }
 
@@ -255,30 +237,26 @@ void YumIO::clearEntriesReal()
     releaseEntries(true);
 }
 
-// Rows and what finds them. Heads that a failed collection gathered are only in the hash.
 void YumIO::releaseEntries(bool withInterpreter)
 {
-    for (Package::Entry *head : std::as_const(m_byKey)) {
+    publishEntries(); // or those that a failed collection gathered would belong to nobody
+    for (Package::Entry *head : std::as_const(m_store.entries)) {
         for (Package::Entry *entry = head; entry; entry = entry->next) {
             if (withInterpreter)
                 Py_XDECREF(entry->po);
             entry->po = nullptr;
         }
     }
-    qDeleteAll(m_byKey);
-    m_entries.clear();
-    m_byKey.clear();
-    m_best.clear();
-    m_archFamilies.clear();
+    m_store = {};
 }
 
 // Gives the collected rows to the table in one step, on the GUI thread.
 void YumIO::publishEntries()
 {
-    m_entries.clear();
-    m_entries.reserve(m_byKey.size());
-    for (Package::Entry *entry : std::as_const(m_byKey))
-        m_entries.append(entry);
+    m_store.entries.clear();
+    m_store.entries.reserve(m_store.byKey.size());
+    for (Package::Entry *entry : std::as_const(m_store.byKey))
+        m_store.entries.append(entry);
 }
 
 void YumIO::clear()
@@ -286,47 +264,50 @@ void YumIO::clear()
     flush();
     clearEntries();
     const PyGILStateWrapper lock(true);
-    Py_CLEAR(m_former);
-    Py_CLEAR(m_yumIO);
-    if (m_yumIOClass)
+    Py_CLEAR(m_former.yumIO);
+    Py_CLEAR(m_session.yumIO);
+    m_former = m_session = {};
+    if (m_script.yumIOClass)
         createYumIO();
 }
 
 void YumIO::renew()
 {
-    if (m_spent || m_former || m_entries.isEmpty()) {
+    if (m_session.spent || m_former.yumIO || m_store.entries.isEmpty()) {
         clear();
         return;
     }
     flush();
     m_clearing = true;
     const PyGILStateWrapper lock(true);
-    m_former = std::exchange(m_yumIO, nullptr);
-    if (m_yumIOClass)
+    m_former = std::exchange(m_session, {});
+    if (m_script.yumIOClass)
         createYumIO();
 }
 
 void YumIO::flush()
 {
     const PyGILStateWrapper lock(true);
-    if (m_yumIO)
-        const PyRef result(pyMethodCall(m_yumIO, "flush", "()"));
+    if (m_session.yumIO)
+        const PyRef result(pyMethodCall(m_session.yumIO, "flush", "()"));
 }
 
 // On the worker: rows of a new session take the place of the hidden ones.
 void YumIO::dropFormer()
 {
-    if (!m_former)
+    if (!m_former.yumIO)
         return;
     releaseEntries(true);
-    Py_CLEAR(m_former);
+    Py_CLEAR(m_former.yumIO);
+    m_former = {};
 }
 
 void YumIO::takeFormerBack()
 {
     const PyGILStateWrapper lock(true);
     PyErr_Clear();
-    Py_XDECREF(std::exchange(m_yumIO, std::exchange(m_former, nullptr)));
+    Py_CLEAR(m_session.yumIO);
+    m_session = std::exchange(m_former, {});
 }
 
 void YumIO::clearEntriesBeforeQuit()
@@ -337,20 +318,20 @@ void YumIO::clearEntriesBeforeQuit()
 
 QList<Package::Entry *>::const_iterator YumIO::begin() const
 {
-    return m_clearing ? m_noEntries.cbegin() : m_entries.cbegin();
+    return m_clearing ? m_noEntries.cbegin() : m_store.entries.cbegin();
 }
 
 QList<Package::Entry *>::const_iterator YumIO::end() const
 {
-    return m_clearing ? m_noEntries.cend() : m_entries.cend();
+    return m_clearing ? m_noEntries.cend() : m_store.entries.cend();
 }
 
 Package::Entry *YumIO::operator[](int row) const
 {
-    return m_clearing ? m_noEntries[row] : m_entries[row];
+    return m_clearing ? m_noEntries[row] : m_store.entries[row];
 }
 
 int YumIO::count() const
 {
-    return m_clearing ? 0 : int(m_entries.size());
+    return m_clearing ? 0 : int(m_store.entries.size());
 }

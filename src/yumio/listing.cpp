@@ -36,24 +36,23 @@ PyObject *YumIO::userconfirm(PyObject *, PyObject *)
         m_progress->endItemActs();
         m_progress->reset();
     }
-    m_actPosition = 0;
-    const bool isFinal = m_listingShown;
+    m_apply.actPosition = 0;
+    const bool isFinal = m_confirmation.listingShown;
     bool yes = false;
     if (m_dialogs && isFinal)
-        yes = m_dialogs->confirm(tr("Apply"), m_pendingText, tr("OK"), tr("Cancel")) == 1;
+        yes = m_dialogs->confirm(tr("Apply"), m_confirmation.text, tr("OK"), tr("Cancel")) == 1;
     else if (m_dialogs)
-        yes = m_dialogs->confirm(tr("Query"), m_pendingText, tr("Yes"), tr("No")) == 1;
+        yes = m_dialogs->confirm(tr("Query"), m_confirmation.text, tr("Yes"), tr("No")) == 1;
 
     if (isFinal) {
         log(Log::Kind::Action, 0, yes ? tr("Applying: OK") : tr("Not Applying: Canceled"));
-        m_applied = yes;
+        m_apply.applied = yes;
         if (yes)
             startRunTotal();
     } else {
         log(Log::Kind::Action, 0, yes ? tr("Confirmation: Yes") : tr("Confirmation: No"));
     }
-    m_pendingText.clear();
-    m_listingShown = false;
+    m_confirmation = {};
     return PyLong_FromLong(yes ? 1 : 0);
 }
 
@@ -70,7 +69,7 @@ PyObject *YumIO::reportDownloadSize(PyObject *, PyObject *args)
         bytes += sizeOf(package.get());
     if (PyErr_Occurred())
         return nullptr;
-    m_pendingText += tr("Total download size: %1\n").arg(bytesFormat(bytes));
+    m_confirmation.text += tr("Total download size: %1\n").arg(bytesFormat(bytes));
     Py_RETURN_NONE;
 }
 
@@ -82,20 +81,20 @@ bool YumIO::writeListing(const TransactionLists &lists)
             PyErr_Clear();
         return size == 0;
     };
-    m_pendingText += tr("Transaction to be performed:\n");
+    m_confirmation.text += tr("Transaction to be performed:\n");
     if (!displayTransactionPkgsRepo(tr("Install"), lists.installed) ||
         !displayTransactionPkgsRepo(tr("Update"), lists.updated) ||
         !displayTransactionPkgs(tr("Remove"), lists.removed))
         return false;
     if (!isEmpty(lists.depinstalled) || !isEmpty(lists.depupdated) || !isEmpty(lists.depremoved)) {
-        m_pendingText += tr("Performing the following to resolve dependencies:\n");
+        m_confirmation.text += tr("Performing the following to resolve dependencies:\n");
         if (!displayTransactionPkgsRepo(tr("Install"), lists.depinstalled) ||
             !displayTransactionPkgsRepo(tr("Update"), lists.depupdated) ||
             !displayTransactionPkgs(tr("Remove"), lists.depremoved))
             return false;
     }
     if (!isEmpty(lists.obsoleted)) {
-        m_pendingText += tr("Other Transactions:\n");
+        m_confirmation.text += tr("Other Transactions:\n");
         return displayTransactionPkgsObs(tr("Obsoleting"), lists.obsoleted);
     }
     return true;
@@ -106,8 +105,7 @@ PyObject *YumIO::listTransaction(PyObject *, PyObject *args)
     PyObject *owner;
     if (!PyArg_ParseTuple(args, "O", &owner))
         return nullptr;
-    m_pendingText.clear();
-    m_listingShown = true;
+    m_confirmation = {QString(), true};
     TransactionLists lists;
     if (!makeLists(owner, lists) || !writeListing(lists))
         return failedCallback("the transaction cannot be listed");
@@ -129,10 +127,11 @@ PyObject *YumIO::postTransactionOutput(PyObject *, PyObject *args)
         return nullptr;
     if (m_progress)
         m_progress->endItemActs();
+    showHeldReports(); // rpm has ended
     TransactionLists lists;
     if (!makeLists(owner, lists))
         return failedCallback("the transaction cannot be listed");
-    const qsizetype before = m_pendingText.size();
+    const qsizetype before = m_confirmation.text.size();
     const bool written = displayTransactionPkgs(tr("Removed"), lists.removed) &&
                          displayTransactionPkgs(tr("Dependency Removed"), lists.depremoved) &&
                          displayTransactionPkgs(tr("Installed"), lists.installed) &&
@@ -140,7 +139,7 @@ PyObject *YumIO::postTransactionOutput(PyObject *, PyObject *args)
                          displayTransactionPkgs(tr("Updated"), lists.updated) &&
                          displayTransactionPkgs(tr("Dependency Updated"), lists.depupdated) &&
                          displayTransactionPkgs(tr("Obsoleted"), lists.obsoleted);
-    QString outcome = m_pendingText.mid(before);
+    QString outcome = m_confirmation.text.mid(before);
     if (outcome.endsWith(QLatin1Char('\n')))
         outcome.chop(1);
     if (!outcome.isEmpty())
@@ -198,7 +197,7 @@ bool YumIO::forEachMember(PyObject *list,
 bool YumIO::displayTransactionPkgs(const QString &title, PyObject *list)
 {
     return forEachMember(list, [&](PyObject *, PyObject *pkgtup) {
-        m_pendingText += tr("\t%1: %2\n").arg(title, pkgtupFormat(pkgtup));
+        m_confirmation.text += tr("\t%1: %2\n").arg(title, pkgtupFormat(pkgtup));
         return true;
     });
 }
@@ -207,7 +206,7 @@ bool YumIO::displayTransactionPkgsRepo(const QString &title, PyObject *list)
 {
     return forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
         const QString repo = attributeText(member, "repoid");
-        m_pendingText += tr("\t%1: %2\n").arg(title, pkgtupRepoFormat(pkgtup, repo));
+        m_confirmation.text += tr("\t%1: %2\n").arg(title, pkgtupRepoFormat(pkgtup, repo));
         return true;
     });
 }
@@ -225,7 +224,7 @@ bool YumIO::displayTransactionPkgsObs(const QString &title, PyObject *list)
             error("Internal error: couldn't find obsoletedby package\n");
             return false;
         }
-        m_pendingText +=
+        m_confirmation.text +=
             tr("\t%1: %2 with %3\n").arg(title, pkgtupFormat(pkgtup), pkgtupFormat(by.get()));
         return true;
     });

@@ -46,12 +46,12 @@ void YumIO::write(const QString &text, Log::Kind kind, unsigned int level, QStri
 
 void YumIO::writeStdout(const QString &text)
 {
-    write(text, Log::Kind::Ok, 0, m_stdoutTail);
+    write(text, Log::Kind::Ok, 0, m_capture.stdoutTail);
 }
 
 void YumIO::writeStderr(const QString &text)
 {
-    write(text, Log::Kind::Error, 0, m_stderrTail);
+    write(text, Log::Kind::Error, 0, m_capture.stderrTail);
 }
 
 void YumIO::flushTails()
@@ -66,8 +66,8 @@ void YumIO::flushTails()
             tail.clear();
             appended = true;
         };
-        flush(m_stdoutTail, Log::Kind::Ok, 0);
-        flush(m_stderrTail, m_stderrKind, m_stderrLevel);
+        flush(m_capture.stdoutTail, Log::Kind::Ok, 0);
+        flush(m_capture.stderrTail, m_capture.stderrKind, m_capture.stderrLevel);
     }
     if (appended)
         m_log.emitAppended();
@@ -100,7 +100,8 @@ PyObject *YumIO::stderrWrite(PyObject *, PyObject *args)
     const char *text;
     if (!PyArg_ParseTuple(args, "s", &text))
         return nullptr;
-    write(QString::fromUtf8(text), m_stderrKind, m_stderrLevel, m_stderrTail);
+    write(QString::fromUtf8(text), m_capture.stderrKind, m_capture.stderrLevel,
+          m_capture.stderrTail);
     Py_RETURN_NONE;
 }
 
@@ -113,8 +114,8 @@ const char *YumIO::scriptLine(PyObject *args, Log::Kind kind)
     if (!PyArg_ParseTuple(args, "ls", &level, &text))
         return nullptr;
     const QString message = QString::fromUtf8(text);
-    if (!m_listingShown)
-        m_pendingText += message + QLatin1Char('\n');
+    if (!m_confirmation.listingShown)
+        m_confirmation.text += message + QLatin1Char('\n');
     log(kind, static_cast<unsigned int>(level), message);
     return text;
 }

@@ -58,8 +58,12 @@ class EntryList : public QList<Entry *>
 {
 public:
     EntryList() = default;
-    EntryList(const EntryList &) = delete;
-    EntryList &operator=(const EntryList &) = delete;
+    EntryList(EntryList &&) noexcept = default;
+    EntryList &operator=(EntryList &&other) noexcept
+    {
+        swap(other);
+        return *this;
+    }
     ~EntryList();
 };
 

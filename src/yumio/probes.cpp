@@ -11,15 +11,14 @@
 
 QString YumIO::yumVersionStr()
 {
-    if (!m_versionKnown && m_yumIO) {
+    if (!m_script.version && m_session.yumIO) {
         const PyGILStateWrapper lock(true);
         PyObject *version = pyLookup("yum.__version__", true);
         if (!version)
             version = pyLookup("cli.__version__", true);
-        m_versionStr = version ? pyString(version) : QString();
-        m_versionKnown = true;
+        m_script.version = version ? pyString(version) : QString();
     }
-    return m_versionStr;
+    return m_script.version.value_or(QString());
 }
 
 long YumIO::yumVersion()
@@ -66,38 +65,36 @@ bool YumIO::hasSqliteCache()
 }
 
 // Asks the script a yes-or-no question once; only its True means yes.
-bool YumIO::probe(bool &known, bool &answer, const char *method)
+bool YumIO::probe(std::optional<bool> &answer, const char *method)
 {
-    if (known || !m_yumIO)
-        return answer;
-    const PyGILStateWrapper lock(true);
-    pyExceptStart();
-    const PyRef result(pyMethodCall(m_yumIO, method, "()"));
-    pyExceptClear();
-    answer = result.get() == Py_True;
-    known = true;
-    return answer;
+    if (!answer && m_session.yumIO) {
+        const PyGILStateWrapper lock(true);
+        pyExceptStart();
+        const PyRef result(pyMethodCall(m_session.yumIO, method, "()"));
+        pyExceptClear();
+        answer = result.get() == Py_True;
+    }
+    return answer.value_or(false);
 }
 
 bool YumIO::usesSqlite()
 {
-    if (!m_sqliteKnown && m_yumIO) {
+    if (!m_script.sqlite && m_session.yumIO) {
         const PyGILStateWrapper lock(true);
         pyExceptStart();
         const PyRef result(pyCall("usesSqlite", "()"));
         pyExceptClear();
-        m_sqlite = result.get() == Py_True;
-        m_sqliteKnown = true;
+        m_script.sqlite = result.get() == Py_True;
     }
-    return m_sqlite;
+    return m_script.sqlite.value_or(false);
 }
 
 bool YumIO::usesPresto()
 {
-    return probe(m_prestoKnown, m_presto, "usesPresto");
+    return probe(m_script.presto, "usesPresto");
 }
 
 bool YumIO::hasMultiProgress()
 {
-    return probe(m_multiKnown, m_multi, "hasMultiProgress");
+    return probe(m_script.multiProgress, "hasMultiProgress");
 }

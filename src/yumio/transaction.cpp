@@ -49,7 +49,7 @@ Package::Entry *YumIO::dsTsFindPkg(const QString &pkg)
     if (yumVersion() <= 30208) {
         entry = findPackage(pkg);
     } else if (parseEnvra(pkg, name, arch)) {
-        entry = m_byKey.value(EntryKey(false, name, getBiArch(arch)));
+        entry = m_store.byKey.value(EntryKey(false, name, getBiArch(arch)));
     } else {
         error(tr("Internal error: TSINFO mentions package %1 which does not appear to be a valid "
                  "envra; interpreting as package name")
@@ -71,27 +71,27 @@ void YumIO::dsTsNewPkg(const QString &, Package::Entry *entry, unsigned int ops,
                   .arg(entry->name));
         return;
     }
-    m_opCount += ops;
+    m_apply.opCount += ops;
     if (mayDownload && !QFile::exists(getLocalHdr(entry->po)))
-        ++m_downloadCount;
+        ++m_apply.downloadCount;
     if (m_progress)
-        m_progress->changeItemActs(m_resolutionActs + 10 * m_downloadCount);
+        m_progress->changeItemActs(m_apply.resolutionActs + 10 * m_apply.downloadCount);
 }
 
 PyObject *YumIO::dsTsCheck(PyObject *, PyObject *)
 {
-    m_actPosition += m_passActs;
+    m_apply.actPosition += m_apply.passActs;
     if (m_progress)
-        m_progress->startItemAct(tr("Resolve Dependencies"), 1, m_actPosition);
+        m_progress->startItemAct(tr("Resolve Dependencies"), 1, m_apply.actPosition);
     Py_RETURN_NONE;
 }
 
 PyObject *YumIO::dsRestartLoop(PyObject *, PyObject *)
 {
-    m_passActs = m_opCount;
-    m_resolutionActs += m_passActs;
+    m_apply.passActs = m_apply.opCount;
+    m_apply.resolutionActs += m_apply.passActs;
     if (m_progress)
-        m_progress->changeItemActs(m_resolutionActs + 10 * m_downloadCount);
+        m_progress->changeItemActs(m_apply.resolutionActs + 10 * m_apply.downloadCount);
     Py_RETURN_NONE;
 }
 
@@ -118,7 +118,7 @@ void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
         PyErr_Clear();
         const QString name = nameItem ? pyString(nameItem.get()) : QString();
         const QString arch = archItem ? pyString(archItem.get()) : QString();
-        Package::Entry *entry = m_byKey.value(EntryKey(false, name, getBiArch(arch)));
+        Package::Entry *entry = m_store.byKey.value(EntryKey(false, name, getBiArch(arch)));
         if (!entry) {
             error(tr("Internal error: Unable to find package for install/update/remove of %1.%2")
                       .arg(name, arch));
@@ -138,14 +138,14 @@ void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
 void YumIO::weighInstall(const Package::Entry *entry, Package::Action action)
 {
     const qint64 bytes = downloadWeight(entry);
-    m_bytesTotal += bytes;
+    m_apply.bytesTotal += bytes;
     if (!QFile::exists(getLocalPkg(entry->po)))
-        m_bytesToDownload += bytes;
-    m_transactionWeight += Weights::install(entry->size);
+        m_apply.bytesToDownload += bytes;
+    m_apply.transactionWeight += Weights::install(entry->size);
     if (action != Package::Action::Update)
         return;
     for (const Package::Entry *old = entry->next; old; old = old->next)
-        m_transactionWeight += Weights::completion(old->size);
+        m_apply.transactionWeight += Weights::completion(old->size);
 }
 
 void YumIO::weighRemoval(const Package::Entry *entry, const QString &version)
@@ -154,7 +154,7 @@ void YumIO::weighRemoval(const Package::Entry *entry, const QString &version)
         entry->state == Package::State::Updatable ? entry->next : entry;
     while (installed && installed->verRel != version)
         installed = installed->next;
-    m_transactionWeight += Weights::removal(installed ? installed->size : 0);
+    m_apply.transactionWeight += Weights::removal(installed ? installed->size : 0);
 }
 
 // Acts of the download stage: bytes where one bar adds up all files, else at least a share for
@@ -164,15 +164,23 @@ qint64 YumIO::downloadWeight(const Package::Entry *entry)
     return hasMultiProgress() ? entry->size : std::max(entry->size, Weights::least);
 }
 
+// What the rebuilding of packages from deltas has of the second total.
+quint64 YumIO::deltaRebuildUnits()
+{
+    return usesPresto() ? Engine::deltaRebuildUnits : 0;
+}
+
 // The second total: download, test and run, in units that the listing has weighed.
 void YumIO::startRunTotal()
 {
-    m_downloadBudget = m_bytesTotal ? runDownloadUnits * m_bytesToDownload / m_bytesTotal : 0;
+    m_apply.downloadBudget =
+        m_apply.bytesTotal ? Engine::runDownloadUnits * m_apply.bytesToDownload / m_apply.bytesTotal
+                           : 0;
     if (!m_progress)
         return;
     m_progress->startTotal(tr("Running Transaction: Total Progress"),
-                           Steps(m_downloadBudget + (usesPresto() ? deltaRebuildUnits : 0) +
-                                 (hasTransTest() ? transTestUnits : 0) + runUnits));
+                           Steps(m_apply.downloadBudget + qint64(deltaRebuildUnits()) +
+                                 (hasTransTest() ? Engine::transTestUnits : 0) + Engine::runUnits));
     m_progress->startItem(tr("Preparing"), 100, true);
-    m_progress->setupItemActs(Steps(m_downloadBudget), Steps(m_bytesToDownload));
+    m_progress->setupItemActs(Steps(m_apply.downloadBudget), Steps(m_apply.bytesToDownload));
 }

@@ -1,25 +1,30 @@
 #pragma once
 
+#include "apply.h"
+#include "downloads.h"
+#include "errors.h"
+#include "listing.h"
 #include "log/log.h"
+#include "output.h"
 #include "package.h"
 #include "python/python.h"
+#include "session.h"
+#include "store.h"
 
-#include <QHash>
 #include <QMutex>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
 
 #include <atomic>
-#include <csignal>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 
 class HProgressBar;
 class QEventLoop;
 class QThread;
 class QWidget;
-class YumIOCapturers;
 class YumIODialogs;
 struct TransactionLists;
 
@@ -51,15 +56,7 @@ public:
         QMutex m_mutex;
     };
 
-    // Key of an entry: packages by name and architecture family, groups by name alone.
-    struct EntryKey
-    {
-        EntryKey(bool isGroup, QString name, QString arch);
-        bool operator==(const EntryKey &other) const = default;
-        bool isGroup;
-        QString name;
-        QString arch;
-    };
+    using EntryKey = Engine::EntryKey;
 
     // Kinds of repository activity, six for each repository.
     enum class RepoAct {
@@ -93,6 +90,10 @@ public:
     bool collectFileLists();
     bool collectOtherData();
     bool apply();
+    // After an apply that returned false: true when it ended before anything was asked because
+    // another program had changed the installed packages since they were collected. `changes` gets
+    // a line for each package. The marks are as they were; a collection makes the rows true again.
+    bool outdated(QStringList *changes = nullptr) const;
     void clearEntries();
     void clear();
     // As clear, but rows that are still true stay at hand, unseen: a collection that is cancelled
@@ -145,8 +146,8 @@ public:
     QString getOptionalPkgs(const Package::Entry &);
     QString getConditionalPkgs(const Package::Entry &);
     QString getYumVar(const QString &name);
-    bool hasFileLists() const { return m_fileListsLoaded; }
-    bool hasOtherData() const { return m_otherDataLoaded; }
+    bool hasFileLists() const { return m_session.fileLists; }
+    bool hasOtherData() const { return m_session.otherData; }
 
     // Library version and what it can do; the script probes are asked once and cached.
     QString yumVersionStr();
@@ -207,7 +208,10 @@ private:
     friend class YumIOCapturersMinion;
     friend class YumIODialogsUser;
 
-    using EntryHash = QHash<EntryKey, Package::Entry *>;
+    using EntryHash = Engine::EntryHash;
+    using Meter = Engine::Meter;
+    using Meters = Engine::Meters;
+    using enum Engine::ExceptionType;
     using EntryPredicate = bool (YumIO::*)(Package::Entry *);
 
     // lifecycle.cpp
@@ -222,7 +226,7 @@ private:
     bool lookUpExceptionTypes();
     bool failInitialize(const QString &message);
     void publishEntries();
-    bool probe(bool &known, bool &answer, const char *method);
+    bool probe(std::optional<bool> &answer, const char *method);
 
     // collect.cpp
     bool collectReal(const QHash<QString, bool> &reposUsed);
@@ -231,7 +235,9 @@ private:
     PyObject *bracketed(const char *method, const QString &what, bool &reported);
     PyObject *bracketedOrError(const char *method, const QString &what);
     bool collectPackages();
-    bool collectRows(const QString &what);
+    bool collectRows();
+    bool collectRow(PyObject *row);
+    QString shared(PyObject *text);
     bool collectAllGroups();
     void foldPackage(EntryHash &hash, const QString &name, const QString &arch,
                      const QString &family, Package::State state, PyObject *po,
@@ -280,6 +286,7 @@ private:
     static QString makeSorted(QStringList &list);
     static QString makeSortedUniq(QStringList &list);
     QString simpleString(PyObject *po, const char *key);
+    static QString fieldText(QString text);
     PyObject *getRpmHdrValue(PyObject *po, const char *tag);
     QString getRpmTime(PyObject *po, const char *tag);
     QString getRpmList(PyObject *po, const char *tag);
@@ -292,7 +299,6 @@ private:
 
     // apply.cpp
     bool applyReal();
-    void resetApply();
     void callApply(PyObject *installs, PyObject *updates, PyObject *removes);
     bool applyLists(PyObject *installs, PyObject *updates, PyObject *removes);
     bool appendUpdate(Package::Entry *entry, PyObject *updates);
@@ -303,7 +309,12 @@ private:
     bool hasNotStartedUpdate(Package::Entry *entry);
     bool hasNotStartedRemove(Package::Entry *entry);
 
+    // outdated.cpp
+    bool findOutdated();
+
     // elements.cpp
+    void endDownloads();
+    quint64 deltaRebuildUnits();
     void startInstall(PyObject *key, quint64 total);
     void startInstallElement(Package::Entry *entry, bool isUpdate, quint64 total);
     void startErase(const QString &name, bool mayBeUpdate, quint64 total, const QString &unexpected,
@@ -312,27 +323,14 @@ private:
 
     // downloads.cpp
     struct MeterStart;
-    struct Meter
-    {
-        QString text;
-        unsigned int thread = 0;
-        quint64 max = 1; // bytes, 1 while the size is unknown
-        quint64 read = 0;
-        bool sized = false;
-        bool started = false;
-        bool single = false; // has the item bar for itself
-        bool retrying = false;
-    };
-    void resetCollectMeters();
     quint32 nextCollectAct(const QString &repo, bool isFirst);
     QString metadataText(const MeterStart &start, bool isFirst);
     QString packageText(const MeterStart &start);
-    void startDeltaRebuild(const MeterStart &start, Meter &meter);
-    unsigned int threadLimit(const QHash<QString, Meter> &meters) const;
-    void updateMeter(QHash<QString, Meter> &meters, PyObject *id, long long amount);
-    void endMeter(QHash<QString, Meter> &meters, PyObject *id);
+    void startDeltaRebuild();
+    void updateMeter(Meters &meters, PyObject *id, long long amount);
+    void endMeter(Meters &meters, PyObject *id);
     void endMeterThread(const Meter &meter);
-    void failMeter(QHash<QString, Meter> &meters, PyObject *id, PyObject *message);
+    void failMeter(Meters &meters, PyObject *id, PyObject *message);
 
     // groups.cpp
     enum MemberKind { Mandatory, Default, Optional, Conditional, ConditionalThatHolds };
@@ -352,11 +350,12 @@ private:
                    const QSet<QString> *required);
     static QString actionName(Package::Action action);
     void markByGroup(const Package::Entry *group, Package::Entry *package, Package::Action action);
-    bool conditionHolds(PyObject *conditional, PyObject *member, const QStringList &others);
+    bool conditionHolds(PyObject *conditional, const QString &member, const QStringList &others);
     bool groupMembers(const Package::Entry *group, std::initializer_list<MemberKind> kinds,
                       QStringList &names);
     bool groupTree(const QStringList &members, QStringList &names);
     bool scriptNames(const char *method, const QString &name, QStringList &names);
+    bool appendNames(PyObject *iterable, const QString &what, QStringList &names);
 
     // transaction.cpp: resolution reports, weighing
     void dsTsInfo(const char *text);
@@ -387,15 +386,22 @@ private:
     void exceptionExpected() override {}
     void commExceptSetup();
     bool commExceptRaised(PyObject *result, const QString &what);
+    void reportPending(const QString &what);
     QString exceptionText();
     bool isCancellation() const;
     void walkback();
     QString errorLinesSince(qsizetype start);
     void pythonException(const QString &text);
     void pythonExceptionV(const QString &text);
+    bool fail(const QString &text);
+    void holdReports();
+    void showHeldReports();
+    bool isHeld(const QString &text, bool isError);
     bool reapChildren();
     void sigchldDisable();
     void sigchldRestore();
+
+    // report.cpp
     // Shows once what the script knows of a transaction that was cut off before this run.
     void reportInterrupted();
 
@@ -445,87 +451,30 @@ private:
     PyObject *keyQuestion(PyObject *self, PyObject *args);
     PyObject *transactionReport(PyObject *self, PyObject *args);
 
-    // Session
+    // The window's, given once.
     QWidget *m_parent = nullptr;
-    YumIODialogs *m_dialogs = nullptr;
     HProgressBar *m_totalBar = nullptr;
     HProgressBar *m_itemBar = nullptr;
+
+    // The running job's.
+    YumIODialogs *m_dialogs = nullptr;
     Progress::Object *m_progress = nullptr; // set while a job's Progress::User lives
-    PyObject *m_yumIOClass = nullptr;
-    PyObject *m_yumIO = nullptr;
-    PyObject *m_former = nullptr; // the session of the rows that are kept unseen
-    PyObject *m_rpmDict = nullptr;
-    enum ExceptionType {
-        BdbQuit,
-        YumBaseError,
-        RepoError,
-        SqliteOperationalError,
-        LockError,
-        GroupsError,
-        NoMoreMirrorsRepoError,
-        ExceptionTypeCount
-    };
-    PyObject *m_exceptionTypes[ExceptionTypeCount] = {};
-    bool m_locked = false;
-    bool m_versionKnown = false;
-    QString m_versionStr;
-    bool m_sqliteKnown = false, m_sqlite = false;
-    bool m_prestoKnown = false, m_presto = false;
-    bool m_multiKnown = false, m_multi = false;
     Blocker m_blocker;
     std::atomic<bool> m_cancelled = false;
 
-    // Store
-    Package::EntryList m_entries;
-    Package::EntryList m_noEntries;
-    EntryHash m_byKey;
-    QHash<QString, Package::Entry *> m_best;
-    QSet<QString> m_archFamilies;
-    std::atomic<bool> m_clearing = false;
-    QStringList m_enabledRepos;
-    QString m_basearch;
-    bool m_fileListsLoaded = false;
-    bool m_otherDataLoaded = false;
-
-    // Log and capture
     Log::EntryList m_log;
-    QString m_stdoutTail;
-    QString m_stderrTail;
-    Log::Kind m_stderrKind = Log::Kind::Error;
-    unsigned int m_stderrLevel = 0;
-    YumIOCapturers *m_capturers = nullptr;
-    int m_logMark = -1;
-    struct sigaction m_savedSigchld = {};
+    Engine::Capture m_capture;
+    Engine::Reports m_reports;
 
-    // Apply
-    QString m_pendingText;
-    bool m_listingShown = false;
-    bool m_applied = false;
-    bool m_spent = false;      // a transaction ran: the rows are out of date
-    quint64 m_actPosition = 0; // bytes of large transactions exceed 32 bits
-    quint32 m_opCount = 0;
-    quint32 m_downloadCount = 0;
-    quint32 m_passActs = 0;
-    quint32 m_resolutionActs = 0;
-    qint64 m_bytesTotal = 0;
-    qint64 m_bytesToDownload = 0;
-    qint64 m_downloadBudget = 0;
-    qint64 m_transactionWeight = 0;
-    qint64 m_lastTsElement = 0;
-    bool m_deltaRebuildShown = false;
-    bool m_eventsStarted = false;
-    bool m_multiMeterActive = false;
-    QHash<QString, Meter> m_multiMeterFiles;
-    unsigned int m_multiThreads = 0;
-    unsigned int m_multiNextThread = 0;
-    QHash<QString, Meter> m_collectMeters;
-    quint32 m_collectAct = 0;
+    Engine::Script m_script;
+    Engine::Session m_session;
+    Engine::Session m_former; // of the rows that are kept unseen while new ones are gathered
+    Engine::Store m_store;
+    std::atomic<bool> m_clearing = false; // no row is seen
+    const Package::EntryList m_noEntries = {};
 
-    // Units of the second total.
-    static constexpr qint64 runDownloadUnits = 24000;
-    static constexpr qint64 deltaRebuildUnits = 2000;
-    static constexpr qint64 transTestUnits = 2000;
-    static constexpr qint64 runUnits = 9100;
+    Engine::MetadataDownloads m_metadata;
+    Engine::Confirmation m_confirmation;
+    Engine::Apply m_apply;
+    Engine::PackageDownloads m_packages;
 };
-
-size_t qHash(const YumIO::EntryKey &key, size_t seed = 0);

@@ -236,6 +236,11 @@ probe()
             "Internal error: Unable to find package for update of none.x86_64");
         row("an erase that nobody asked for", "yumIOC.tsEvent('alpha', 50, 0, 1, 1, 1)",
             "Internal error: YumIO::tsCallback REMOVE/COMPLETE of alpha not expected");
+        row("while rpm is at work",
+            "yumIOC.tsInitCallback(1)\nyumIOC.tsEvent('beta', 40, 0, 1, 1, 2)\n"
+            "yumIOC.tsEvent(None, 33, 0, 0, 2, 2)\nyumIOC.transactionReport([])",
+            "Internal error: YumIO::tsCallback REMOVE/COMPLETE of beta not expected\n\n"
+            "Internal error: YumIO::tsEvent action=33 not understood; ignoring");
         row("one erase too many", "for i in 1, 2, 3: yumIOC.tsEvent('kernel', 40, 0, 1, i, 3)",
             "Internal error: YumIO::tsCallback UNINST of kernel too many times");
     }
@@ -251,6 +256,26 @@ probe()
     void showsDownloads();
     void showsMetadata();
 
+    // Nothing is asked when the rows are no longer true.
+    void noticesOtherPrograms()
+    {
+        Answers answers;
+        QVERIFY(m_case.mark({}));
+        m_case.setStep(s("io.changes = ['new-1-1.noarch'], [], ['alpha.x86_64 1-1 -> 2-1']"));
+        m_case.engine.clear();
+        QVERIFY(m_case.engine.collect({}));
+        m_case.row(s("beta"))->action = Package::Action::Install;
+        QVERIFY(!m_case.engine.apply());
+        QStringList changes;
+        QVERIFY(m_case.engine.outdated(&changes));
+        QCOMPARE(changes, QStringList({s("Installed: new-1-1.noarch"),
+                                       s("Changed: alpha.x86_64 1-1 -> 2-1")}));
+        QCOMPARE(m_case.calls().filter(s("apply")), QStringList());
+        QCOMPARE(answers.texts(), QStringList());
+        QVERIFY(m_case.mark({}));
+        QVERIFY(!m_case.engine.outdated());
+    }
+
 private:
     Scripted m_case;
 };
@@ -265,17 +290,17 @@ start, update = yumIOC.applyGrabMeterStart, yumIOC.applyGrabMeterUpdate
 yumIOC.applyGrabMultiMeterStart(2, 70000); probe()
 yumIOC.applyGrabMultiMeterNew('b')
 start('b', '/c/beta.rpm', 'http://h/beta.rpm', 'beta.rpm', 50000, 'beta-1-1.x86_64')
-yumIOC.applyGrabMultiMeterNew('a')
-start('a', '/c/alpha.rpm', '', 'alpha.rpm', None, 'alpha-2-1.x86_64')
 update('b', 30000)
 yumIOC.applyGrabMeterFailure('b', 'no route to http://u:pw@host')
 update('b', 10)
 yumIOC.applyGrabMeterEnd('b', 50000)
 yumIOC.applyGrabMultiMeterRemove('b')
-yumIOC.applyGrabMeterEnd('a', 20000)
-yumIOC.applyGrabMultiMeterRemove('a')
 yumIOC.applyGrabMultiMeterNew('d')
 start('d', '<delta rebuild>', '', '<delta rebuild>', 4, 'beta-1-1.x86_64'); probe()
+yumIOC.applyGrabMultiMeterNew('a')
+start('a', '/c/alpha.rpm', '', 'alpha.rpm', None, 'alpha-2-1.x86_64')
+yumIOC.applyGrabMeterEnd('a', 20000)
+yumIOC.applyGrabMultiMeterRemove('a'); probe()
 yumIOC.applyGrabMeterEnd('d', 4)
 yumIOC.applyGrabMultiMeterRemove('d')
 yumIOC.applyGrabMultiMeterEnd()
@@ -284,12 +309,14 @@ yumIOC.tsInitCallback(1); probe()
 yumIOC.applyGrabMeterStart('c', '/c/x', '', 'x', 'large', 'x')
 )"),
                          answers));
+    // The rebuilding waits for the download that begins after it.
+    QCOMPARE(answers.observed.takeAt(1).section(u'/', 1), s("31984 70000 Downloading 2 packages"));
     QCOMPARE(answers.observed, QStringList({s("100/31984 70000 Downloading 2 packages"),
                                             s("22984/31984 4 Finishing RPM rebuild from deltas"),
                                             s("22984/31984 1 Preparing to Run Transaction")}));
     QCOMPARE(answers.texts().mid(1),
-             QStringList({s("Internal error: apply grab size not understood"),
-                          s("Internal error: unexpected progress filename")}));
+             QStringList(s("Internal error: apply grab size not understood\n\n"
+                           "Internal error: unexpected progress filename")));
     QVERIFY(m_case.logged().contains(
         s("2/1 Downloading beta-1-1.x86_64: no route to http://u:**@host")));
 }

@@ -117,7 +117,8 @@ void TestCollect::rows_data()
         "installed = [Package('a', '1', 'x86_64'), Package('b', '1', 'noarch')]\n",
         "20 a 2 noarch noarch base < 1 x86_64|20 b 2 x86_64 x86_64 base|"
         "22 b 1 noarch noarch base dup");
-    row("suite", "available = [Package('s', fields={'group': 'Suite'})]\n",
+    row("suite, with line feeds at the end of its fields",
+        "available = [Package('s', fields={'group': 'Suite\\n', 'summary': 'of s\\n\\n'})]\n",
         "01 s 1-1 x86_64 x86_64 base");
 }
 
@@ -131,6 +132,8 @@ void TestCollect::rows()
         QVERIFY(m_case.collect(way + scenario));
         QTEST(m_case.rows().join(u'|'), "rows");
         QCOMPARE(m_case.calls().contains(s("collectAll")), way[7] == 'F');
+        for (const Package::Entry *row : m_case.engine)
+            QVERIFY(!row->summary.endsWith(u'\n'));
         QCOMPARE(m_case.logged().filter(QRegularExpression(s("^[23]/"))), QStringList());
     }
     QCOMPARE(answers.texts(), QStringList());
@@ -246,6 +249,10 @@ void TestCollect::failures_data()
         s("Internal error: yumIO.collectAll.available not found"), "collectAll");
     row("def collectRows(io): raise ValueError()", failed("collectRows"), "collectRows");
     row("def collectRows(io): return [('p', 0)]", unexpected, "collectRows");
+    row("def collectRows(io):\n    raise YumBaseError('odd')\n    yield 0",
+        s("odd\nUnable to collect updatable packages"), "collectRows");
+    row("def collectRows(io):\n    yield 0\n    yield 0\n    raise YumBaseError('odd')",
+        s("odd\nUnable to collect installed and available packages"), "collectRows");
     row("def setupTsGroup(io): raise GroupsError('no groups available')",
         s("no groups available\nUnable to collect groups"), "setupTsGroup");
     row("def collectGroupInfo(io): return 5",

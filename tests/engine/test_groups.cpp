@@ -121,6 +121,26 @@ yumIOC.log(9, 'noted %r' % io.noted)
         QCOMPARE(aboutAlpha.constLast(), expected);
     }
 
+    void endsWithAReport_data()
+    {
+        QTest::addColumn<QString>("tree");
+        QTest::addColumn<QString>("report");
+        QTest::newRow("no names") << s("5")
+                                  << s("Internal error: python exception occurred from C");
+        QTest::newRow("refused") << s("(_ for _ in ()).throw(YumBaseError('no tree'))")
+                                 << s("no tree\nUnable to find the packages that ");
+    }
+
+    void endsWithAReport()
+    {
+        QFETCH(QString, tree);
+        QFETCH(QString, report);
+        Answers answers;
+        QVERIFY(!m_case.apply({s("@Tools install")}, s("# pkgTree ") + tree, answers));
+        QCOMPARE(answers.shown.size(), 1);
+        QVERIFY2(answers.texts()[0].startsWith(report), qPrintable(answers.texts()[0]));
+    }
+
 private:
     static QString reporting()
     {

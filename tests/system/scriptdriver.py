@@ -269,7 +269,8 @@ class Program:
         if hasattr(self, step["do"]):
             return getattr(self, step["do"])(step, scenario)
         if step["do"] == "rows":
-            return [[plain(field) for field in row] for row in self.yumio.collectRows()]
+            return [[plain(field) for field in row] for row in self.yumio.collectRows()
+                    if isinstance(row, tuple)]
         if step["do"] == "eval":
             return plain(eval(step["code"], {"io": self.yumio, "program": self}))
         return plain(getattr(self.yumio, step["do"])())

@@ -8,6 +8,8 @@ import calendar
 import functools
 import os
 
+import dnf.exceptions
+
 from . import report
 
 INSTALLED = "installed"  # what installed packages have for a repository identifier
@@ -35,7 +37,8 @@ def _best_known(pkg, kind):
 
 
 class Header:
-    """An installed package's rpm header; item access by tag, texts fit for crossing."""
+    """An installed package's rpm header; item access by tag, texts fit for crossing. Of a package that
+    another program removed it holds None alone."""
 
     __slots__ = ("_header",)
 
@@ -43,7 +46,7 @@ class Header:
         self._header = header
 
     def __getitem__(self, tag):
-        value = self._header[tag]
+        value = self._header[tag] if self._header else None
         if isinstance(value, (list, tuple)):
             return [_clean(item) if isinstance(item, (str, bytes)) else item for item in value]
         return _clean(value) if isinstance(value, (str, bytes)) else value
@@ -136,7 +139,10 @@ class Package:
         """The rpm header; only installed packages have it."""
         if not self.pkg._from_system:
             raise AttributeError("hdr")
-        return Header(self.pkg.get_header())
+        try:
+            return Header(self.pkg.get_header())
+        except dnf.exceptions.PackageNotFoundError:
+            return Header(None)
 
     @_of_available
     def relativepath(self):

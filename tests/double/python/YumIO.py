@@ -121,11 +121,13 @@ def run(variable, names):
 
 
 def _rows(io):
-    return [(po, state, po.name, po.printVer(), po.returnSimple("repoid"), po.arch,
-             io.getBiArch(po.arch), int(po.size), po.returnSimple("summary").rstrip("\n"),
-             int(po.returnSimple("buildtime")), po.returnSimple("group") == "Suite")
-            for state, part in ((0, "updates"), (2, "installed"), (1, "available"))
-            for po in io.scenario[part]]
+    for parts in ((0, "updates"),), ((2, "installed"), (1, "available")):
+        yield sum(len(io.scenario[part]) for _, part in parts)
+        for state, part in parts:
+            for po in io.scenario[part]:
+                yield (po, state, po.name, po.printVer(), po.returnSimple("repoid"), po.arch,
+                       io.getBiArch(po.arch), int(po.size), po.returnSimple("summary"),
+                       int(po.returnSimple("buildtime")), po.returnSimple("group").rstrip("\n") == "Suite")
 
 
 DEFAULTS = dict(
@@ -139,7 +141,7 @@ DEFAULTS = dict(
     isBetterThan=lambda io, first, second: first.version > second.version,
     requiredPkgs=lambda io, name: [name],
     pkgTree=lambda io, name: [name])
-OPTIONAL = ("collectRows", "noteGroups", "apply", "applyFailCleanup", "cleanHeaders", "cleanPackages",
+OPTIONAL = ("collectRows", "noteGroups", "outdated", "apply", "applyFailCleanup", "cleanHeaders", "cleanPackages",
             "cleanMetadata", "cleanPickles", "cleanSqlite")
 
 

@@ -47,6 +47,7 @@ PACKAGES = updates + available + installed
 INSTALLED, GROUPS = installed, groups
 io.tsInfo = TsInfo()
 io.noted = []
+io.changes = [], [], []  # what another program did
 
 
 def package(name):
@@ -63,6 +64,17 @@ def step(io, **names):
 
 def apply(io, installs, updates, removes):
     return step(io, installs=installs, updates=updates, removes=removes)
+
+
+def outdated(io):
+    return io.changes
+
+
+def pkgTree(io, name):
+    """The name, or what the step's first line says behind "# pkgTree"."""
+    with open(os.environ["VOK_TEST_STEP"], encoding="utf-8") as file:
+        line = file.readline()
+    return eval(line[9:]) if line.startswith("# pkgTree") else [name]
 
 
 def noteGroups(io, groups):

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace Engine {
+
+// What the next confirmation will say: the script's lines, or the transaction's listing.
+struct Confirmation
+{
+    QString text;
+    bool listingShown = false;
+};
+
+} // namespace Engine

@@ -1,0 +1,42 @@
+// Whether another program changed what the rows tell.
+
+#include "python/pyref.h"
+
+#include "yumio.h"
+
+bool YumIO::outdated(QStringList *changes) const
+{
+    if (changes)
+        *changes = m_session.changes;
+    return !m_session.changes.isEmpty();
+}
+
+// Asks the script, where it can tell, what became of the installed packages since they were read.
+// False when the rows are still true; true also after a failure, which was reported.
+bool YumIO::findOutdated()
+{
+    m_session.changes.clear();
+    if (!PyObject_HasAttrString(m_session.yumIO, "outdated"))
+        return false;
+    bool reported = false;
+    const PyRef result(bracketed("outdated", tr("apply changes"), reported));
+    PyObject *lists[3];
+    if (!result || !PyTuple_Check(result.get()) ||
+        !PyArg_ParseTuple(result.get(), "OOO", &lists[0], &lists[1], &lists[2])) {
+        PyErr_Clear();
+        if (result)
+            fail(tr("Internal error: execution of yumIO.%1 failed").arg(QLatin1String("outdated")));
+        return true;
+    }
+    const QString texts[] = {tr("Installed: %1"), tr("Removed: %1"), tr("Changed: %1")};
+    for (int i = 0; i < 3; ++i) {
+        for (const QString &name : textsOf(lists[i]))
+            m_session.changes.append(texts[i].arg(name));
+    }
+    if (m_session.changes.isEmpty())
+        return false;
+    log(Log::Kind::Warning, 0,
+        tr("Not applying: another program changed the installed packages:\n%1")
+            .arg(m_session.changes.join(u'\n')));
+    return true;
+}

@@ -1,0 +1,81 @@
+// What became of a transaction, and of one that was cut off before this run.
+
+#include "python/pyref.h"
+
+#include "guiquestions.h"
+#include "yumio.h"
+
+PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
+{
+    PyObject *elements;
+    if (!PyArg_ParseTuple(args, "O", &elements))
+        return nullptr;
+    const PyRef iterator(PyObject_GetIter(elements));
+    if (!iterator)
+        return nullptr;
+    QStringList done, troubled, failed, skipped;
+    while (const PyRef element = PyRef(PyIter_Next(iterator.get()))) {
+        const char *name, *outcome, *reason;
+        const PyRef fields(PySequence_Tuple(element.get()));
+        if (!fields || !PyArg_ParseTuple(fields.get(), "sss", &name, &outcome, &reason))
+            return nullptr;
+        QString line = QLatin1Char('\t') + QString::fromUtf8(name);
+        if (*reason)
+            line += QStringLiteral(": ") + QString::fromUtf8(reason);
+        const bool isDone = qstrcmp(outcome, "done") == 0;
+        const bool isSkipped = qstrcmp(outcome, "skipped") == 0;
+        (isDone ? (*reason ? troubled : done) : isSkipped ? skipped : failed).append(line);
+    }
+    if (PyErr_Occurred())
+        return nullptr;
+    showHeldReports();
+
+    const QString summary = tr("Transaction: %1 done, %2 failed, %3 skipped")
+                                .arg(done.size() + troubled.size())
+                                .arg(failed.size())
+                                .arg(skipped.size());
+    // One that is there although its last scriptlet failed is done, but not as it should be.
+    const bool complete = failed.isEmpty() && skipped.isEmpty() && troubled.isEmpty();
+    log(complete ? Log::Kind::Ok : Log::Kind::Error, 0, summary);
+    if (complete)
+        Py_RETURN_NONE;
+
+    QString text = summary + QLatin1Char('\n');
+    const auto section = [&](const QString &title, const QStringList &lines, Log::Kind kind) {
+        if (lines.isEmpty())
+            return;
+        const QString part = title + QLatin1Char('\n') + lines.join(QLatin1Char('\n'));
+        log(kind, 0, part);
+        text += QLatin1Char('\n') + part + QLatin1Char('\n');
+    };
+    section(tr("Failed:"), failed, Log::Kind::Error);
+    section(tr("Skipped:"), skipped, Log::Kind::Warning);
+    section(tr("Done, with errors:"), troubled, Log::Kind::Warning);
+    section(tr("Done:"), done, Log::Kind::Ok);
+    if (m_dialogs)
+        m_dialogs->scrollable(tr("VOK Transaction Report"), text);
+    Py_RETURN_NONE;
+}
+
+void YumIO::reportInterrupted()
+{
+    if (!m_session.yumIO || !PyObject_HasAttrString(m_session.yumIO, "interrupted"))
+        return;
+    const PyRef result(pyMethodCall(m_session.yumIO, "interrupted", "()"));
+    const PyRef iterator(result && result.get() != Py_None ? PyObject_GetIter(result.get())
+                                                           : nullptr);
+    QStringList lines;
+    while (iterator) {
+        const PyRef line(PyIter_Next(iterator.get()));
+        if (!line)
+            break;
+        lines.append(pyString(line.get()));
+    }
+    PyErr_Clear();
+    if (lines.isEmpty())
+        return;
+    const QString text = lines.join(QLatin1Char('\n'));
+    log(Log::Kind::Warning, 0, text);
+    if (m_dialogs)
+        m_dialogs->scrollable(tr("VOK Interrupted Transaction"), text);
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+struct _object;
+typedef struct _object PyObject;
+
+namespace Engine {
+
+// Exceptions that the engine tells apart.
+enum ExceptionType {
+    BdbQuit,
+    YumBaseError,
+    RepoError,
+    SqliteOperationalError,
+    LockError,
+    GroupsError,
+    NoMoreMirrorsRepoError,
+    ExceptionTypeCount
+};
+
+// What lasts as long as the interpreter: the script's class, its exceptions, the lock, and what was
+// asked of the library once.
+struct Script
+{
+    PyObject *yumIOClass = nullptr;                    // owned
+    PyObject *rpmDict = nullptr;                       // borrowed from the module
+    PyObject *exceptionTypes[ExceptionTypeCount] = {}; // borrowed, null where there is none
+    bool locked = false;
+    std::optional<QString> version;
+    std::optional<bool> sqlite, presto, multiProgress;
+};
+
+// One object of the script with what was read through it. An owner of the reference releases it
+// before the session is assigned to.
+struct Session
+{
+    PyObject *yumIO = nullptr; // owned
+    QStringList enabledRepos;
+    QString basearch;
+    bool fileLists = false; // are loaded
+    bool otherData = false; // is loaded
+    bool spent = false;     // a transaction ran: the rows are out of date
+    QStringList changes;    // of another program to what was read, in words
+};
+
+} // namespace Engine
