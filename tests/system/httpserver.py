@@ -17,18 +17,14 @@ semicolons (a comma in a base URL separates two of them):
     flip           the right length, with some bytes inverted
     html           a web page with status 200 instead of any file
     loop           a redirection to itself
-    redirect       one redirection to the plain URL
     rate=N         at most N bytes a second
     only=PATTERN   the others apply to paths that match this file name pattern
-    after=N        ... from the N+1st such request of a path on (a file that vanishes)
-    first=N        ... to the first N such requests of a path (a server that recovers)
 
 The same texts can be set for all URLs, without changing one, through the control file: the server
 reads it at each request when it exists. `Server` is the side of the tests.
 """
 
 import argparse
-import collections
 import fnmatch
 import http.server
 import json
@@ -110,18 +106,10 @@ class Handler(http.server.BaseHTTPRequestHandler):
         first, _, rest = path[1:].partition("/")
         text = first[1:] if first.startswith("~") else self.server.control()
         wanted = rest if first.startswith("~") else path[1:]
-        self.serve(wanted, self.applying(parse(text), wanted))
+        behaviour = parse(text)
+        self.serve(wanted, behaviour if fnmatch.fnmatch(wanted, behaviour.pop("only", "*")) else {})
 
     do_HEAD = do_GET
-
-    def applying(self, behaviour, wanted):
-        """What of a behaviour applies to this request."""
-        if not fnmatch.fnmatch(wanted, behaviour.pop("only", "*")):
-            return {}
-        count = self.server.count(self.path)
-        if count <= int(behaviour.pop("after", 0)) or count > int(behaviour.pop("first", count)):
-            return {}
-        return behaviour
 
     def serve(self, wanted, behaviour):
         """Answers one request, rightly or as asked."""
@@ -131,8 +119,6 @@ class Handler(http.server.BaseHTTPRequestHandler):
             self.answer(int(behaviour["status"]), b"as asked\n")
         elif "loop" in behaviour:
             self.answer(302, b"", {"Location": self.path})
-        elif "redirect" in behaviour:
-            self.answer(302, b"", {"Location": f"/{wanted}"})
         elif "html" in behaviour:
             self.answer(200, PAGE, {"Content-Type": "text/html"})
         else:
@@ -185,10 +171,9 @@ class Handler(http.server.BaseHTTPRequestHandler):
 
 
 class Service(http.server.ThreadingHTTPServer):
-    """One port. All ports share the counters and the log."""
+    """One port. All ports share the log."""
 
     daemon_threads = True
-    counts = collections.Counter()
     lock = threading.Lock()
 
     def __init__(self, directory, state, context=None):
@@ -204,12 +189,6 @@ class Service(http.server.ThreadingHTTPServer):
             return (self.state / "control").read_text(encoding="utf-8").strip()
         except FileNotFoundError:
             return ""
-
-    def count(self, path):
-        """How often the path was asked for, this time included."""
-        with self.lock:
-            self.counts[path] += 1
-            return self.counts[path]
 
     def note(self, method, path, status):
         with self.lock, open(self.state / "requests", "a", encoding="utf-8") as stream:

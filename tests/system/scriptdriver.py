@@ -6,15 +6,13 @@ object. A process runs one scenario, because a session runs one transaction and 
 configuration once.
 
 A scenario may hold
-    enable, disable     lists of repository ids
+    enable              list of repository ids
     steps               list of steps, each {"do": "collect" | "apply" | a method of yumIO, ...}
     confirm             answers to userconfirm, in order; then yes
     key                 answer to keyQuestion (default no)
     confirmRemovals     answer to it (default no)
-    lockWait            answers, in order; then "give up"
     cancelAt            name of a callback: from its first call on the job is cancelled
     killAt              [callback, number]: the process is killed in that call
-    without             callbacks that this program does not offer
 The result holds `calls` (a list of [callback, arguments...]), `values` (one for each step) and `errors`
 ([exception's class, text] or null for each step).
 """
@@ -107,9 +105,16 @@ class Case(unittest.TestCase):
         return {line for line in tool(root, "rpm", "-qa").split()
                 if not line.startswith("gpg-pubkey-")}
 
-    def apply(self, root, marks, **scenario):
+    def assertSame(self, ours, theirs):
+        """Two roots hold the same packages, groups and reasons."""
+        self.assertEqual(self.packages(ours), self.packages(theirs))
+        for query in (["group", "list"], ["repoquery", "--userinstalled"]):
+            self.assertEqual(tool(ours, "dnf", "-q", *query), tool(theirs, "dnf", "-q", *query))
+
+    def apply(self, root, marks, under=(), **scenario):
         """Collects and applies; returns the result, its value and its error."""
-        result = run(root, dict(steps=[{"do": "collect"}, dict(marks, do="apply")], **scenario))
+        steps = [{"do": "collect"}, dict(marks, do="apply")]
+        result = run(root, dict(steps=steps, **scenario), under=under)
         self.assertIsNone(result["errors"][0])
         return result, result["values"][1], result["errors"][1]
 
@@ -137,12 +142,10 @@ class Recorder:
         self.cancelled_now = False
         self._scenario = scenario
         self._counts = {}
-        self._answers = {name: list(scenario.get(key, ())) for name, key in
-                         (("userconfirm", "confirm"), ("lockWait", "lockWait"))}
+        self._confirm = list(scenario.get("confirm", ()))
         self.module = types.ModuleType("yumIOC")
         for name in CALLBACKS:
-            if name not in scenario.get("without", ()):
-                setattr(self.module, name, self._callback(name))
+            setattr(self.module, name, self._callback(name))
 
     def _callback(self, name):
         def call(*arguments):
@@ -158,9 +161,10 @@ class Recorder:
         return call
 
     def _answer(self, name):
-        if name in self._answers:
-            answers = self._answers[name]
-            return int(answers.pop(0) if answers else name == "userconfirm")
+        if name == "userconfirm":
+            return int(self._confirm.pop(0) if self._confirm else True)
+        if name == "lockWait":
+            return 0
         if name in ("keyQuestion", "confirmRemovals"):
             return int(self._scenario.get({"keyQuestion": "key"}.get(name, name), False))
         return "" if name == "postTransactionOutput" else None
@@ -202,8 +206,6 @@ class Program:
         io.lock()
         for name in scenario.get("enable", ()):
             io.repos.enableRepo(name)
-        for name in scenario.get("disable", ()):
-            io.repos.disableRepo(name)
         io.setupRepos()
         io.setupTs()
         self.updates = {}
@@ -228,7 +230,6 @@ class Program:
     def apply(self, step, scenario):
         installs, updates, removes = [], [], []
         wanted = {key: list(step.get(key, ())) for key in ("install", "update", "remove")}
-        self._walk_groups(step.get("groups", ()), wanted)
         for name in wanted["install"]:
             installs += self._find(self.all.available, name)[:1]
         for name in wanted["update"]:
@@ -237,8 +238,6 @@ class Program:
                             if self._family(old) == self._family(new)]
         for name in wanted["remove"]:
             removes += self._find(self.all.installed, name)
-        self.yumio.noteGroups([(self.groups[name], action) for name, action in
-                               step.get("groups", ())])
         try:
             return self.yumio.apply(installs, updates, removes)
         except Exception:
@@ -246,24 +245,6 @@ class Program:
             raise
         finally:
             self.yumio.flush()
-
-    def _walk_groups(self, groups, wanted):
-        installed = {po.name for po in self.all.installed}
-        available = {po.name for po in self.all.available}
-        for name, action in groups:
-            group = self.groups[name]
-            needed = list(group.mandatory_packages.keys()) + list(group.default_packages.keys())
-            needed += [member for member, condition in group.conditional_packages.items()
-                       if condition in installed or condition in needed]
-            if action == 2:
-                needed += list(group.optional_packages.keys())
-            for member in sum(map(self.yumio.pkgTree, needed), []):
-                if action == 2 and member in installed:
-                    wanted["remove"].append(member)
-                elif action != 2 and member in self.updates:
-                    wanted["update"].append(member)
-                elif action != 2 and member in available:
-                    wanted["install"].append(member)
 
     def step(self, step, scenario):
         if hasattr(self, step["do"]):

@@ -42,28 +42,22 @@ def installed(root):
 
 
 def digest(root):
-    """Path, size and time of every file."""
-    return {path: (path.lstat().st_size, path.lstat().st_mtime_ns) for path in root.rglob("*")}
+    """Path, size and time of every file that is not of a database or cache."""
+    return {path: (path.lstat().st_size, path.lstat().st_mtime_ns) for path in root.rglob("*")
+            if "var" not in path.relative_to(root).parts}
 
 
-class Contents(unittest.TestCase):
-    """A new root, seen through rpm and dnf."""
-
-    def test_database_holds_exactly_the_base_set(self):
+class Sandbox(unittest.TestCase):
+    def test_contents(self):
+        """A new root holds exactly the base set, for rpm and dnf; every package is documented."""
         wanted = {one.nevra for one in packages.table() if one.installed}
         self.assertGreater(len(wanted), 40)
         self.assertEqual({one for one in installed(ROOT) if not one.startswith("gpg-pubkey")}, wanted)
         self.assertEqual(sandbox("dnf", ROOT, "-q", "check"), "")
         self.assertRegex(sandbox("rpm", ROOT, "-qi", "office-suite"), r"Group +: Suite\n")
-
-    def test_every_package_is_documented(self):
         readme = (CHECKOUT / "tools" / "sandbox.d" / "README.md").read_text(encoding="utf-8")
         documented = re.findall(r"^\| `([\w-]+)` \| (?:noarch|x86_64|src)", readme, re.MULTILINE)
         self.assertEqual(documented, list(dict.fromkeys(one.name for one in packages.table())))
-
-
-class Copies(unittest.TestCase):
-    """Roots are independent of one another and of what is not theirs."""
 
     def test_copy_is_independent(self):
         copy = PLACE / "copy"
@@ -72,15 +66,10 @@ class Copies(unittest.TestCase):
         for path in copy.rglob("*"):
             if path.is_file() and not path.is_symlink() and path.suffix in (".conf", ".repo"):
                 self.assertNotIn(f"{ROOT}/", path.read_text(encoding="utf-8"))
-        for package in copy.glob("srv/repos/*/*/extras/Packages/poster-*"):
-            package.write_bytes(b"")
         shutil.rmtree(copy / "srv" / "repos" / "9" / "x86_64" / "updates")
         sandbox("rpm", copy, "-e", "orphan-notes")
         self.assertNotIn("orphan-notes-1.0-1.noarch", installed(copy))
-        self.assertIn("Unable to find a match", sandbox(
-            "dnf", copy, "-y", "--disablerepo=updates", "install", "airpipe", status=1))
-        self.assertEqual({path: one for path, one in digest(ROOT).items() if "var" not in path.parts},
-                         {path: one for path, one in before.items() if "var" not in path.parts})
+        self.assertEqual(digest(ROOT), before)
         self.assertIn("orphan-notes-1.0-1.noarch", installed(ROOT))
         sandbox("create", copy)
         self.assertIn("orphan-notes-1.0-1.noarch", installed(copy))
@@ -114,11 +103,8 @@ class Copies(unittest.TestCase):
         self.assertNotIn("XDG_CONFIG_HOME", variables)
         sandbox("run", ROOT, "--", "sh", "-c", "exit 41", status=41)
 
-
-class Large(unittest.TestCase):
-    """The large root for measurements is a root that rpm and dnf accept as any other."""
-
-    def test_numbers_are_as_asked(self):
+    def test_large(self):
+        """The large root for measurements is one that rpm and dnf accept as any other."""
         place = PLACE / "large"
         subprocess.run([CHECKOUT / "tools" / "bigrepo", place, "--available", "700", "--installed", "80",
                         "--updates", "12", "--groups", "7"], check=True, stdout=subprocess.DEVNULL)

@@ -114,33 +114,22 @@ class Failures(Case):
                 new, lost = self.change(root, before)
                 self.assertEqual((set(map(name_of, new)), set(map(name_of, lost))), (came, gone))
 
-    def test_disks(self):
-        """A disk that fills while rpm unpacks, one that is too small from the start, a read-only one."""
-        steps = [{"do": "collect"}, {"do": "apply", "install": ["heavy", "abacus"]}]
-        for name, option, mount in (
-                ("full", "diskspacecheck=0", "mount -t tmpfs -o size=4m tmpfs %s/usr/share"),
-                ("small", "", "mount -t tmpfs -o size=4m tmpfs %s/usr/share"),
-                ("read-only", "", "mount --bind %s %s; mount -o remount,ro,bind %s")):
-            with self.subTest(name):
-                root = self.root()
-                before = self.packages(root)
-                main = pathlib.Path(root, "etc/yum.conf")
-                main.write_text(main.read_text().replace("[main]", "[main]\n" + option))
-                under = mounted(mount.replace("%s", str(root)))
-                if not under:
-                    self.skipTest("this user cannot mount anything")
-                result = run(root, {"steps": steps}, under=under)
-                self.assertIsNone(result["errors"][0])
-                if name != "full":
-                    self.assertEqual(result["errors"][1][0], "YumBaseError")
-                    self.assertIn("read-only" if name == "read-only" else
-                                  "needs 64MB more space on the /usr/share", result["errors"][1][1])
-                    continue
-                done, failed = sorted(calls(result, "transactionReport")[0][0])
-                self.assertEqual(done, ["0:abacus-1.2-1.x86_64", "done", ""])
-                self.assertEqual(failed[:2], ["0:heavy-1.0-1.noarch", "failed"])
-                self.assertIn("needs 64 MiB, and a file system has only", failed[2])
-                self.assertEqual(self.change(root, before)[0], {"abacus-1.2-1.x86_64"})
+    def test_full_disk(self):
+        """A disk that fills while rpm unpacks."""
+        root = self.root()
+        before = self.packages(root)
+        main = pathlib.Path(root, "etc/yum.conf")
+        main.write_text(main.read_text().replace("[main]", "[main]\ndiskspacecheck=0"))
+        under = mounted("mount -t tmpfs -o size=4m tmpfs %s/usr/share" % root)
+        if not under:
+            self.skipTest("this user cannot mount anything")
+        result, _, error = self.apply(root, {"install": ["heavy", "abacus"]}, under=under)
+        self.assertIsNone(error)
+        done, failed = sorted(calls(result, "transactionReport")[0][0])
+        self.assertEqual(done, ["0:abacus-1.2-1.x86_64", "done", ""])
+        self.assertEqual(failed[:2], ["0:heavy-1.0-1.noarch", "failed"])
+        self.assertIn("needs 64 MiB, and a file system has only", failed[2])
+        self.assertEqual(self.change(root, before)[0], {"abacus-1.2-1.x86_64"})
 
     def test_file_conflict(self):
         root = self.root()

@@ -1,10 +1,9 @@
 """Transactions of the script: marks, the listing, and what the rpm database holds afterwards."""
 
 import os
-import subprocess
 import unittest
 
-from scriptdriver import SANDBOX, Case, calls, run, tool
+from scriptdriver import Case, calls, run, tool
 
 # Marks; the listing (names only); what is gone and what came, as rpm tells it; what scriptlets print.
 TABLE = {
@@ -76,7 +75,6 @@ BESIDE_DNF = {
     "every update": (None, ["upgrade", "--setopt=best=0"]),
     "a deep removal": ({"remove": ["stack-ground", "calendar"]},
                        ["remove", "--noautoremove", "stack-ground", "calendar"]),
-    "an installed group": ({"groups": [["Messages", 1]]}, ["group", "install", "messages"]),
 }
 
 
@@ -126,12 +124,6 @@ class Transactions(Case):
         if came:
             self.assertEqual(tool(root, "rpm", "-V", "--nodeps", *came, check=False), "")
 
-    def assertSame(self, ours, theirs):
-        """Two roots hold the same packages, groups and reasons."""
-        self.assertEqual(self.packages(ours), self.packages(theirs))
-        for query in (["group", "list"], ["repoquery", "--userinstalled"]):
-            self.assertEqual(tool(ours, "dnf", "-q", *query), tool(theirs, "dnf", "-q", *query))
-
     def test_beside_dnf(self):
         for name, (marks, command) in BESIDE_DNF.items():
             with self.subTest(name):
@@ -144,17 +136,6 @@ class Transactions(Case):
                 self.assertEqual((value, error), (True, None))
                 tool(theirs, "dnf", "-y", "-q", *command, check="update" not in marks)
                 self.assertSame(ours, theirs)
-
-    def test_group_removed_as_dnf_does(self):
-        """What was installed for a group leaves with it, by us or by dnf."""
-        ours = self.root()
-        self.apply(ours, {"groups": [["Games &<Amusements>", 1]]})
-        self.assertIn("text-hebrew-1.0-1.noarch", self.packages(ours))  # its condition holds
-        theirs = self.place / "copy"
-        subprocess.run([SANDBOX, "copy", ours, theirs], check=True)
-        self.apply(ours, {"groups": [["Games &<Amusements>", 2]]})
-        tool(theirs, "dnf", "-y", "-q", "group", "remove", "--noautoremove", "games")
-        self.assertSame(ours, theirs)
 
     def test_told_while_it_runs(self):
         result, *_ = self.apply(self.root(), {"install": ["shell-hello"], "update": ["bellows"],
@@ -194,22 +175,6 @@ class Transactions(Case):
         self.assertIn("/etc/clash.conf", result["errors"][2][1])
         self.assertIn("read again", result["errors"][4][1])
         self.assertEqual(self.packages(root), before)
-
-    def test_groups_are_recorded(self):
-        """Groups follow in DNF's records, even when no package has to change."""
-        root = self.root()
-        result, value, error = self.apply(root, {"groups": [["Science", 1], ["Office", 2]]})
-        self.assertEqual((value, error), (True, None))
-        self.assertFalse({one for one in self.packages(root) if one.startswith("notebook")})
-        self.assertEqual(self.groups(root), ["Outdoors", "Science"])
-        result, value, error = self.apply(root, {"groups": [["Science", 0]]})
-        self.assertEqual((value, error), (True, None))
-        self.assertEqual(calls(result, "tsEvent"), [])
-        self.assertEqual(self.groups(root), ["Outdoors", "Science"])
-
-    @staticmethod
-    def groups(root):
-        return tool(root, "dnf", "-q", "group", "list", "--installed").split()[2:]
 
 
 if __name__ == "__main__":
