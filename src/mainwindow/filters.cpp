@@ -29,6 +29,7 @@ void MainWindow::changeFilter(const std::function<void()> &change)
         if (isSearchMode())
             job.emplace(this);
         change();
+        noteUnseen();
     }
     anyFilterChanged();
 }
@@ -48,12 +49,14 @@ bool MainWindow::loadExtraData(const PackageTable::Query &query)
     // Who cancels the first wants none of it, and what keeps it from loading keeps the other too.
     if (m_yumIO->collectFileLists() && !m_quitAsked)
         m_yumIO->collectOtherData();
-    if (m_quitAsked)
-        return false;
-    if (lacksExtraData(query))
+    return !m_quitAsked;
+}
+
+void MainWindow::noteUnseen()
+{
+    if (lacksExtraData(m_proxy->query()))
         note(tr("Not all data were loaded: the search has not seen every file list and change "
                 "log."));
-    return true;
 }
 
 void MainWindow::filtersearch()

@@ -8,6 +8,7 @@
 #include "packagetable/view.h"
 #include "repo/yumconfio.h"
 #include "widgets/hmenu.h"
+#include "widgets/messagebox.h"
 #include "yumio/yumio.h"
 
 #include <QAction>
@@ -138,7 +139,7 @@ void MainWindow::noteUnreadable()
         return;
     m_unreadable = unreadable;
     const QString text =
-        tr("Left out, because you may not read it: %1").arg(unreadable.join(QStringLiteral(", ")));
+        tr("Left out for lack of the right to read: %1").arg(unreadable.join(QStringLiteral(", ")));
     m_yumIO->log(Log::Kind::Warning, 0, text);
     note(text);
 }
@@ -165,6 +166,7 @@ void MainWindow::collect(Refresh why)
     m_model->reset();
     if (waits && loadExtraData(m_proxy->query()))
         m_proxy->setWaiting(false);
+    noteUnseen();
 }
 
 // What was marked and is done now has no mark any more, which needs no words.
@@ -340,6 +342,20 @@ void MainWindow::clearActions()
     stateChanged(-1);
 }
 
+// When an apply did not begin because the rows are not true any more.
+bool MainWindow::askToRefresh()
+{
+    QStringList changes;
+    if (m_quitAsked || !m_yumIO->outdated(&changes))
+        return false;
+    const QString text = tr("Another program has changed the installed packages since they were "
+                            "collected. Nothing was applied.\n\nRefresh the table? What is marked "
+                            "stays marked where that is still possible.\n\n%1")
+                             .arg(changes.join(u'\n'));
+    return showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Warning"), text, tr("Refresh"),
+                          tr("Cancel"), QString(), 0, 1) == 0;
+}
+
 void MainWindow::apply()
 {
     const Job job(this);
@@ -348,6 +364,8 @@ void MainWindow::apply()
     if (m_yumIO->apply()) {
         checkCredentials();
         recollect(Refresh::AfterApply);
+    } else if (askToRefresh()) {
+        recollect();
     }
     warnUnlistedActions();
     stateChanged(-1);

@@ -119,6 +119,7 @@ private:
     void changeFilter(const std::function<void()> &change);
     bool lacksExtraData(const PackageTable::Query &query) const;
     bool loadExtraData(const PackageTable::Query &query);
+    void noteUnseen();
     void anyFilterChanged();
     void warnUnlistedActions();
     void showMode();
@@ -139,6 +140,7 @@ private:
     void collect(Refresh why = Refresh::Asked);
     void recollect(Refresh why = Refresh::Asked);
     void giveMarksBack(Refresh why);
+    bool askToRefresh();
     void cleanAndCollect(bool (YumIO::*operation)());
     void showMainArea();
 

@@ -1,6 +1,7 @@
 """Transactions as the window runs them: groups with the conflict question, what stops a transaction before
 it begins, and the report after one that went wrong."""
 
+import pathlib
 import unittest
 
 from recorder import INSTALL, NONE, REMOVE, UPDATE, Recorder
@@ -165,6 +166,24 @@ class Trouble(Window):
         for storey in ("floor", "wall", "roof"):
             self.assertIn("\tRemove: stack-%s 1.0-1 (noarch)\n" % storey, extra)
         self.assertEqual(self.packages(root), before)
+
+    def test_another_program_changed_packages(self):
+        """Nothing is applied on rows that are not true; the marks that still fit outlive the refresh."""
+        root = self.root()
+        window = self.open(root)
+        packages = pathlib.Path(root, "srv/repos/9/x86_64").glob("*/Packages/*.rpm")
+        tool(root, "rpm", "-U", "--nodeps", "--nosignature",
+             *(str(path) for path in packages if path.name.startswith(("abacus-1.2-1.x", "clock-1.0-2."))))
+        after = self.packages(root)
+        box, = self.run_marks(window, {INSTALL: ["abacus", "chess"], REMOVE: ["clock"], UPDATE: ["notebook"]},
+                              ("VOK Yum Warning", "Refresh"))
+        for line in ("Installed: abacus-1.2-1.x86_64", "Changed: clock.x86_64 1.0-1 -> 1.0-2"):
+            self.assertIn(line, box["text"])
+        self.assertEqual(self.packages(root), after)
+        self.assertEqual(self.marked(window), {"chess": INSTALL, "clock": REMOVE, "notebook": UPDATE})
+        for line in ("No longer possible, and not marked any more: abacus.",
+                     "Marked now in another version: clock 1.0-1 -> 1.0-2."):
+            self.assertIn(line, self.log(window))
 
     def test_failures_are_reported(self):
         root = self.root()
