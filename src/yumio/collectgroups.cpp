@@ -26,16 +26,12 @@ bool YumIO::collectAllGroups()
         return true;
     if (reported)
         return false;
-    if (!ready) {
-        error(tr("Internal error: execution of yumIO.setupTsGroup failed"));
-        return false;
-    }
+    if (!ready)
+        return fail(tr("Internal error: execution of yumIO.setupTsGroup failed"));
 
     const PyRef info(pyMethodCall(m_session.yumIO, "collectGroupInfo", "()"));
-    if (!info) {
-        error(tr("Internal error: execution of yumIO.collectGroupInfo failed"));
-        return false;
-    }
+    if (!info)
+        return fail(tr("Internal error: execution of yumIO.collectGroupInfo failed"));
     if (!collectGroups(m_store.byKey, info.get()))
         return false;
     const PyRef done(pyMethodCall(m_session.yumIO, "collectDone", "()"));
@@ -48,8 +44,7 @@ bool YumIO::collectGroups(EntryHash &hash, PyObject *groupInfo)
     const PyRef iterator(groups ? PyObject_GetIter(groups.get()) : nullptr);
     if (!iterator) {
         PyErr_Clear();
-        error(tr("Internal error: groupInfo.visible_groups not evaluable"));
-        return false;
+        return fail(tr("Internal error: groupInfo.visible_groups not evaluable"));
     }
     const bool distribution = hasDistribGroups();
     while (const PyRef item{PyIter_Next(iterator.get())}) {
@@ -62,8 +57,7 @@ bool YumIO::collectGroups(EntryHash &hash, PyObject *groupInfo)
             const PyRef nameObject(PyObject_GetAttrString(item.get(), "name"));
             if (!nameObject) {
                 PyErr_Clear();
-                error(tr("Internal error: group without name"));
-                return false;
+                return fail(tr("Internal error: group without name"));
             }
             name = pyString(nameObject.get());
         } else {
@@ -89,8 +83,7 @@ bool YumIO::collectGroup(Package::Entry *&slot, PyObject *group, const QString &
         const PyRef flag(PyObject_GetAttrString(group, "installed"));
         if (!flag) {
             PyErr_Clear();
-            error(tr("Internal error: cannot find group's installed flag"));
-            return false;
+            return fail(tr("Internal error: cannot find group's installed flag"));
         }
         installed = PyObject_IsTrue(flag.get()) == 1;
     } else {
@@ -99,9 +92,8 @@ bool YumIO::collectGroup(Package::Entry *&slot, PyObject *group, const QString &
                                : nullptr);
         if (!flag) {
             PyErr_Clear();
-            error(tr("Internal error: cannot find groupInfo.group_installed['%s']")
-                      .replace(QLatin1String("%s"), name));
-            return false;
+            return fail(tr("Internal error: cannot find groupInfo.group_installed['%s']")
+                            .replace(QLatin1String("%s"), name));
         }
         installed = PyObject_IsTrue(flag.get()) == 1;
     }

@@ -252,10 +252,9 @@ bool YumIO::reapChildren()
             return true;
         if (pid == -1) {
             const int cause = errno;
-            error(tr("Unable to reap children; errno=%1 (%2)")
-                      .arg(cause)
-                      .arg(QString::fromLocal8Bit(std::strerror(cause))));
-            return false;
+            return fail(tr("Unable to reap children; errno=%1 (%2)")
+                            .arg(cause)
+                            .arg(QString::fromLocal8Bit(std::strerror(cause))));
         }
         log(Log::Kind::Warning, 0, tr("Reaped zombie child %1").arg(pid));
     }

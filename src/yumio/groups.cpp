@@ -243,9 +243,8 @@ bool YumIO::groupMembers(const Package::Entry *group, std::initializer_list<Memb
     for (const MemberKind kind : kinds) {
         const PyRef members = attribute(group->po, attributes[kind]);
         if (!members) {
-            error(tr("Internal error: group %1.%2 not evaluable")
-                      .arg(group->name, QLatin1String(attributes[kind])));
-            return false;
+            return fail(tr("Internal error: group %1.%2 not evaluable")
+                            .arg(group->name, QLatin1String(attributes[kind])));
         }
         const PyRef keys(pyMethodCall(members.get(), "keys", "()"));
         QStringList found;
