@@ -110,13 +110,14 @@ PyObject *YumIO::listTransaction(PyObject *, PyObject *args)
     if (!makeLists(owner, lists) || !writeListing(lists))
         return failedCallback("the transaction cannot be listed");
 
-    noteTransactionPkgs(Package::Action::Install, lists.installed);
-    noteTransactionPkgs(Package::Action::Update, lists.updated);
-    noteTransactionPkgs(Package::Action::Remove, lists.removed);
-    noteTransactionPkgs(Package::Action::Install, lists.depinstalled);
-    noteTransactionPkgs(Package::Action::Update, lists.depupdated);
-    noteTransactionPkgs(Package::Action::Remove, lists.depremoved);
-    noteTransactionPkgs(Package::Action::Remove, lists.obsoleted);
+    QSet<const Package::Entry *> arriving;
+    noteTransactionPkgs(Package::Action::Install, lists.installed, arriving);
+    noteTransactionPkgs(Package::Action::Update, lists.updated, arriving);
+    noteTransactionPkgs(Package::Action::Remove, lists.removed, arriving);
+    noteTransactionPkgs(Package::Action::Install, lists.depinstalled, arriving);
+    noteTransactionPkgs(Package::Action::Update, lists.depupdated, arriving);
+    noteTransactionPkgs(Package::Action::Remove, lists.depremoved, arriving);
+    noteTransactionPkgs(Package::Action::Remove, lists.obsoleted, arriving);
     Py_RETURN_NONE;
 }
 

@@ -110,7 +110,10 @@ QString YumIO::memberVersion(PyObject *member)
                                                           : epoch + QLatin1Char(':') + version;
 }
 
-void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
+// `arriving` gathers the rows that get a package. A row that loses one without getting another is
+// removed, whatever it was marked for: an update was left out for the sake of a removal.
+void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list,
+                                QSet<const Package::Entry *> &arriving)
 {
     forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
         const PyRef nameItem(PySequence_GetItem(pkgtup, 0)),
@@ -124,11 +127,14 @@ void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
                       .arg(name, arch));
             return true;
         }
-        if (action == Package::Action::Remove)
+        if (action == Package::Action::Remove) {
             weighRemoval(entry, memberVersion(member));
-        else
+        } else {
             weighInstall(entry, action);
-        if (entry->applyAction == Package::Action::None)
+            arriving.insert(entry);
+        }
+        if (entry->applyAction == Package::Action::None ||
+            (action == Package::Action::Remove && !arriving.contains(entry)))
             entry->applyAction = action;
         return true;
     });

@@ -366,7 +366,8 @@ private:
     bool displayTransactionPkgs(const QString &title, PyObject *list);
     bool displayTransactionPkgsRepo(const QString &title, PyObject *list);
     bool displayTransactionPkgsObs(const QString &title, PyObject *list);
-    void noteTransactionPkgs(Package::Action action, PyObject *list);
+    void noteTransactionPkgs(Package::Action action, PyObject *list,
+                             QSet<const Package::Entry *> &arriving);
     bool makeLists(PyObject *owner, TransactionLists &lists);
     bool writeListing(const TransactionLists &lists);
     void startRunTotal();
