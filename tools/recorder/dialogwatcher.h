@@ -21,6 +21,8 @@ public:
     // The dialogs since the last call: {"title", "text", "buttons", "class"}.
     QJsonArray takeDialogs();
     bool isOpen() const;
+    // Whether a dialog came up since takeDialogs().
+    bool hasNews() const { return !m_dialogs.isEmpty(); }
     // To be called again and again.
     void look();
     // Presses the button of that text in the open dialog; false when there is none.

@@ -3,6 +3,7 @@
 #include "log/logwindow.h"
 #include "mainwindow/mainwindow.h"
 #include "packagetable/model.h"
+#include "packagetable/sortfilterproxymodel.h"
 #include "progress/generaltip.h"
 #include "progress/hprogressbar.h"
 #include "yumio/yumio.h"
@@ -10,11 +11,14 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QHelpEvent>
 #include <QJsonDocument>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QSocketNotifier>
 #include <QSpinBox>
+#include <QTableView>
 
 #include <unistd.h>
 
@@ -70,7 +74,7 @@ void Recorder::obey(const QJsonObject &command)
     const QString what = command.value(u"do"_s).toString();
     QJsonObject result;
     bool done = true;
-    if (what == u"wait" || what == u"until" || what == u"dialog") {
+    if (what == u"wait" || what == u"until" || what == u"dialog" || what == u"next") {
         m_waiting = command;
         return;
     }
@@ -78,14 +82,20 @@ void Recorder::obey(const QJsonObject &command)
         done = press(command.value(u"button"_s).toString());
     else if (what == u"mark")
         done = mark(command);
+    else if (what == u"toggle")
+        done = toggle(command.value(u"rows"_s).toArray());
+    else if (what == u"choose")
+        done = choose(command);
     else if (what == u"answer")
         m_dialogs.setRules(command.value(u"rules"_s).toArray());
     else if (what == u"cancelAt")
         m_cancelAt = command.value(u"state"_s).toString();
     else if (what == u"rows")
         result.insert(u"table"_s, rows());
+    else if (what == u"table")
+        result.insert(u"table"_s, table());
     else if (what == u"log")
-        result.insert(u"log"_s, log());
+        result.insert(u"log"_s, log(command.value(u"from"_s).toInt()));
     else if (what == u"recording")
         result.insert(u"recording"_s, m_recording.lines());
     else if (what == u"gaps")
@@ -128,6 +138,8 @@ bool Recorder::isOver(const QJsonObject &command) const
         return m_started && !m_busy && !m_dialogs.isOpen();
     if (what == u"dialog")
         return m_dialogs.isOpen();
+    if (what == u"next")
+        return m_started && (m_dialogs.hasNews() || (!m_busy && !m_dialogs.isOpen()));
     if (m_state != command.value(u"state"_s).toString())
         return false;
     const auto *bar = m_window->findChild<HProgressBar *>(u"itemBar"_s);
@@ -199,11 +211,56 @@ QJsonObject Recorder::rows() const
     return table;
 }
 
-QJsonArray Recorder::log() const
+QJsonArray Recorder::table() const
+{
+    QJsonArray result;
+    for (const Package::Entry *entry : *m_engine) {
+        QJsonArray chain;
+        for (const Package::Entry *old = entry->next; old; old = old->next)
+            chain.append(QJsonArray{old->verRel, old->arch});
+        result.append(QJsonArray{int(entry->kind), int(entry->state), entry->name, entry->verRel,
+                                 entry->arch, entry->repo, int(entry->action), chain});
+    }
+    return result;
+}
+
+bool Recorder::toggle(const QJsonArray &rows)
+{
+    auto *view = m_window->findChild<QTableView *>(u"view"_s);
+    auto *proxy = m_window->findChild<PackageTable::SortFilterProxyModel *>();
+    for (const QJsonValue &row : rows) {
+        const QModelIndex index =
+            proxy->mapFromSource(proxy->sourceModel()->index(row[0].toInt(), 0));
+        if (!index.isValid() || !view->isEnabled())
+            return false;
+        view->scrollTo(index);
+        const QPointF middle = view->visualRect(index).center();
+        for (int times = row[1].toInt(); times > 0; --times) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, middle, view->viewport()->mapToGlobal(middle),
+                                  Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+                QCoreApplication::sendEvent(view->viewport(), &event);
+            }
+        }
+    }
+    return true;
+}
+
+bool Recorder::choose(const QJsonObject &command) const
+{
+    auto *box = m_window->findChild<QComboBox *>(command.value(u"box"_s).toString());
+    const int index = command.value(u"index"_s).toInt();
+    if (!box || !box->isEnabled() || index >= box->count())
+        return false;
+    box->setCurrentIndex(index);
+    return true;
+}
+
+QJsonArray Recorder::log(int from) const
 {
     QJsonArray result;
     QMutexLocker lock(&m_engine->logList().mutex());
-    for (const Log::Entry &entry : std::as_const(m_engine->logList().entries()))
+    for (const Log::Entry &entry : m_engine->logList().entries().mid(from))
         result.append(QJsonArray{int(entry.kind), int(entry.level), entry.text});
     return result;
 }

@@ -19,12 +19,17 @@ class YumIO;
 //   wait                       until no job runs and no dialog is open
 //   until state [percent]      until the job is in that state and the item bar that far
 //   dialog                     until a dialog is open
+//   next                       until a new dialog is open or, as for wait, all is over
 //   press button               a button or action, by object name; or the open dialog's, by its text
 //   mark names action          rows of those names; action as Package::Action
+//   toggle rows                clicks the action cells of listed rows: [[index, how often]...]
+//   choose box index           an entry of a combo box, by object name
 //   answer rules               see DialogWatcher
 //   cancelAt state             presses Cancel when the job is in that state and it can be pressed
 //   rows                       {name: [state, version, repository, action]} of all rows, as numbers
-//   log                        [kind, level, text] of all log entries
+//   table                      all rows by their index: [kind, state, name, version, architecture,
+//                              repository, action, [[version, architecture] of those behind it]]
+//   log [from]                 [kind, level, text] of all log entries from that index on
 //   recording, gaps            see Recording and Heartbeat
 //   stacks                     from now on gaps have stacks
 //   tip, showLog level         shows the item bar's tip, the log window
@@ -50,8 +55,11 @@ private:
 
     bool press(const QString &button);
     bool mark(const QJsonObject &command);
+    bool toggle(const QJsonArray &rows);
+    bool choose(const QJsonObject &command) const;
     QJsonObject rows() const;
-    QJsonArray log() const;
+    QJsonArray table() const;
+    QJsonArray log(int from) const;
     void showTip();
     void showLog(int level);
     bool picture(const QJsonObject &command) const;

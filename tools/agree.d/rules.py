@@ -1,0 +1,77 @@
+"""The differences between VOK and dnf that are meant, each with its reason."""
+
+import collections
+import re
+
+from mirror import group
+from window import GROUP, INSTALL, INSTALLABLE, REMOVE, UPDATABLE, UPDATE
+
+# `lines` are the configuration lines of the root, `marks` is [(row, action)], `kinds` those of the boxes.
+Step = collections.namedtuple("Step", "lines rows marks kinds")
+# `explains(line, step)`: a line of a difference.
+Rule = collections.namedtuple("Rule", "name why explains")
+# `more(rows, marks)`: the marks that dnf needs besides to do what VOK does.
+Translation = collections.namedtuple("Translation", "name why more")
+
+# What another vendor offers, and what is left without that.
+_RIVALS = {"updates: only DNF easel.noarch 2.0-1", "updates: only DNF palette.noarch 2.0-1",
+           "updates: only VOK easel.noarch 1.1-1"}
+
+
+def _of_groups(rows, marks, action, kinds):
+    """The rows of the members of the groups marked so."""
+    names = {name for row, one in marks if row.kind == GROUP and one == action
+             for kind, name, *_ in group(row)[1] if kind in kinds}
+    return [row for row in rows if row.kind != GROUP and row.name in names]
+
+
+_REQUIRED = {"mandatory", "default"}
+_ALL = {*_REQUIRED, "optional", "conditional"}
+
+TRANSLATIONS = [
+    Translation("group removal", "VOK removes all members of a group, dnf those that came with it.",
+                lambda rows, marks: [(row, REMOVE) for row in _of_groups(rows, marks, REMOVE, _ALL)
+                                     if row.state != INSTALLABLE]),
+    Translation("group installation", "VOK updates the members that are there, dnf leaves them.",
+                lambda rows, marks: [(row, UPDATE) for row in _of_groups(rows, marks, INSTALL, _ALL - {"optional"})
+                                     if row.state == UPDATABLE]),
+    Translation("group update", "VOK updates optional members too, and installs required ones that are "
+                "missing; dnf does what the group has new.",
+                lambda rows, marks: [(row, UPDATE) for row in _of_groups(rows, marks, UPDATE, _ALL)
+                                     if row.state == UPDATABLE]
+                + [(row, INSTALL) for row in _of_groups(rows, marks, UPDATE, _REQUIRED)
+                   if row.state == INSTALLABLE]),
+]
+
+
+def _removed_with_group(line, step):
+    names = [row.name for row in _of_groups(step.rows, step.marks, REMOVE, _ALL)]
+    found = re.match(r"records: only (VOK|DNF) remove (.+)-\S+-\S+ \((group|user),", line)
+    return found and found[2] in names and (found[1], found[3]) in (("VOK", "group"), ("DNF", "user"))
+
+
+EXCLUDES = Translation("excludes", "dnf hides installed packages that the main file excludes, VOK shows and "
+                       "removes them; so the same is said for each repository.", None)
+def _shared(line, step):
+    groups = [(group(row), action) for row, action in step.marks if row.kind == GROUP]
+    removed, wanted = ({name for (_, members), action in groups if (action == REMOVE) is removing
+                        for _, name, *_ in members} for removing in (True, False))
+    shared = removed & wanted
+    named = any(re.search(rf"\b{name}-\d", line) for name in shared)
+    return named or bool(shared) and any(f"group {identifier} " in line for (identifier, _), _ in groups)
+
+
+RULES = [
+    Rule("vendor list", "dnf lists upgrades that a change of vendor forbids, and does not take them.",
+         lambda line, step: "allow_vendor_change" in step.lines and line in _RIVALS),
+    Rule("reason of a removed member", "A member that somebody had installed goes with the group by VOK, "
+         "and is recorded so; dnf is told to remove it by itself.", _removed_with_group),
+    Rule("shared member", "Of two groups with a member, one is removed and one installed: VOK removes what "
+         "is there, dnf installs it again.", _shared),
+    Rule("twin by upgrade", "With best=1 dnf's upgrade of one architecture fails where the installation of "
+         "the same package takes both.",
+         lambda line, step: "best" in step.lines and line.startswith("dnf upgrade leaves out libtwin")),
+    Rule("either member", "With obsoletes=0 one of two members that exclude each other is left out; which "
+         "one goes by the order of the marks.",
+         lambda line, step: "obsoletes" in step.lines and bool(re.search("quill|fountain-pen", line))),
+]
