@@ -65,7 +65,8 @@ bool YumIO::isHeld(const QString &text, bool isError)
 {
     if (!m_reports.held)
         return false;
-    m_reports.texts.append(text);
+    if (!m_reports.texts.contains(text)) // an event may repeat what was said of its element
+        m_reports.texts.append(text);
     m_reports.haveError |= isError;
     return true;
 }
