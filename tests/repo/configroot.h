@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <filesystem>
+
 // A system root with configuration files, and a reader on it.
 class ConfigRoot
 {
@@ -21,7 +23,12 @@ public:
         put(mainFile(), "[main]\ngpgcheck=1\n");
         QDir(dir.path()).mkpath(QStringLiteral("etc/yum.repos.d"));
     }
-    ~ConfigRoot() { qunsetenv("VOKROOT"); }
+    ~ConfigRoot()
+    {
+        qunsetenv("VOKROOT");
+        std::error_code ignored; // names that are no text are beyond QTemporaryDir
+        std::filesystem::remove_all(dir.path().toStdString(), ignored);
+    }
 
     static QString mainFile() { return QStringLiteral("/etc/yum.conf"); }
     static QString repo(const QString &name)
