@@ -36,6 +36,7 @@ void TestYumIO::sizes_data()
     row(0, "0b");
     row(999, "999b");
     row(1000, "1.0Kb");
+    row(1280, "1.2Kb"); // a tie, which the even digit gets
     row(10188, "9.9Kb");
     row(10189, "10Kb");
     row(1023999, "1000Kb");
