@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QtGlobal>
+#include "package.h"
+
+#include <QSet>
 
 namespace Engine {
 
@@ -20,6 +22,7 @@ struct Apply
     qint64 bytesToDownload = 0;
     qint64 downloadBudget = 0;
     qint64 transactionWeight = 0;
+    QSet<const Package::Entry *> arriving; // rows that get a package
     // The transaction.
     bool eventsStarted = false;
     qint64 lastElement = 0;

@@ -9,6 +9,8 @@
 #include "transactionlists.h"
 #include "yumio.h"
 
+#include <utility>
+
 namespace {
 
 // The first package that stands in `relation` in a list of (package tuple, relation).
@@ -56,7 +58,8 @@ PyObject *YumIO::userconfirm(PyObject *, PyObject *)
     return PyLong_FromLong(yes ? 1 : 0);
 }
 
-PyObject *YumIO::reportDownloadSize(PyObject *, PyObject *args)
+// Adds a line that holds the size of the packages that a callback was given.
+PyObject *YumIO::addSizeLine(const QString &line, PyObject *args)
 {
     PyObject *packages;
     if (!PyArg_ParseTuple(args, "O", &packages))
@@ -69,8 +72,53 @@ PyObject *YumIO::reportDownloadSize(PyObject *, PyObject *args)
         bytes += sizeOf(package.get());
     if (PyErr_Occurred())
         return nullptr;
-    m_confirmation.text += tr("Total download size: %1\n").arg(bytesFormat(bytes));
+    m_confirmation.text += line.arg(bytesFormat(bytes));
     Py_RETURN_NONE;
+}
+
+PyObject *YumIO::reportDownloadSize(PyObject *, PyObject *args)
+{
+    return addSizeLine(tr("Total download size: %1\n"), args);
+}
+
+PyObject *YumIO::reportLocalSize(PyObject *, PyObject *args)
+{
+    return addSizeLine(tr("Taken from directories of this machine: %1\n"), args);
+}
+
+PyObject *YumIO::listingNote(PyObject *, PyObject *args)
+{
+    const char *note;
+    if (!PyArg_ParseTuple(args, "s", &note))
+        return nullptr;
+    m_confirmation.text += QString::fromUtf8(note) + QLatin1Char('\n');
+    Py_RETURN_NONE;
+}
+
+PyObject *YumIO::confirmRemovals(PyObject *, PyObject *args)
+{
+    PyObject *owner;
+    if (!PyArg_ParseTuple(args, "O", &owner))
+        return nullptr;
+    TransactionLists lists;
+    const QString pending = std::exchange(m_confirmation.text, QString());
+    const bool listed =
+        makeLists(owner, lists) && displayTransactionPkgs(tr("Remove"), lists.depremoved);
+    const QString removals = std::exchange(m_confirmation.text, pending);
+    if (!listed)
+        return failedCallback("the removals cannot be listed");
+    const QString text =
+        tr("Not all that rpm would do is in the listing. It would also remove what "
+           "cannot stand beside the new packages:\n%1\nGo on?")
+            .arg(removals);
+    const bool yes = m_dialogs && m_dialogs->warning(tr("Apply"), text, tr("Yes"), tr("No"),
+                                                     QString(), 1, 1) == 0;
+    log(Log::Kind::Action, 0, yes ? tr("Confirmation: Yes") : tr("Confirmation: No"));
+    if (yes)
+        noteTransactionPkgs(Package::Action::Remove, lists.depremoved);
+    else // the question has told all there is
+        m_cancelled = true;
+    return PyLong_FromLong(yes ? 1 : 0);
 }
 
 bool YumIO::writeListing(const TransactionLists &lists)
@@ -110,14 +158,13 @@ PyObject *YumIO::listTransaction(PyObject *, PyObject *args)
     if (!makeLists(owner, lists) || !writeListing(lists))
         return failedCallback("the transaction cannot be listed");
 
-    QSet<const Package::Entry *> arriving;
-    noteTransactionPkgs(Package::Action::Install, lists.installed, arriving);
-    noteTransactionPkgs(Package::Action::Update, lists.updated, arriving);
-    noteTransactionPkgs(Package::Action::Remove, lists.removed, arriving);
-    noteTransactionPkgs(Package::Action::Install, lists.depinstalled, arriving);
-    noteTransactionPkgs(Package::Action::Update, lists.depupdated, arriving);
-    noteTransactionPkgs(Package::Action::Remove, lists.depremoved, arriving);
-    noteTransactionPkgs(Package::Action::Remove, lists.obsoleted, arriving);
+    noteTransactionPkgs(Package::Action::Install, lists.installed);
+    noteTransactionPkgs(Package::Action::Update, lists.updated);
+    noteTransactionPkgs(Package::Action::Remove, lists.removed);
+    noteTransactionPkgs(Package::Action::Install, lists.depinstalled);
+    noteTransactionPkgs(Package::Action::Update, lists.depupdated);
+    noteTransactionPkgs(Package::Action::Remove, lists.depremoved);
+    noteTransactionPkgs(Package::Action::Remove, lists.obsoleted);
     Py_RETURN_NONE;
 }
 

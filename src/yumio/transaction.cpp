@@ -110,10 +110,9 @@ QString YumIO::memberVersion(PyObject *member)
                                                           : epoch + QLatin1Char(':') + version;
 }
 
-// `arriving` gathers the rows that get a package. A row that loses one without getting another is
-// removed, whatever it was marked for: an update was left out for the sake of a removal.
-void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list,
-                                QSet<const Package::Entry *> &arriving)
+// A row that loses a package without getting another is removed, whatever it was marked for: an
+// update was left out for the sake of a removal.
+void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
 {
     forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
         const PyRef nameItem(PySequence_GetItem(pkgtup, 0)),
@@ -130,18 +129,20 @@ void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list,
         if (action == Package::Action::Remove) {
             weighRemoval(entry, memberVersion(member));
         } else {
-            weighInstall(entry, action);
-            arriving.insert(entry);
+            m_apply.arriving.insert(entry);
+            weighInstall(entry, action, attribute(member, "replaces").get());
         }
         if (entry->applyAction == Package::Action::None ||
-            (action == Package::Action::Remove && !arriving.contains(entry)))
+            (action == Package::Action::Remove && !m_apply.arriving.contains(entry)))
             entry->applyAction = action;
         return true;
     });
     PyErr_Clear();
 }
 
-void YumIO::weighInstall(const Package::Entry *entry, Package::Action action)
+// `replaces` holds the installed versions that go, null when all do. The others stay beside the new
+// one, so no event may take them for begun.
+void YumIO::weighInstall(Package::Entry *entry, Package::Action action, PyObject *replaces)
 {
     const qint64 bytes = downloadWeight(entry);
     m_apply.bytesTotal += bytes;
@@ -150,17 +151,30 @@ void YumIO::weighInstall(const Package::Entry *entry, Package::Action action)
     m_apply.transactionWeight += Weights::install(entry->size);
     if (action != Package::Action::Update)
         return;
-    for (const Package::Entry *old = entry->next; old; old = old->next)
-        m_apply.transactionWeight += Weights::completion(old->size);
+    const QStringList going = replaces ? textsOf(replaces) : QStringList();
+    for (Package::Entry *old = entry->next; old; old = old->next) {
+        if (!replaces || going.contains(old->verRel))
+            m_apply.transactionWeight += Weights::completion(old->size);
+        else
+            old->started = true;
+    }
 }
 
-void YumIO::weighRemoval(const Package::Entry *entry, const QString &version)
+void YumIO::weighRemoval(Package::Entry *entry, const QString &version)
 {
-    const Package::Entry *installed =
-        entry->state == Package::State::Updatable ? entry->next : entry;
+    Package::Entry *installed = entry->state == Package::State::Updatable ? entry->next : entry;
     while (installed && installed->verRel != version)
         installed = installed->next;
-    m_apply.transactionWeight += Weights::removal(installed ? installed->size : 0);
+    const bool makesRoom = installed && m_apply.arriving.contains(entry) &&
+                           entry->applyAction != Package::Action::Remove;
+    if (!makesRoom) {
+        m_apply.transactionWeight += Weights::removal(installed ? installed->size : 0);
+        return;
+    }
+    // It goes because another version comes, which its erasure completes.
+    entry->applyAction = Package::Action::Update;
+    installed->started = false;
+    m_apply.transactionWeight += Weights::completion(installed->size);
 }
 
 // Acts of the download stage: bytes where one bar adds up all files, else at least a share for

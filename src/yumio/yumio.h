@@ -363,19 +363,19 @@ private:
     void dsTsNewPkg(const QString &pkg, Package::Entry *entry, unsigned int ops, bool mayDownload);
     QString pkgtupFormat(PyObject *pkgtup);
     QString pkgtupRepoFormat(PyObject *pkgtup, const QString &repo);
+    PyObject *addSizeLine(const QString &line, PyObject *args);
     bool displayTransactionPkgs(const QString &title, PyObject *list);
     bool displayTransactionPkgsRepo(const QString &title, PyObject *list);
     bool displayTransactionPkgsObs(const QString &title, PyObject *list);
-    void noteTransactionPkgs(Package::Action action, PyObject *list,
-                             QSet<const Package::Entry *> &arriving);
+    void noteTransactionPkgs(Package::Action action, PyObject *list);
     bool makeLists(PyObject *owner, TransactionLists &lists);
     bool writeListing(const TransactionLists &lists);
     void startRunTotal();
     bool forEachMember(PyObject *list,
                        const std::function<bool(PyObject *member, PyObject *pkgtup)> &line);
     QString memberVersion(PyObject *member);
-    void weighInstall(const Package::Entry *entry, Package::Action action);
-    void weighRemoval(const Package::Entry *entry, const QString &version);
+    void weighInstall(Package::Entry *entry, Package::Action action, PyObject *replaces);
+    void weighRemoval(Package::Entry *entry, const QString &version);
     qint64 downloadWeight(const Package::Entry *entry);
     static PyObject *failedCallback(const char *reason);
 
@@ -440,6 +440,8 @@ private:
     PyObject *dsRestartLoop(PyObject *self, PyObject *args);
     PyObject *userconfirm(PyObject *self, PyObject *args);
     PyObject *reportDownloadSize(PyObject *self, PyObject *args);
+    PyObject *reportLocalSize(PyObject *self, PyObject *args);
+    PyObject *listingNote(PyObject *self, PyObject *args);
     PyObject *listTransaction(PyObject *self, PyObject *args);
     PyObject *tsInitCallback(PyObject *self, PyObject *args);
     PyObject *tsCallback(PyObject *self, PyObject *args);
@@ -450,6 +452,7 @@ private:
     PyObject *jobState(PyObject *self, PyObject *args);
     PyObject *lockWait(PyObject *self, PyObject *args);
     PyObject *keyQuestion(PyObject *self, PyObject *args);
+    PyObject *confirmRemovals(PyObject *self, PyObject *args);
     PyObject *transactionReport(PyObject *self, PyObject *args);
 
     // The window's, given once.

@@ -44,6 +44,8 @@ PyMethodDef YumIOC::s_methods[] = {
     VOK_CALLBACK(dsRestartLoop, METH_NOARGS),
     VOK_CALLBACK(userconfirm, METH_NOARGS),
     VOK_CALLBACK(reportDownloadSize, METH_VARARGS),
+    VOK_CALLBACK(reportLocalSize, METH_VARARGS),
+    VOK_CALLBACK(listingNote, METH_VARARGS),
     VOK_CALLBACK(listTransaction, METH_VARARGS),
     VOK_CALLBACK(tsInitCallback, METH_VARARGS),
     VOK_CALLBACK(tsCallback, METH_VARARGS),
@@ -54,6 +56,7 @@ PyMethodDef YumIOC::s_methods[] = {
     VOK_CALLBACK(jobState, METH_VARARGS),
     VOK_CALLBACK(lockWait, METH_VARARGS),
     VOK_CALLBACK(keyQuestion, METH_VARARGS),
+    VOK_CALLBACK(confirmRemovals, METH_VARARGS),
     VOK_CALLBACK(transactionReport, METH_VARARGS),
     {nullptr, nullptr, 0, nullptr},
 };
