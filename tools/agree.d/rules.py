@@ -52,6 +52,14 @@ def _removed_with_group(line, step):
 
 EXCLUDES = Translation("excludes", "dnf hides installed packages that the main file excludes, VOK shows and "
                        "removes them; so the same is said for each repository.", None)
+_REPLACED = {"quill": "fountain-pen", "oldname": "newname", "oldtwin": "merged"}
+
+
+def _replaced(line, step):
+    marked = {row.name for row, action in step.marks if action == INSTALL}.intersection(_REPLACED)
+    return any(re.search(rf"\b({name}|{_REPLACED[name]})-\d", line) for name in marked)
+
+
 def _shared(line, step):
     groups = [(group(row), action) for row, action in step.marks if row.kind == GROUP]
     removed, wanted = ({name for (_, members), action in groups if (action == REMOVE) is removing
@@ -68,9 +76,11 @@ RULES = [
          "and is recorded so; dnf is told to remove it by itself.", _removed_with_group),
     Rule("shared member", "Of two groups with a member, one is removed and one installed: VOK removes what "
          "is there, dnf installs it again.", _shared),
-    Rule("twin by upgrade", "With best=1 dnf's upgrade of one architecture fails where the installation of "
-         "the same package takes both.",
-         lambda line, step: "best" in step.lines and line.startswith("dnf upgrade leaves out libtwin")),
+    Rule("twin by upgrade", "dnf's upgrade of one architecture fails where the installation of the same "
+         "package takes both.",
+         lambda line, step: line.startswith("dnf upgrade leaves out libtwin")),
+    Rule("installed as marked", "A package that another one on offer replaces is installed as marked; dnf "
+         "installs what replaces it.", _replaced),
     Rule("either member", "With obsoletes=0 one of two members that exclude each other is left out; which "
          "one goes by the order of the marks.",
          lambda line, step: "obsoletes" in step.lines and bool(re.search("quill|fountain-pen", line))),

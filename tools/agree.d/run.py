@@ -124,7 +124,8 @@ class Chapter:
         if any(row.action != window.NONE for row in self._window.rows()):
             self._window.clear_actions()
         self._counts[outcome] += 1
-        return outcome
+        said = [" ".join(box.text.split())[:300] for box in boxes if box.kind not in ("listing", "report")]
+        return "; ".join([outcome, *said])
 
     def _mark(self, rows):
         if self._random.random() < 0.03:
