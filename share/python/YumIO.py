@@ -19,7 +19,7 @@ import yum  # noqa: F401,E402
 import yum.Errors  # noqa: F401,E402
 
 from vokdnf import base, clean, collection, errors, groups, interrupted, locks  # noqa: E402
-from vokdnf import otherdata, packages, report, transaction, tsinfo  # noqa: E402
+from vokdnf import otherdata, packages, relations, report, transaction, tsinfo  # noqa: E402
 
 import dnf.drpm  # noqa: E402
 
@@ -120,6 +120,18 @@ class YumIO:
 
     def collectDone(self):
         report.job_state("done", False)
+
+    def requiredBy(self, po):
+        """Optional. The installed packages that require something of `po`, as a sorted list of texts."""
+        return self._texts(relations.required_by(self._session.sack, po.pkg))
+
+    def replaced(self, po):
+        """Optional. The installed packages of other names that `po` replaces, as a sorted list of texts."""
+        return self._texts(relations.replaced(self._session.sack, po.pkg))
+
+    @staticmethod
+    def _texts(pkgs):
+        return sorted(map(report.clean, pkgs))
 
     def collectFileLists(self):
         """Makes the file lists of available packages readable."""

@@ -1,5 +1,8 @@
 #include "colors.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 QPalette withBase(QPalette palette, const QColor &color)
@@ -7,6 +10,25 @@ QPalette withBase(QPalette palette, const QColor &color)
     palette.setColor(QPalette::Active, QPalette::Base, color);
     palette.setColor(QPalette::Inactive, QPalette::Base, color);
     return palette;
+}
+
+constexpr double enoughContrast = 4.5;
+constexpr double shadeStep = 0.02;
+
+// Relative luminance, 0 to 1, as the accessibility guidelines for the web define it.
+double luminance(const QColor &color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor &one, const QColor &two)
+{
+    const double first = luminance(one), second = luminance(two);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 } // namespace
@@ -84,4 +106,25 @@ QPalette Colors::makeWarning(const QPalette &palette)
 QPalette Colors::makeOK(const QPalette &palette)
 {
     return withBase(palette, okBg());
+}
+
+bool Colors::isDark(const QColor &background)
+{
+    // Black and white have the same contrast on it.
+    return luminance(background) < 0.18;
+}
+
+QColor Colors::readable(const QColor &text, const QColor &background)
+{
+    float hue, saturation, lightness;
+    text.getHslF(&hue, &saturation, &lightness);
+    const double step = isDark(background) ? shadeStep : -shadeStep;
+    QColor shade = text;
+    for (double light = lightness; contrast(shade, background) < enoughContrast;) {
+        light += step;
+        if (light < 0 || light > 1)
+            break;
+        shade = QColor::fromHslF(hue, saturation, float(light));
+    }
+    return shade;
 }

@@ -19,6 +19,11 @@ public:
     static QColor warningBg();
     static QColor okBg();
 
+    // A text's colour on a background: itself where the contrast is 4.5 to 1 or more, else the nearest
+    // shade of its hue that has it.
+    static QColor readable(const QColor &text, const QColor &background);
+    static bool isDark(const QColor &background);
+
     // Copies with the background of fields coloured, for the active and the inactive group.
     static QPalette makeRequired(const QPalette &palette);
     static QPalette makeError(const QPalette &palette);

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace {
@@ -165,6 +166,11 @@ QLayout *MainWindow::createFilterRow()
 
     m_regexpEdit = new QLineEdit(QStringLiteral(".*"), m_mainArea);
     describeControl(m_regexpEdit, "regexpEdit", QString(), tr("Regular expression"));
+    auto *find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, m_regexpEdit, [this] {
+        m_regexpEdit->setFocus(Qt::ShortcutFocusReason);
+        m_regexpEdit->selectAll();
+    });
 
     m_filterSearchButton = new QPushButton(tr("Filter"), m_mainArea);
     m_filterSearchButton->setDefault(true);
@@ -210,9 +216,7 @@ QLayout *MainWindow::createButtonRow()
     };
     m_describeButton =
         add("describeButton", tr("&Describe"),
-            tr("%1\n(Not available yet.)")
-                .arg(tr("Pop up a window with a detailed description of the currently selected "
-                        "package")));
+            tr("Pop up a window with a detailed description of the currently selected package"));
     m_describeButton->setEnabled(false);
     m_resizeButton =
         add("resizeButton", tr("Re&size"), tr("Resize the columns and window to optimal values"));
@@ -285,6 +289,11 @@ void MainWindow::connectMainArea()
     connect(m_yumIO, &YumIO::collectedExtraData, this, &MainWindow::collectedExtraData);
     connect(m_yumIO, qOverload<const QString &, bool>(&YumIO::jobState), this,
             &MainWindow::jobState);
+    connect(m_view, qOverload<int, int>(&PackageTable::View::currentChanged), this,
+            &MainWindow::currentChanged);
+    connect(m_model, &PackageTable::Model::describing, this, &MainWindow::dialogRuns);
+    m_model->setJobRunner([this](const std::function<void()> &work) { return runJob(work); });
+    connect(m_describeButton, &QPushButton::clicked, m_view, &PackageTable::View::describe);
     connect(m_view, &PackageTable::View::stateChanged, this, &MainWindow::stateChanged);
     connect(m_resizeButton, &QPushButton::clicked, this, qOverload<>(&MainWindow::resize));
     connect(m_refreshButton, &QPushButton::clicked, this, &MainWindow::refresh);

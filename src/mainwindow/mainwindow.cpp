@@ -192,10 +192,12 @@ void MainWindow::recollect(Refresh why)
     if (m_quitAsked)
         return;
     m_marks.take(*m_yumIO);
+    const PackageTable::Place place = m_view->place();
     m_yumIO->renew();
     m_model->reset();
     if (!m_quitAsked)
         collect(why);
+    m_view->goTo(place);
     warnUnlistedActions();
     stateChanged(-1);
 }
@@ -369,6 +371,11 @@ void MainWindow::apply()
     }
     warnUnlistedActions();
     stateChanged(-1);
+}
+
+void MainWindow::currentChanged(int currentRow, int)
+{
+    m_describeButton->setEnabled(currentRow != -1);
 }
 
 void MainWindow::stateChanged(int row)

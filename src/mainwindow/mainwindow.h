@@ -89,6 +89,7 @@ public Q_SLOTS:
     void stateFilterChanged(int stateFilter);
     void dupsFilterChanged(int state);
     void groupsFilterChanged(int state);
+    void currentChanged(int currentRow, int previousRow);
     void stateChanged(int row);
 
 protected:
@@ -97,6 +98,8 @@ protected:
 private Q_SLOTS:
     void initialize();
     void jobState(const QString &state, bool canCancel);
+    // A modal dialog that may start jobs begins or ends.
+    void dialogRuns(bool runs);
 
 private:
     class Job;
@@ -134,6 +137,7 @@ private:
 
     void note(const QString &text) { m_notes.append(text); }
     void setReady(bool ready);
+    bool runJob(const std::function<void()> &work);
     void checkCredentials();
     void noteUnreadable();
     enum class Refresh { Asked, AfterApply };
@@ -163,6 +167,7 @@ private:
     bool m_quitAsked = false;     // quit when the job has ended
     bool m_unattended = false;    // nobody is there to read
     bool m_finished = false;      // the engine is gone
+    bool m_dialogRuns = false;    // a dialog that uses the engine is open
     int m_exitCode = 0;
     Marks m_marks;               // between two collections
     QStringList m_unreadable;    // configuration files that were named

@@ -4,6 +4,7 @@
 #include "log/logwindow.h"
 #include "mainwindow/keptreport.h"
 #include "packagetable/sortfilterproxymodel.h"
+#include "packagetable/view.h"
 #include "widgets/scrollabledialogs.h"
 #include "yumio/yumio.h"
 
@@ -24,6 +25,7 @@ namespace {
 const QString organisation = QStringLiteral("VOK");
 const QString application = QStringLiteral("vok");
 const QString geometryKey = QStringLiteral("mainWindow/geometry");
+const QString columnsKey = QStringLiteral("mainWindow/columns");
 constexpr int declineMs = 100;
 
 // What a dialog says that asks nothing; empty when it asks.
@@ -56,7 +58,8 @@ MainWindow::Job::~Job()
     m_window->jobState(QStringLiteral("done"), false);
     m_window->m_busy = false;
     if (m_window->m_quitAsked) {
-        m_window->finish();
+        if (!m_window->m_dialogRuns)
+            m_window->finish();
         return;
     }
     m_window->tell(std::exchange(m_window->m_notes, {}).join(QStringLiteral("  ")));
@@ -77,6 +80,23 @@ void MainWindow::jobState(const QString &state, bool canCancel)
         m_yumIO->cancel();
 }
 
+// For the dialogs: a job that the window knows of like of its own. False when another runs.
+bool MainWindow::runJob(const std::function<void()> &work)
+{
+    const Job job(this);
+    if (job)
+        work();
+    return bool(job);
+}
+
+// The engine may not go while a dialog uses it.
+void MainWindow::dialogRuns(bool runs)
+{
+    m_dialogRuns = runs;
+    if (!runs && m_quitAsked && !m_busy)
+        QTimer::singleShot(0, this, &MainWindow::finish);
+}
+
 void MainWindow::cancel()
 {
     if (!m_busy || m_finished)
@@ -89,7 +109,7 @@ void MainWindow::quit()
 {
     if (m_finished)
         return;
-    if (m_busy)
+    if (m_busy || m_dialogRuns)
         askToQuit();
     else
         finish();
@@ -154,7 +174,7 @@ void MainWindow::askToQuit()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_busy || m_finished) {
+    if ((!m_busy && !m_dialogRuns) || m_finished) {
         event->accept();
         finish();
         return;
@@ -177,7 +197,9 @@ void MainWindow::finish()
         return;
     m_finished = true;
     m_busy = true; // nothing starts any more
-    QSettings(organisation, application).setValue(geometryKey, saveGeometry());
+    QSettings settings(organisation, application);
+    settings.setValue(geometryKey, saveGeometry());
+    settings.setValue(columnsKey, m_view->columns());
     if (m_busyCursor)
         QApplication::restoreOverrideCursor();
     m_busyCursor = false;
@@ -193,7 +215,9 @@ void MainWindow::finish()
 
 bool MainWindow::recallGeometry()
 {
-    return restoreGeometry(QSettings(organisation, application).value(geometryKey).toByteArray());
+    const QSettings settings(organisation, application);
+    m_view->setColumns(settings.value(columnsKey).toMap());
+    return restoreGeometry(settings.value(geometryKey).toByteArray());
 }
 
 // Shows a message under the bars; an empty one takes the last away.

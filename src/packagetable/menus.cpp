@@ -1,20 +1,11 @@
 #include "packagetable/menus.h"
 
-#include "app/share.h"
+#include "packagetable/icons.h"
 #include "packagetable/view.h"
 
 namespace PackageTable {
 
 using Package::Action;
-
-namespace {
-
-QIcon shareIcon(const char *name)
-{
-    return QIcon(Share::absolute(QStringLiteral("icons/%1.png").arg(QLatin1String(name))));
-}
-
-} // namespace
 
 ActionContextMenu::ActionContextMenu(Model *model, View *view)
     : HMenu(view), m_updateAction(addAction(shareIcon("update"), tr("&Update"))),
@@ -81,23 +72,32 @@ void ActionContextMenu::handleNoneAction()
     handleAction(Action::None);
 }
 
-OtherContextMenu::OtherContextMenu(QWidget *parent)
+OtherContextMenu::OtherContextMenu(Model *model, QWidget *parent)
     : HMenu(parent), m_describeAction(addAction(tr("&Describe"))),
-      m_browseAction(addAction(tr("Browse Repository")))
+      m_browseAction(addAction(tr("Browse Repository"))), m_model(model)
 {
     setObjectName(QStringLiteral("otherContextMenu"));
     m_describeAction->setObjectName(QStringLiteral("describeAction"));
     m_browseAction->setObjectName(QStringLiteral("browseAction"));
-    for (QAction *action : {m_describeAction, m_browseAction}) {
-        action->setEnabled(false);
-        action->setToolTip(tr("Not available yet"));
-    }
+    connect(m_describeAction, &QAction::triggered, this, &OtherContextMenu::handleDescribeAction);
+    connect(m_browseAction, &QAction::triggered, this, &OtherContextMenu::handleBrowseAction);
 }
 
 void OtherContextMenu::exec(const QModelIndex &index, const QPoint &globalPos)
 {
+    m_index = index;
     m_browseAction->setVisible(index.column() == RepositoryColumn);
     QMenu::exec(globalPos);
+}
+
+void OtherContextMenu::handleDescribeAction()
+{
+    m_model->describe(m_index, parentWidget());
+}
+
+void OtherContextMenu::handleBrowseAction()
+{
+    m_model->browse(m_index, parentWidget());
 }
 
 } // namespace PackageTable

@@ -43,14 +43,20 @@ class OtherContextMenu : public HMenu
     Q_OBJECT
 
 public:
-    explicit OtherContextMenu(QWidget *parent);
+    OtherContextMenu(Model *model, QWidget *parent);
 
     // Runs modally; `index` is the package model's, and may be invalid.
     void exec(const QModelIndex &index, const QPoint &globalPos);
 
+private Q_SLOTS:
+    void handleDescribeAction();
+    void handleBrowseAction();
+
 private:
     QAction *m_describeAction;
     QAction *m_browseAction;
+    Model *m_model;
+    QPersistentModelIndex m_index;
 };
 
 } // namespace PackageTable

@@ -1,7 +1,9 @@
 #include "packagetable/model.h"
 
 #include "app/colors.h"
-#include "app/share.h"
+#include "packagetable/describe.h"
+#include "packagetable/icons.h"
+#include "repo/repobrowse.h"
 #include "yumio/yumio.h"
 
 #include <QStringList>
@@ -14,11 +16,6 @@ using Package::Kind;
 using Package::State;
 
 namespace {
-
-QIcon shareIcon(const char *name)
-{
-    return QIcon(Share::absolute(QStringLiteral("icons/%1.png").arg(QLatin1String(name))));
-}
 
 // The first link of an update is the installed version that it replaces, which does not count as
 // another version.
@@ -68,7 +65,7 @@ int Model::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
-const Entry *Model::entryAt(const QModelIndex &index) const
+Entry *Model::entryAt(const QModelIndex &index) const
 {
     if (!index.isValid() || index.row() >= m_yumIO->count() || index.column() >= ColumnCount)
         return nullptr;
@@ -296,7 +293,7 @@ QVariant Model::headerData(int section, Qt::Orientation orientation, int role) c
     };
     if (role == Qt::DisplayRole)
         return tr(columns[section].title);
-    if (role == Qt::ToolTipRole)
+    if ((role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole))
         return tr(columns[section].tip);
     return {};
 }
@@ -348,6 +345,41 @@ void Model::reset()
 {
     beginResetModel();
     endResetModel();
+}
+
+void Model::describe(const QModelIndex &index, QWidget *parent)
+{
+    Entry *entry = entryAt(index);
+    if (!entry)
+        return;
+    if (!m_describeDialog) {
+        m_describeDialog = new Describe::Dialog(parent->window());
+        connect(m_describeDialog, &Describe::Dialog::stepAsked, this, &Model::describeStepAsked);
+    }
+    if (m_runJob)
+        m_describeDialog->setJobRunner(m_runJob);
+    Q_EMIT describing(true);
+    m_describeDialog->config(m_yumIO, entry, m_yumConfIO);
+    m_describeDialog->exec();
+    Q_EMIT describing(false);
+}
+
+void Model::describeNext(const QModelIndex &index)
+{
+    if (Entry *entry = entryAt(index); entry && m_describeDialog)
+        m_describeDialog->config(m_yumIO, entry, m_yumConfIO);
+}
+
+void Model::setDescribeSteps(bool previous, bool next)
+{
+    if (m_describeDialog)
+        m_describeDialog->setSteps(previous, next);
+}
+
+void Model::browse(const QModelIndex &index, QWidget *parent)
+{
+    if (const Entry *entry = entryAt(index))
+        RepoBrowse::browse(parent, entry->repo, m_yumIO, m_yumConfIO);
 }
 
 } // namespace PackageTable

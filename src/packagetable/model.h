@@ -7,10 +7,20 @@
 #include <QColor>
 #include <QIcon>
 
+#include <functional>
+
+class QWidget;
 class YumConfIO;
 class YumIO;
 
 namespace PackageTable {
+
+namespace Describe {
+class Dialog;
+}
+
+// Runs a job of the engine as the window runs its own; false when it cannot now.
+using JobRunner = std::function<bool(const std::function<void()> &work)>;
 
 // The engine's entries as a table, one row for each in the engine's order, and the one place where
 // the user's choice of action is written into an entry. Owns no package data: the owner calls
@@ -43,8 +53,24 @@ public:
     // Advances the action to the next that fits the entry's state, and from the last to none.
     void toggleAction(const QModelIndex &index);
     void reset();
+    // Runs the description of a row, modally; `parent` is that of the dialog, which is made once.
+    void describe(const QModelIndex &index, QWidget *parent);
+    // Shows another row in the description that is open.
+    void describeNext(const QModelIndex &index);
+    // Whether the description can step to a row before and after its own.
+    void setDescribeSteps(bool previous, bool next);
+    // Shows the repository of a row in the web browser.
+    void browse(const QModelIndex &index, QWidget *parent);
+    // How the description runs the jobs that load what it shows.
+    void setJobRunner(JobRunner runner) { m_runJob = std::move(runner); }
     // Chooses the colours of an enabled or a disabled view.
     void setEnabled(bool enabled) { m_enabled = enabled; }
+
+Q_SIGNALS:
+    // Before and after the description runs.
+    void describing(bool runs);
+    // The description wants the row that many below its own, as the view shows them.
+    void describeStepAsked(int rows);
 
 public Q_SLOTS:
     // Install or Update for each row, as it fits; installed rows stay as they are.
@@ -52,7 +78,7 @@ public Q_SLOTS:
     void clearActions();
 
 private:
-    const Package::Entry *entryAt(const QModelIndex &index) const;
+    Package::Entry *entryAt(const QModelIndex &index) const;
     QVariant icon(const Package::Entry &entry, int column) const;
     QVariant toolTip(const Package::Entry &entry, int column) const;
     QVariant accessibleText(const Package::Entry &entry, int column) const;
@@ -62,6 +88,8 @@ private:
 
     YumIO *m_yumIO;
     YumConfIO *m_yumConfIO = nullptr;
+    Describe::Dialog *m_describeDialog = nullptr;
+    JobRunner m_runJob;
     bool m_enabled = true;
     QIcon m_outOfDateIcon;
     QIcon m_upToDateIcon;

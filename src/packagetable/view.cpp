@@ -38,10 +38,14 @@ View::View(Model *model, SortFilterProxyModel *proxy, QWidget *parent)
     sortByColumn(KindColumn, Qt::AscendingOrder);
     m_proxy->setFilterKeyColumn(KindColumn);
 
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, &View::showColumnMenu);
     connect(header, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
     connect(this, &QAbstractItemView::clicked, this, &View::handleActivated);
     connect(this, &QWidget::customContextMenuRequested, this,
             &View::handleCustomContextMenuRequested);
+    connect(m_model, &Model::describing, this, &View::tellDescribeSteps);
+    connect(m_model, &Model::describeStepAsked, this, &View::describeStep);
 }
 
 void View::handleHorizontalHeaderClicked(int column)
@@ -63,6 +67,29 @@ void View::toggleAction(const QModelIndex &index)
     Q_EMIT stateChanged(source.row());
 }
 
+void View::describe()
+{
+    const QModelIndex source = m_proxy->mapToSource(currentIndex());
+    m_model->describe(source, this);
+}
+
+// The steps of the description are those of the table as it is sorted and filtered.
+void View::describeStep(int rows)
+{
+    const QModelIndex next = currentIndex().siblingAtRow(currentIndex().row() + rows);
+    if (!next.isValid())
+        return;
+    setCurrentIndex(next);
+    m_model->describeNext(m_proxy->mapToSource(next));
+    tellDescribeSteps();
+}
+
+void View::tellDescribeSteps()
+{
+    const int row = currentIndex().row();
+    m_model->setDescribeSteps(row > 0, currentIndex().isValid() && row + 1 < m_proxy->rowCount());
+}
+
 void View::handleCustomContextMenuRequested(const QPoint &pos)
 {
     showContextMenu(indexAt(pos), viewport()->mapToGlobal(pos));
@@ -79,7 +106,7 @@ void View::showContextMenu(const QModelIndex &index, const QPoint &globalPos)
         Q_EMIT stateChanged(row);
     } else {
         if (!m_otherContextMenu)
-            m_otherContextMenu = new OtherContextMenu(this);
+            m_otherContextMenu = new OtherContextMenu(m_model, this);
         m_otherContextMenu->exec(source, globalPos);
     }
 }
@@ -103,6 +130,10 @@ void View::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier &&
         currentIndex().isValid())
         toggleAction(currentIndex());
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        describe();
+    else if (event->matches(QKeySequence::Copy))
+        copySelection();
     else
         HTableView::keyPressEvent(event);
 }

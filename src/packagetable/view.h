@@ -1,6 +1,12 @@
 #pragma once
 
 #include "widgets/htableview.h"
+#include "yumio/yumio.h"
+
+#include <QSet>
+#include <QVariantMap>
+
+#include <optional>
 
 namespace PackageTable {
 
@@ -8,6 +14,15 @@ class ActionContextMenu;
 class Model;
 class OtherContextMenu;
 class SortFilterProxyModel;
+
+// What is current, selected and on top in the table, by what the rows stand for.
+struct Place
+{
+    std::optional<YumIO::EntryKey> current;
+    int currentColumn = 0;
+    QSet<YumIO::EntryKey> selected;
+    std::optional<YumIO::EntryKey> top;
+};
 
 // The package table on the main window. Rows in its signals and in selectedRows() are the package
 // model's, not the proxy's.
@@ -20,6 +35,16 @@ public:
 
     QModelIndexList selectedRows() const override;
     void reset() override;
+    // Looks through the names, whatever the current column.
+    void keyboardSearch(const QString &search) override;
+
+    // Taken before the rows are collected anew and given back when they are there.
+    Place place() const;
+    void goTo(const Place &place);
+
+    // The columns' order and which are hidden, to be kept for the next start.
+    QVariantMap columns() const;
+    void setColumns(const QVariantMap &columns);
 
 Q_SIGNALS:
     // Row -1 is none.
@@ -31,6 +56,8 @@ public Q_SLOTS:
     // Both measure every package, listed or not.
     void sizeColumnsToContents();
     void resizeColumnsToContents();
+    // Describes the current row.
+    void describe();
     void handleHorizontalHeaderClicked(int column);
     void handleActivated(const QModelIndex &index);
     void handleCustomContextMenuRequested(const QPoint &pos);
@@ -44,7 +71,14 @@ protected:
     const QAbstractItemModel *measuredModel() const override;
 
 private:
+    void showColumnMenu(const QPoint &pos);
+    void setColumnHidden(int column, bool hidden);
+    void showAllColumns();
+    void copySelection() const;
+    const Package::Entry *entryAt(int proxyRow) const;
     void tellCurrent(int row);
+    void describeStep(int rows);
+    void tellDescribeSteps();
     void toggleAction(const QModelIndex &index);
     void showContextMenu(const QModelIndex &index, const QPoint &globalPos);
 

@@ -2,7 +2,8 @@
 
 #include <QItemDelegate>
 
-// Draws cells whose text is never wrapped.
+// Draws cells whose text is never wrapped and can be read on a dark background. A selected row is
+// seen as one band behind its texts, and the current cell has a frame.
 class HItemDelegate : public QItemDelegate
 {
     Q_OBJECT
@@ -10,7 +11,12 @@ class HItemDelegate : public QItemDelegate
 public:
     using QItemDelegate::QItemDelegate;
 
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+
 protected:
     void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
                      const QString &text) const override;
+    void drawFocus(QPainter *painter, const QStyleOptionViewItem &option,
+                   const QRect &rect) const override;
 };

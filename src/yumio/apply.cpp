@@ -30,8 +30,8 @@ Package::Entry *firstInstalled(Package::Entry *entry)
 bool YumIO::applyReal()
 {
     m_blocker.block();
-    Progress::User progressUser(m_progress, m_totalBar, m_itemBar);
-    YumIODialogsUser dialogsUser(m_dialogs, m_parent);
+    Progress::User progressUser(m_progress, m_surface.totalBar, m_surface.itemBar);
+    YumIODialogsUser dialogsUser(m_dialogs, m_surface.parent);
     log(Log::Kind::Action, 0, tr("Applying"));
 
     PyGILStateWrapper lock(true);

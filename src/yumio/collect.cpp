@@ -22,8 +22,8 @@ constexpr Steps actsPerRepo = 6;
 bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
 {
     m_blocker.block();
-    const Progress::User progressUser(m_progress, m_totalBar, m_itemBar);
-    const YumIODialogsUser dialogsUser(m_dialogs, m_parent);
+    const Progress::User progressUser(m_progress, m_surface.totalBar, m_surface.itemBar);
+    const YumIODialogsUser dialogsUser(m_dialogs, m_surface.parent);
     log(Log::Kind::Action, 0, tr("Initialization"));
     const PyGILStateWrapper lock(true);
     m_confirmation = {};

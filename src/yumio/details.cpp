@@ -492,8 +492,8 @@ bool YumIO::collectExtraReal(const QString &heading, const QString &total, const
                              const QString &what)
 {
     m_blocker.block();
-    const Progress::User progressUser(m_progress, m_totalBar, m_itemBar);
-    const YumIODialogsUser dialogsUser(m_dialogs, m_parent);
+    const Progress::User progressUser(m_progress, m_surface.totalBar, m_surface.itemBar);
+    const YumIODialogsUser dialogsUser(m_dialogs, m_surface.parent);
     log(Log::Kind::Action, 0, heading);
     const PyGILStateWrapper lock(true);
     m_metadata = {};

@@ -39,6 +39,42 @@ QString YumIO::getConditionalPkgs(const Package::Entry &entry)
     return hasDistribGroups() ? getGroupPkgs(entry, "", "conditional_packages") : QString();
 }
 
+QString YumIO::getGroupDescription(const Package::Entry &entry)
+{
+    const PyGILStateWrapper lock(true);
+    const PyRef text(entry.kind == Package::Kind::Group
+                         ? PyObject_GetAttrString(entry.po, "description")
+                         : nullptr);
+    PyErr_Clear();
+    return text ? pyString(text.get()) : QString();
+}
+
+// What an optional method of the script says about a package.
+QString YumIO::linesOf(const char *method, const Package::Entry &entry)
+{
+    const PyGILStateWrapper lock(true);
+    if (entry.kind == Package::Kind::Group || !m_session.yumIO ||
+        !PyObject_HasAttrString(m_session.yumIO, method))
+        return QString();
+    return textsOf(PyRef(pyMethodCall(m_session.yumIO, method, "(O)", entry.po)).get()).join(u'\n');
+}
+
+QString YumIO::getRequiredBy(const Package::Entry &entry)
+{
+    return linesOf("requiredBy", entry);
+}
+
+QString YumIO::getReplaced(const Package::Entry &entry)
+{
+    return linesOf("replaced", entry);
+}
+
+const Package::Entry *YumIO::packageNamed(const QString &name)
+{
+    const PyGILStateWrapper lock(true);
+    return findPackage(name);
+}
+
 QString YumIO::getGroupGrps(const Package::Entry &entry, const char *attribute)
 {
     if (hasDistribGroups())

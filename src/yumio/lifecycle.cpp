@@ -56,10 +56,13 @@ YumIO::~YumIO()
 
 void YumIO::setup(QWidget *parent, HProgressBar *totalBar, HProgressBar *itemBar)
 {
-    m_parent = parent;
-    m_totalBar = totalBar;
-    m_itemBar = itemBar;
+    m_surface = {parent, totalBar, itemBar};
     m_dialogs = new YumIODialogs(parent);
+}
+
+YumIO::Surface YumIO::exchangeSurface(const Surface &surface)
+{
+    return std::exchange(m_surface, surface);
 }
 
 // Reports what kept the session from starting. The interpreter's reason is in the log.

@@ -76,12 +76,22 @@ public:
         operator long() const;
     };
 
+    // Where jobs show themselves: the parent of every dialog, and the bars of their progress.
+    struct Surface
+    {
+        QWidget *parent = nullptr;
+        HProgressBar *totalBar = nullptr;
+        HProgressBar *itemBar = nullptr;
+    };
+
     YumIO();
     ~YumIO() override;
 
     // `parent` is the parent of every dialog; the bars show the progress of jobs. Call once, before
     // initialize.
     void setup(QWidget *parent, HProgressBar *totalBar, HProgressBar *itemBar);
+    // Lends another surface to the jobs that follow; returns the former, to be given back.
+    Surface exchangeSurface(const Surface &surface);
     // Starts the interpreter and the script. May be called again after a failure.
     bool initialize();
 
@@ -145,7 +155,13 @@ public:
     QString getDefaultPkgs(const Package::Entry &);
     QString getOptionalPkgs(const Package::Entry &);
     QString getConditionalPkgs(const Package::Entry &);
+    QString getGroupDescription(const Package::Entry &);
+    // Installed packages, a line each: those that require the package, and those that it replaces.
+    QString getRequiredBy(const Package::Entry &);
+    QString getReplaced(const Package::Entry &);
     QString getYumVar(const QString &name);
+    // The row of a package by its name, of the base architecture where it can be; null for none.
+    const Package::Entry *packageNamed(const QString &name);
     bool hasFileLists() const { return m_session.fileLists; }
     bool hasOtherData() const { return m_session.otherData; }
 
@@ -182,6 +198,8 @@ public:
 
     // Asks the running job to stop where it honestly can. Any thread.
     void cancel() { m_cancelled = true; }
+    // Whether that was asked of the present job or, between jobs, of the last.
+    bool wasCancelled() const { return m_cancelled; }
 
     static bool parseEnvra(const QString &envra, QString &name, QString &epoch, QString &version,
                            QString &release, QString &arch);
@@ -264,6 +282,7 @@ private:
     // details.cpp, groupdetails.cpp and convert.cpp
     bool collectExtraReal(const QString &heading, const QString &total, const char *method,
                           const QString &what);
+    QString linesOf(const char *method, const Package::Entry &entry);
     QString packageString(const Package::Entry &entry, const char *key);
     QStringList installedRelations(PyObject *po, const QByteArray &tag);
     QStringList availableRelations(PyObject *po, const char *key);
@@ -455,10 +474,7 @@ private:
     PyObject *confirmRemovals(PyObject *self, PyObject *args);
     PyObject *transactionReport(PyObject *self, PyObject *args);
 
-    // The window's, given once.
-    QWidget *m_parent = nullptr;
-    HProgressBar *m_totalBar = nullptr;
-    HProgressBar *m_itemBar = nullptr;
+    Surface m_surface;
 
     // The running job's.
     YumIODialogs *m_dialogs = nullptr;

@@ -139,7 +139,7 @@ private Q_SLOTS:
             }
         });
         rightClick(m_view->visualRect(cell(s("beta"), RepositoryColumn)).center());
-        QCOMPARE(shown, s("&Describe-Browse Repository-"));
+        QCOMPARE(shown, s("&Describe+Browse Repository+"));
     }
 
     // A package that is not listed decides the widths too, and the list stays as it is.

@@ -6,7 +6,7 @@ import dnf.goal
 import dnf.rpm
 import dnf.selector
 
-from . import packages, report
+from . import packages, relations, report
 
 UPDATABLE, INSTALLABLE, INSTALLED = 0, 1, 2  # states of a row
 
@@ -136,10 +136,7 @@ class Collection:
         for pkg in query.filterm(latest_per_arch_by_priority=True):
             if self.is_installed(pkg):
                 continue
-            names = [str(relation).split(" ")[0] for relation in pkg.obsoletes]
-            itself = self._sack.query().filterm(pkg=[pkg])
-            old = [str(one) for one in installed.filter(name=names)
-                   if one.name != pkg.name and itself.filter(obsoletes=[one])]
+            old = list(map(str, relations.replaced(self._sack, pkg)))
             if old:
                 report.log(2, "%s replaces the installed %s" % (pkg, ", ".join(old)))
 

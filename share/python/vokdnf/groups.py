@@ -21,12 +21,13 @@ class Group:
     member depends on (conditional members) or None. `installed` follows DNF's records, without one it
     says whether all mandatory members are there (a group without any is then not installed)."""
 
-    __slots__ = ("group_id", "name", "user_visible", "installed", "mandatory_packages",
+    __slots__ = ("group_id", "name", "description", "user_visible", "installed", "mandatory_packages",
                  "default_packages", "optional_packages", "conditional_packages")
 
     def __init__(self, group, recorded, installed_names):
         self.group_id = group.id
         self.name = report.clean(group.ui_name or group.name or group.id)
+        self.description = report.clean(group.ui_description or "")
         self.user_visible = bool(group.visible)
         kinds = {kind: {} for kind in (libcomps.PACKAGE_TYPE_MANDATORY, libcomps.PACKAGE_TYPE_DEFAULT,
                                        libcomps.PACKAGE_TYPE_OPTIONAL,

@@ -1,0 +1,422 @@
+#include "packagetable/describe.h"
+
+#include "app/fonts.h"
+#include "packagetable/describepage.h"
+#include "packagetable/filetree.h"
+#include "packagetable/icons.h"
+#include "progress/hprogressbar.h"
+#include "repo/repobrowse.h"
+#include "repo/yumconfio.h"
+#include "widgets/hscrollarea.h"
+#include "yumio/passwordsintext.h"
+#include "yumio/yumio.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QTimer>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace PackageTable::Describe {
+
+using Package::Entry;
+using Package::Kind;
+using Package::State;
+
+namespace {
+
+constexpr int filterDelayMs = 150;
+const QString geometryKey = QStringLiteral("describe/geometry");
+
+QSettings settings()
+{
+    return QSettings(QStringLiteral("VOK"), QStringLiteral("vok"));
+}
+
+QLabel *newLabel(const char *name, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setWordWrap(true);
+    return label;
+}
+
+QPushButton *newButton(const char *name, const QString &text, const QString &toolTip,
+                       QWidget *parent)
+{
+    auto *button = new QPushButton(text, parent);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(toolTip);
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
+
+Dialog::Dialog(QWidget *parent)
+    : HDialog(parent), m_runJob([](const std::function<void()> &work) {
+          work();
+          return true;
+      })
+{
+    setObjectName(QStringLiteral("describeDialog"));
+    setSizeGripEnabled(true);
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("tabs"));
+    m_tabs->setAccessibleName(tr("Pages"));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(createHead());
+    layout->addWidget(m_tabs, 1);
+    createPages();
+    layout->addWidget(createProgress());
+    layout->addLayout(createButtons());
+    connect(m_tabs, &QTabWidget::currentChanged, this, &Dialog::openPage);
+    // The texts keep these keys from the tabs.
+    const auto turn = [this](const QKeySequence &keys, int pages) {
+        auto *shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, m_tabs, [this, pages] {
+            const int count = m_tabs->count();
+            m_tabs->setCurrentIndex((m_tabs->currentIndex() + pages + count) % count);
+        });
+    };
+    turn(QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1);
+    turn(QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1);
+
+    resize(QFontMetrics(font()).averageCharWidth() * 112, QFontMetrics(font()).height() * 34);
+    restoreGeometry(settings().value(geometryKey).toByteArray());
+}
+
+Dialog::~Dialog() = default;
+
+QLayout *Dialog::createHead()
+{
+    m_icon = new QLabel(this);
+    m_icon->setObjectName(QStringLiteral("kindIcon"));
+    m_name = newLabel("nameLabel", this);
+    m_name->setFont(Fonts::makeHeader(m_name->font()));
+    m_facts = newLabel("factsLabel", this);
+    m_urlButton = newButton("urlButton", tr("Open &Web Page"), QString(), this);
+    m_browseButton = newButton("browseButton", tr("&Browse Repository"),
+                               tr("Show the files of the repository in the web browser"), this);
+    connect(m_urlButton, &QPushButton::clicked, this, &Dialog::openUrl);
+    connect(m_browseButton, &QPushButton::clicked, this, &Dialog::browseRepository);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_icon);
+    row->addWidget(m_name, 1);
+    row->addWidget(m_urlButton);
+    row->addWidget(m_browseButton);
+    auto *head = new QVBoxLayout;
+    head->addLayout(row);
+    head->addWidget(m_facts);
+    return head;
+}
+
+QPlainTextEdit *Dialog::newText(const char *name, const QString &accessibleName)
+{
+    auto *text = new QPlainTextEdit(this);
+    text->setObjectName(QLatin1String(name));
+    text->setAccessibleName(accessibleName);
+    text->setReadOnly(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setTabChangesFocus(true);
+    return text;
+}
+
+void Dialog::createPages()
+{
+    const auto add = [this](const QString &title, QWidget *content, Data data,
+                            void (Dialog::*fill)()) {
+        auto *page = new Page(content, this);
+        page->setObjectName(content->objectName() + QStringLiteral("Page"));
+        page->hide();
+        m_infos.push_back({page, title, data, fill});
+        connect(page, &Page::retryAsked, this, &Dialog::openPage);
+    };
+    m_description = newText("description", tr("Description"));
+    m_update = newText("update", tr("What the update changes"));
+    m_details = createDetails();
+    QWidget *members = createMembers();
+    m_relations = newText("relations", tr("Dependencies"));
+    QWidget *files = createFiles();
+    m_changes = newText("changes", tr("Change log"));
+    m_requiredBy = newText("requiredBy", tr("What requires it"));
+    add(tr("&Description"), m_description, Data::None, &Dialog::fillDescription);
+    add(tr("&Update"), m_update, Data::Other, &Dialog::fillUpdate);
+    add(tr("&Members"), members, Data::None, &Dialog::fillMembers);
+    add(tr("De&tails"), m_details, Data::None, &Dialog::fillDetails);
+    add(tr("Dep&endencies"), m_relations, Data::None, &Dialog::fillRelations);
+    add(tr("&Files"), files, Data::FileLists, &Dialog::fillFiles);
+    add(tr("Change &Log"), m_changes, Data::Other, &Dialog::fillChanges);
+    add(tr("&Required By"), m_requiredBy, Data::None, &Dialog::fillRequiredBy);
+}
+
+QWidget *Dialog::createDetails()
+{
+    auto *area = new HScrollArea(this);
+    area->setObjectName(QStringLiteral("details"));
+    area->setFrameShape(QFrame::NoFrame);
+    return area;
+}
+
+QWidget *Dialog::createFiles()
+{
+    auto *widget = new QWidget(this);
+    widget->setObjectName(QStringLiteral("files"));
+    m_fileFilter = new QLineEdit(widget);
+    m_fileFilter->setObjectName(QStringLiteral("fileFilter"));
+    m_fileFilter->setPlaceholderText(tr("Show the paths that hold this text"));
+    m_fileFilter->setAccessibleName(tr("Text in the path"));
+    m_fileFilter->setClearButtonEnabled(true);
+    m_fileCount = newLabel("fileCount", widget);
+    m_fileCount->setWordWrap(false);
+    m_files = new FileTreeModel(this);
+    m_fileTree = new QTreeView(widget);
+    m_fileTree->setObjectName(QStringLiteral("fileTree"));
+    m_fileTree->setAccessibleName(tr("Files"));
+    m_fileTree->setHeaderHidden(true);
+    m_fileTree->setUniformRowHeights(true);
+    m_fileTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_fileTree->setModel(m_files);
+
+    auto *copy = new QAction(tr("&Copy Paths"), m_fileTree);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &Dialog::copyFiles);
+    m_fileTree->addAction(copy);
+    m_fileTree->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+    // One search for a word that is typed, not one for each letter.
+    auto *delay = new QTimer(this);
+    delay->setSingleShot(true);
+    delay->setInterval(filterDelayMs);
+    connect(m_fileFilter, &QLineEdit::textChanged, delay, qOverload<>(&QTimer::start));
+    connect(delay, &QTimer::timeout, this, &Dialog::filterFiles);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_fileFilter, 1);
+    row->addWidget(m_fileCount);
+    auto *layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(row);
+    layout->addWidget(m_fileTree, 1);
+    return widget;
+}
+
+QWidget *Dialog::createMembers()
+{
+    m_members = new QTreeWidget(this);
+    m_members->setObjectName(QStringLiteral("members"));
+    m_members->setAccessibleName(tr("Members"));
+    m_members->setHeaderLabels({tr("Package"), tr("State"), tr("Version"), tr("Summary")});
+    m_members->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_members->setUniformRowHeights(true);
+    auto *copy = new QAction(tr("&Copy"), m_members);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &Dialog::copyMembers);
+    m_members->addAction(copy);
+    m_members->setContextMenuPolicy(Qt::ActionsContextMenu);
+    return m_members;
+}
+
+QWidget *Dialog::createProgress()
+{
+    m_progress = new QWidget(this);
+    m_totalBar = new HProgressBar(m_progress);
+    m_totalBar->setObjectName(QStringLiteral("describeTotalBar"));
+    m_totalBar->setAccessibleName(tr("Total progress"));
+    m_itemBar = new HProgressBar(m_progress);
+    m_itemBar->setObjectName(QStringLiteral("describeItemBar"));
+    m_itemBar->setAccessibleName(tr("Progress of the current step"));
+    m_cancelButton = newButton("describeCancelButton", tr("Ca&ncel"),
+                               tr("Stops loading; the dialog stays open"), m_progress);
+    connect(m_cancelButton, &QPushButton::clicked, this, [this] {
+        m_cancelButton->setEnabled(false);
+        m_yumIO->cancel();
+    });
+    auto *row = new QHBoxLayout(m_progress);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_totalBar, 1);
+    row->addWidget(m_itemBar, 1);
+    row->addWidget(m_cancelButton);
+    m_progress->hide();
+    return m_progress;
+}
+
+QLayout *Dialog::createButtons()
+{
+    m_previousButton =
+        newButton("previousButton", tr("&Previous"), tr("Describe the row above this one"), this);
+    m_nextButton =
+        newButton("nextButton", tr("Ne&xt"), tr("Describe the row below this one"), this);
+    m_closeButton = newButton("closeButton", tr("&Close"), QString(), this);
+    m_previousButton->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Up));
+    m_nextButton->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Down));
+    connect(m_previousButton, &QPushButton::clicked, this, [this] { Q_EMIT stepAsked(-1); });
+    connect(m_nextButton, &QPushButton::clicked, this, [this] { Q_EMIT stepAsked(1); });
+    connect(m_closeButton, &QPushButton::clicked, this, &QDialog::reject);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_previousButton);
+    row->addWidget(m_nextButton);
+    row->addStretch();
+    row->addWidget(m_closeButton);
+    return row;
+}
+
+void Dialog::config(YumIO *yumIO, Entry *entry, YumConfIO *yumConfIO)
+{
+    m_yumIO = yumIO;
+    m_yumConfIO = yumConfIO;
+    m_entry = entry;
+    m_closeAsked = false;
+    fillHead();
+    choosePages();
+    openPage();
+}
+
+void Dialog::setSteps(bool previous, bool next)
+{
+    m_hasPrevious = previous;
+    m_hasNext = next;
+    updateButtons();
+}
+
+// The pages that fit the row; the one that was open stays so.
+void Dialog::choosePages()
+{
+    const QSignalBlocker blocker(m_tabs);
+    QWidget *const open = m_tabs->currentWidget();
+    m_tabs->clear();
+    for (PageInfo &info : m_infos) {
+        info.page->setFilled(false);
+        if (hasPage(info))
+            m_tabs->addTab(info.page, info.title);
+    }
+    m_tabs->setCurrentIndex(qMax(0, m_tabs->indexOf(open)));
+}
+
+bool Dialog::hasPage(const PageInfo &info) const
+{
+    if (info.fill == &Dialog::fillMembers)
+        return isGroup();
+    if (info.fill == &Dialog::fillDescription || info.fill == &Dialog::fillDetails)
+        return true;
+    if (info.fill == &Dialog::fillUpdate)
+        return !isGroup() && m_entry->state == State::Updatable;
+    if (info.fill == &Dialog::fillRequiredBy)
+        return !isGroup() && m_entry->state != State::Installable;
+    return !isGroup();
+}
+
+void Dialog::openPage()
+{
+    if (!m_entry)
+        return;
+    for (PageInfo &info : m_infos) {
+        if (info.page == m_tabs->currentWidget() && !info.page->isFilled())
+            fillPage(info);
+    }
+}
+
+// While data load, the interpreter is not to be had.
+void Dialog::fillPage(PageInfo &info)
+{
+    if (m_loading) {
+        info.page->showMessage(tr("Other data are being loaded; this page follows."), false);
+        return;
+    }
+    if (!isLoaded(info.data) && !load(info))
+        return;
+    info.page->setFilled(true);
+    (this->*info.fill)();
+    info.page->showContent();
+}
+
+bool Dialog::isLoaded(Data data) const
+{
+    if (readsHeader())
+        return true;
+    return data == Data::None ||
+           (data == Data::FileLists ? m_yumIO->hasFileLists() : m_yumIO->hasOtherData());
+}
+
+// False, with the reason on the page, when there is nothing to show.
+bool Dialog::load(PageInfo &info)
+{
+    const bool files = info.data == Data::FileLists;
+    info.page->showMessage(files ? tr("Loading the file lists of the repositories...")
+                                 : tr("Loading the change logs of the repositories..."),
+                           false);
+    setLoading(true);
+    bool loaded = false;
+    const YumIO::Surface window = m_yumIO->exchangeSurface({this, m_totalBar, m_itemBar});
+    const bool ran = m_runJob(
+        [&] { loaded = files ? m_yumIO->collectFileLists() : m_yumIO->collectOtherData(); });
+    m_yumIO->exchangeSurface(window);
+    setLoading(false);
+    if (m_closeAsked) {
+        HDialog::done(QDialog::Rejected);
+        return false;
+    }
+    if (!loaded) {
+        QString reason = tr("Another operation is running.");
+        if (ran)
+            reason = m_yumIO->wasCancelled() ? tr("Loading was cancelled.")
+                                             : tr("They could not be loaded; the log says why.");
+        info.page->showMessage((files ? tr("The file lists are not loaded.\n%1")
+                                      : tr("The change logs are not loaded.\n%1"))
+                                   .arg(reason),
+                               true);
+        return false;
+    }
+    // The user may have gone to another page meanwhile.
+    if (m_tabs->currentWidget() != info.page)
+        QMetaObject::invokeMethod(this, &Dialog::openPage, Qt::QueuedConnection);
+    return true;
+}
+
+void Dialog::setLoading(bool loading)
+{
+    m_loading = loading;
+    m_cancelButton->setEnabled(loading);
+    m_progress->setVisible(loading);
+    updateButtons();
+}
+
+void Dialog::updateButtons()
+{
+    m_previousButton->setEnabled(m_hasPrevious && !m_loading);
+    m_nextButton->setEnabled(m_hasNext && !m_loading);
+    m_browseButton->setEnabled(!m_loading && isFromRepository());
+    m_urlButton->setEnabled(!m_loading && !m_url.isEmpty());
+}
+
+// A job that loads ends first.
+void Dialog::done(int result)
+{
+    settings().setValue(geometryKey, saveGeometry());
+    if (m_loading) {
+        m_closeAsked = true;
+        m_closeButton->setEnabled(false);
+        m_cancelButton->setEnabled(false);
+        m_yumIO->cancel();
+        return;
+    }
+    m_closeButton->setEnabled(true);
+    HDialog::done(result);
+}
+
+} // namespace PackageTable::Describe

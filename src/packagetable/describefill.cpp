@@ -1,0 +1,317 @@
+// What the pages of the description show.
+
+#include "packagetable/describe.h"
+
+#include "packagetable/filetree.h"
+#include "packagetable/icons.h"
+#include "repo/repobrowse.h"
+#include "repo/yumconfio.h"
+#include "widgets/hscrollarea.h"
+#include "yumio/passwordsintext.h"
+#include "yumio/yumio.h"
+
+#include <QClipboard>
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
+#include <QStyle>
+#include <QTreeView>
+#include <QTreeWidget>
+
+#include <algorithm>
+
+namespace PackageTable::Describe {
+
+using Package::Entry;
+using Package::Kind;
+using Package::State;
+
+namespace {
+
+constexpr int fewFiles = 500; // a tree of so many is shown with all folders open
+
+QStringList lines(const QString &text)
+{
+    return text.split(u'\n', Qt::SkipEmptyParts);
+}
+
+QStringList changes(const QString &log)
+{
+    static const QRegularExpression between(QStringLiteral("\n\n(?=\\* )"));
+    return log.split(between, Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+QString changesSince(const QString &newer, const QString &older)
+{
+    QSet<QString> known;
+    for (const QString &change : changes(older))
+        known.insert(change.trimmed());
+    QStringList found;
+    for (const QString &change : changes(newer)) {
+        if (!known.contains(change.trimmed()))
+            found.append(change.trimmed());
+    }
+    return found.join(QStringLiteral("\n\n"));
+}
+
+bool Dialog::isGroup() const
+{
+    return m_entry->kind == Kind::Group;
+}
+
+bool Dialog::readsHeader() const
+{
+    return m_entry->state == State::Installed;
+}
+
+// The installed version behind the row; null when there is none.
+const Entry *Dialog::installed() const
+{
+    switch (m_entry->state) {
+    case State::Updatable:
+        return m_entry->next;
+    case State::Installed:
+        return m_entry;
+    case State::Installable:
+        break;
+    }
+    return nullptr;
+}
+
+bool Dialog::isFromRepository() const
+{
+    return m_entry && m_yumConfIO &&
+           std::any_of(m_yumConfIO->repos.cbegin(), m_yumConfIO->repos.cend(),
+                       [this](const Repo::Entry &repo) { return repo.id == m_entry->repo; });
+}
+
+QString Dialog::shown(const QString &text) const
+{
+    return maskPasswords(text);
+}
+
+void Dialog::fillHead()
+{
+    setWindowTitle(tr("Description of %1").arg(shown(m_entry->name)));
+    const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
+    m_icon->setPixmap(
+        shareIcon(kindIconName(m_entry->kind)).pixmap(QSize(size, size), devicePixelRatio()));
+    m_icon->setToolTip(YumIO::getKind(m_entry->kind));
+    m_icon->setAccessibleName(YumIO::getKind(m_entry->kind));
+    m_name->setText(shown(m_entry->name));
+    QStringList facts;
+    if (!m_entry->verRel.isEmpty())
+        facts.append(tr("Version %1").arg(m_entry->verRel));
+    facts.append(YumIO::getState(m_entry->state));
+    if (!m_entry->repo.isEmpty() && m_entry->state != State::Installed)
+        facts.append(tr("Repository %1").arg(m_entry->repo));
+    QString text = facts.join(QStringLiteral(" \u00b7 "));
+    if (!m_entry->summary.isEmpty())
+        text = shown(m_entry->summary) + u'\n' + text;
+    m_facts->setText(text);
+    m_url = m_loading ? QString() : m_yumIO->getUrl(*m_entry);
+    m_urlButton->setVisible(!m_url.isEmpty());
+    m_urlButton->setToolTip(shown(m_url));
+    m_browseButton->setVisible(isFromRepository());
+    updateButtons();
+}
+
+void Dialog::fillDescription()
+{
+    const QString text =
+        isGroup() ? m_yumIO->getGroupDescription(*m_entry) : m_yumIO->getDescription(*m_entry);
+    m_description->setPlainText(text.isEmpty() ? tr("There is no description.") : shown(text));
+}
+
+void Dialog::fillDetails()
+{
+    auto *widget = new QWidget;
+    auto *form = new QFormLayout(widget);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    const auto add = [&](const QString &title, const QString &text) {
+        if (text.isEmpty())
+            return;
+        auto *value = new QLabel(shown(text), widget);
+        value->setTextFormat(Qt::PlainText);
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        value->setWordWrap(true);
+        value->setAccessibleName(title);
+        form->addRow(new QLabel(title, widget), value);
+    };
+    const Entry &entry = *m_entry;
+    add(tr("Name:"), entry.name);
+    add(tr("Kind:"), YumIO::getKind(entry.kind));
+    add(tr("State:"), YumIO::getState(entry.state));
+    add(tr("Version:"), entry.verRel);
+    QStringList versions;
+    for (const Entry *version = entry.next; version; version = version->next)
+        versions.append((version->state == State::Installed ? tr("%1 (installed)") : tr("%1"))
+                            .arg(version->verRel));
+    add(tr("Other versions:"), versions.join(u'\n'));
+    add(tr("Repository:"), entry.repo);
+    add(tr("Architecture:"), entry.arch);
+    if (!isGroup()) {
+        add(tr("Size:"), tr("%1 (%L2 bytes)").arg(entry.sizeText).arg(entry.size));
+        add(tr("Summary:"), entry.summary);
+        add(tr("Group:"), m_yumIO->getGroup(entry));
+        add(tr("License:"), m_yumIO->getLicense(entry));
+        add(tr("URL:"), m_yumIO->getUrl(entry));
+        add(tr("Vendor:"), m_yumIO->getVendor(entry));
+        add(tr("Packager:"), m_yumIO->getPackager(entry));
+        add(tr("Build time:"), entry.buildTimeText);
+        add(tr("Build host:"), m_yumIO->getBuildHost(entry));
+        add(tr("Install time:"), m_yumIO->getInstallTime(entry));
+        add(tr("Package file:"), m_yumIO->getBinaryRpm(entry));
+        add(tr("Source package:"), m_yumIO->getSourceRpm(entry));
+        add(tr("Relocations:"), m_yumIO->getRelocations(entry));
+    }
+    static_cast<HScrollArea *>(m_details)->setWidget(widget);
+}
+
+void Dialog::fillRelations()
+{
+    QStringList sections;
+    const auto add = [&](const QString &title, const QString &text) {
+        if (!text.isEmpty())
+            sections.append(title + QStringLiteral("\n    ") +
+                            lines(text).join(QStringLiteral("\n    ")));
+    };
+    const Entry &entry = *m_entry;
+    add(tr("Provides:"), m_yumIO->getProvides(entry));
+    add(tr("Requires:"), m_yumIO->getRequires(entry));
+    add(tr("Conflicts with:"), m_yumIO->getConflicts(entry));
+    add(tr("Obsoletes:"), m_yumIO->getObsoletes(entry));
+    if (entry.state != State::Installed)
+        add(tr("Replaces the installed:"), m_yumIO->getReplaced(entry));
+    m_relations->setPlainText(sections.isEmpty() ? tr("There are none.")
+                                                 : shown(sections.join(QStringLiteral("\n\n"))));
+}
+
+void Dialog::fillFiles()
+{
+    m_fileFilter->clear();
+    m_files->setFilter(QString());
+    m_files->setPaths(lines(m_yumIO->getFiles(*m_entry)));
+    filterFiles();
+}
+
+void Dialog::filterFiles()
+{
+    m_files->setFilter(m_fileFilter->text());
+    const int count = m_files->fileCount();
+    m_fileCount->setText(m_files->shownCount() == count
+                             ? tr("%L1 files").arg(count)
+                             : tr("%L1 of %L2 files").arg(m_files->shownCount()).arg(count));
+    if (m_files->shownCount() <= fewFiles)
+        m_fileTree->expandAll();
+    else
+        m_fileTree->expandToDepth(0);
+}
+
+void Dialog::copyFiles()
+{
+    QModelIndexList rows = m_fileTree->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end(), [](const QModelIndex &left, const QModelIndex &right) {
+        return FileTreeModel::pathOf(left) < FileTreeModel::pathOf(right);
+    });
+    QStringList paths;
+    for (const QModelIndex &row : std::as_const(rows))
+        paths.append(FileTreeModel::pathOf(row));
+    QGuiApplication::clipboard()->setText(paths.join(u'\n'));
+}
+
+void Dialog::fillChanges()
+{
+    const QString text = m_yumIO->getChangeLog(*m_entry);
+    m_changes->setPlainText(text.isEmpty() ? tr("There is no change log.") : shown(text));
+}
+
+void Dialog::fillRequiredBy()
+{
+    const QString text = m_yumIO->getRequiredBy(*installed());
+    m_requiredBy->setPlainText(text.isEmpty() ? tr("Nothing that is installed requires it.")
+                                              : shown(text));
+}
+
+void Dialog::fillUpdate()
+{
+    const Entry &entry = *m_entry;
+    QStringList texts;
+    for (const Entry *old = entry.next; old; old = old->next)
+        texts.append(tr("Version: %1 becomes %2").arg(old->verRel, entry.verRel));
+    if (const Entry *old = installed()) {
+        if (old->arch != entry.arch)
+            texts.append(tr("Architecture: %1 becomes %2").arg(old->arch, entry.arch));
+        texts.append(
+            tr("Size: %1 installed now, %2 to download").arg(old->sizeText, entry.sizeText));
+        const QString found =
+            changesSince(m_yumIO->getChangeLog(entry), m_yumIO->getChangeLog(*old));
+        texts.append(found.isEmpty()
+                         ? tr("\nThe change log has nothing new.")
+                         : tr("\nChanges since the installed version:\n\n%1").arg(found));
+    }
+    m_update->setPlainText(shown(texts.join(u'\n')));
+}
+
+void Dialog::fillMembers()
+{
+    m_members->clear();
+    const auto add = [&](const QString &title, const QString &names) {
+        const QStringList members = lines(names);
+        if (members.isEmpty())
+            return;
+        auto *section =
+            new QTreeWidgetItem(m_members, {tr("%1 (%2)").arg(title).arg(members.size())});
+        section->setFirstColumnSpanned(true);
+        for (const QString &name : members) {
+            const Entry *member = m_yumIO->packageNamed(name);
+            auto *item = new QTreeWidgetItem(
+                section, member ? QStringList{name, YumIO::getState(member->state), member->verRel,
+                                              shown(member->summary)}
+                                : QStringList{name, tr("Not available")});
+            if (member)
+                item->setIcon(0, shareIcon(kindIconName(member->kind)));
+        }
+    };
+    const Entry &entry = *m_entry;
+    add(tr("Groups"), m_yumIO->getRequiredGroups(entry));
+    add(tr("Mandatory packages"), m_yumIO->getMandatoryPkgs(entry));
+    add(tr("Default packages"), m_yumIO->getDefaultPkgs(entry));
+    add(tr("Optional packages"), m_yumIO->getOptionalPkgs(entry));
+    add(tr("Conditional packages"), m_yumIO->getConditionalPkgs(entry));
+    m_members->expandAll();
+    for (int column = 0; column < m_members->columnCount(); ++column)
+        m_members->resizeColumnToContents(column);
+}
+
+void Dialog::copyMembers()
+{
+    QStringList rows;
+    for (QTreeWidgetItemIterator item(m_members, QTreeWidgetItemIterator::Selected); *item;
+         ++item) {
+        QStringList cells;
+        for (int column = 0; column < m_members->columnCount(); ++column)
+            cells.append((*item)->text(column));
+        rows.append(cells.join(u'\t').trimmed());
+    }
+    QGuiApplication::clipboard()->setText(rows.join(u'\n'));
+}
+
+void Dialog::browseRepository()
+{
+    RepoBrowse::browse(this, m_entry->repo, m_yumIO, m_yumConfIO);
+}
+
+void Dialog::openUrl()
+{
+    RepoBrowse::open(this, m_url);
+}
+
+} // namespace PackageTable::Describe

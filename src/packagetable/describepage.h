@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QStackedWidget>
+
+class QLabel;
+class QPushButton;
+
+namespace PackageTable::Describe {
+
+// One page of the description: its content, or a line that says why there is none yet, with a button
+// to try again where trying can help.
+class Page : public QStackedWidget
+{
+    Q_OBJECT
+
+public:
+    Page(QWidget *content, QWidget *parent);
+
+    void showContent();
+    void showMessage(const QString &text, bool canRetry);
+    // Whether the content stands for the present package.
+    bool isFilled() const { return m_filled; }
+    void setFilled(bool filled) { m_filled = filled; }
+
+Q_SIGNALS:
+    void retryAsked();
+
+private:
+    QWidget *m_message;
+    QLabel *m_text;
+    QPushButton *m_retry;
+    bool m_filled = false;
+};
+
+} // namespace PackageTable::Describe
