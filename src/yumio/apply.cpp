@@ -189,10 +189,8 @@ Package::Kind YumIO::getPkgKind(PyObject *po)
 
 namespace {
 
-bool hasNotStarted(const Package::Entry *entry, Package::Action action)
+bool anyNotStarted(const Package::Entry *entry)
 {
-    if (entry->applyAction != action)
-        return false;
     while (entry && entry->started)
         entry = entry->next;
     return entry;
@@ -202,12 +200,17 @@ bool hasNotStarted(const Package::Entry *entry, Package::Action action)
 
 bool YumIO::hasNotStartedUpdate(Package::Entry *entry)
 {
-    return hasNotStarted(entry, Package::Action::Update);
+    return entry->applyAction == Package::Action::Update && anyNotStarted(entry);
 }
 
 bool YumIO::hasNotStartedRemove(Package::Entry *entry)
 {
-    return hasNotStarted(entry, Package::Action::Remove);
+    return entry->applyAction == Package::Action::Remove && anyNotStarted(entry);
+}
+
+bool YumIO::hasInstalledToRemove(Package::Entry *entry)
+{
+    return entry->applyAction == Package::Action::Remove && anyNotStarted(firstInstalled(entry));
 }
 
 PyObject *YumIO::gpgsigcheck(PyObject *, PyObject *)

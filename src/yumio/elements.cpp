@@ -152,6 +152,9 @@ void YumIO::startErase(const QString &name, bool mayBeUpdate, Steps total,
 {
     Package::Entry *row = mayBeUpdate ? findPackage(name, &YumIO::hasNotStartedUpdate) : nullptr;
     const bool isUpdate = row;
+    // Of two architectures the one that is through gives way to the other.
+    if (!row)
+        row = findPackage(name, &YumIO::hasInstalledToRemove);
     if (!row)
         row = findPackage(name, &YumIO::hasNotStartedRemove);
     if (!row) {

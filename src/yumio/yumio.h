@@ -327,6 +327,8 @@ private:
     QString getLocalHdr(PyObject *po);
     bool hasNotStartedUpdate(Package::Entry *entry);
     bool hasNotStartedRemove(Package::Entry *entry);
+    // Of a row that could be updated instead, the row itself does not count.
+    bool hasInstalledToRemove(Package::Entry *entry);
 
     // outdated.cpp
     bool findOutdated();

@@ -76,6 +76,9 @@ RULES = [
          "and is recorded so; dnf is told to remove it by itself.", _removed_with_group),
     Rule("shared member", "Of two groups with a member, one is removed and one installed: VOK removes what "
          "is there, dnf installs it again.", _shared),
+    Rule("unlisted removal", "VOK records what rpm removes beside the transaction, once it was agreed to; "
+         "dnf never learns it.",
+         lambda line, step: "unlisted" in step.kinds and line.startswith("records: only VOK remove ")),
     Rule("twin by upgrade", "dnf's upgrade of one architecture fails where the installation of the same "
          "package takes both.",
          lambda line, step: line.startswith("dnf upgrade leaves out libtwin")),

@@ -33,7 +33,7 @@ class Box(collections.namedtuple("Box", "title text buttons")):
             for words, kind in (("It can be done by removing:", "removing"),
                                 ("The rest can be done without:", "skipping"),
                                 ("cannot be there together with:", "losing"),
-                                ("rpm would also remove", "unlisted")):
+                                ("It would also remove what", "unlisted")):
                 if words in text:
                     return kind
             if self.title == "VOK Key Import":
