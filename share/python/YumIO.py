@@ -19,7 +19,8 @@ import yum  # noqa: F401,E402
 import yum.Errors  # noqa: F401,E402
 
 from vokdnf import base, clean, collection, errors, groups, interrupted, locks  # noqa: E402
-from vokdnf import otherdata, packages, relations, report, transaction, tsinfo  # noqa: E402
+from vokdnf import otherdata, packages, relations, report, searchtexts, transaction  # noqa: E402
+from vokdnf import tsinfo  # noqa: E402
 
 import dnf.drpm  # noqa: E402
 
@@ -142,6 +143,17 @@ class YumIO:
         """Makes the change logs of available packages readable."""
         otherdata.load_change_logs(self._session)
         return True
+
+    def searchTexts(self, pos, files, changes):
+        """Optional: what a search reads of a sequence of package objects, read as the result is iterated;
+        for each one bytes object, see vokdnf.searchtexts.read. `files` and `changes` say whether the file
+        lists and change logs of available packages are loaded."""
+        return searchtexts.read(self._session, pos, files, changes)
+
+    def searchCaches(self):
+        """Optional: {repository: (path of a file in the cache, identity)} of the repositories whose texts of
+        searchTexts may be kept in that file as long as the identity (bytes) is the same."""
+        return self._session.search_caches()
 
     def requiredPkgs(self, name):
         """List of package names that marking the group member `name` stands for."""

@@ -8,9 +8,11 @@
 #include "widgets/hframelabel.h"
 #include "yumio/yumio.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 #include <optional>
 
@@ -19,8 +21,9 @@ bool MainWindow::isSearchMode() const
     return m_modeCombo->currentIndex() == int(PackageTable::Mode::Search);
 }
 
-// A search asks the engine for every package, which takes its time; a filter does not.
-void MainWindow::changeFilter(const std::function<void()> &change)
+// A search asks the engine for every package, in a job; a filter does not. When it is cancelled, the
+// control that started it goes back.
+void MainWindow::changeFilter(const PackageTable::Query &query, const std::function<void()> &change)
 {
     if (m_busy && isSearchMode())
         return;
@@ -28,10 +31,28 @@ void MainWindow::changeFilter(const std::function<void()> &change)
         std::optional<Job> job;
         if (isSearchMode())
             job.emplace(this);
-        change();
-        noteUnseen();
+        if (loadExtraData(query))
+            change();
+        if (m_cancelAsked || m_proxy->wasCancelled()) {
+            showFilters();
+            note(tr("The search was cancelled; the table is as before."));
+        } else {
+            noteUnseen();
+        }
     }
     anyFilterChanged();
+}
+
+// Makes the controls show what decides about the rows. What was typed stays.
+void MainWindow::showFilters()
+{
+    const QSignalBlocker modeBlocker(m_modeCombo), stateBlocker(m_stateCombo);
+    const QSignalBlocker dupsBlocker(m_dupsCheck), groupsBlocker(m_groupsCheck);
+    m_modeCombo->setCurrentIndex(int(m_proxy->query().mode));
+    m_stateCombo->setCurrentIndex(int(m_proxy->stateFilter()));
+    m_dupsCheck->setChecked(m_proxy->dupsFilter());
+    m_groupsCheck->setChecked(m_proxy->groupsFilter());
+    showMode();
 }
 
 bool MainWindow::lacksExtraData(const PackageTable::Query &query) const
@@ -40,32 +61,38 @@ bool MainWindow::lacksExtraData(const PackageTable::Query &query) const
            !(m_yumIO->hasFileLists() && m_yumIO->hasOtherData());
 }
 
-// Sees to it that a query finds what it reads. False when nothing shall be asked any more, because
-// the program ends.
+// Sees to it that a query finds what it reads, as far as that can be loaded. False when the user
+// cancelled it, or the program ends.
 bool MainWindow::loadExtraData(const PackageTable::Query &query)
 {
-    if (!lacksExtraData(query))
-        return true;
-    // Who cancels the first wants none of it, and what keeps it from loading keeps the other too.
-    if (m_yumIO->collectFileLists() && !m_quitAsked)
+    if (!lacksExtraData(query) || m_quitAsked)
+        return !m_quitAsked;
+    // What keeps the one from loading keeps the other too.
+    if (m_yumIO->collectFileLists() && !m_cancelAsked && !m_quitAsked)
         m_yumIO->collectOtherData();
-    return !m_quitAsked;
+    return !m_cancelAsked && !m_quitAsked;
 }
 
+// Says what a search could not look into.
 void MainWindow::noteUnseen()
 {
-    if (lacksExtraData(m_proxy->query()))
-        note(tr("Not all data were loaded: the search has not seen every file list and change "
-                "log."));
+    if (!lacksExtraData(m_proxy->query()))
+        return;
+    note(m_yumIO->hasFileLists()
+             ? tr("The search has not seen the change logs of available packages: they were not "
+                  "loaded.")
+         : m_yumIO->hasOtherData()
+             ? tr("The search has not seen the file lists of available packages: they were not "
+                  "loaded.")
+             : tr("The search has not seen the file lists and change logs of available packages: "
+                  "they were not loaded."));
 }
 
 void MainWindow::filtersearch()
 {
-    changeFilter([this] {
-        const QString pattern = m_regexpEdit->text();
-        if (loadExtraData({m_proxy->query().mode, pattern}))
-            m_proxy->setFilterRegExp(pattern);
-    });
+    const QString pattern = m_regexpEdit->text();
+    changeFilter({m_proxy->query().mode, pattern},
+                 [this, pattern] { m_proxy->setFilterRegExp(pattern); });
 }
 
 void MainWindow::showMode()
@@ -86,27 +113,26 @@ void MainWindow::showMode()
 void MainWindow::modeChanged(int mode)
 {
     showMode();
-    changeFilter([this, mode] {
-        const PackageTable::Query query(PackageTable::Mode(mode), m_proxy->query().pattern);
-        if (loadExtraData(query))
-            m_proxy->setMode(query.mode);
-    });
+    const PackageTable::Query query(PackageTable::Mode(mode), m_proxy->query().pattern);
+    changeFilter(query, [this, query] { m_proxy->setMode(query.mode); });
 }
 
+// The other controls load nothing: what they show rests on what the search has seen.
 void MainWindow::stateFilterChanged(int stateFilter)
 {
-    changeFilter(
-        [this, stateFilter] { m_proxy->setStateFilter(PackageTable::StateFilter(stateFilter)); });
+    changeFilter({}, [this, stateFilter] {
+        m_proxy->setStateFilter(PackageTable::StateFilter(stateFilter));
+    });
 }
 
 void MainWindow::dupsFilterChanged(int state)
 {
-    changeFilter([this, state] { m_proxy->setDupsFilter(state != 0); });
+    changeFilter({}, [this, state] { m_proxy->setDupsFilter(state != 0); });
 }
 
 void MainWindow::groupsFilterChanged(int state)
 {
-    changeFilter([this, state] { m_proxy->setGroupsFilter(state != 0); });
+    changeFilter({}, [this, state] { m_proxy->setGroupsFilter(state != 0); });
 }
 
 void MainWindow::anyFilterChanged()

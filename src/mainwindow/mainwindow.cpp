@@ -160,13 +160,21 @@ void MainWindow::collect(Refresh why)
                  ? tr("The packages were not collected again; the table is as before.")
                  : tr("The packages were not collected. Refresh tries again."));
 
-    // A search that is installed has data to wait for, which the collection has not loaded.
-    const bool waits = collected && lacksExtraData(m_proxy->query());
-    m_proxy->setWaiting(waits);
+    // A search that is installed waits for its data, and is a job of its own. No row is listed
+    // before it has ended.
+    const bool searches = m_proxy->query().readsExtraData() && m_yumIO->count() > 0;
+    if (searches)
+        m_proxy->wait();
     m_model->reset();
-    if (waits && loadExtraData(m_proxy->query()))
-        m_proxy->setWaiting(false);
-    noteUnseen();
+    if (!searches || m_quitAsked)
+        return;
+    m_cancelAsked = false; // that was the collection
+    if (loadExtraData(m_proxy->query()))
+        m_proxy->judge();
+    if (m_cancelAsked || m_proxy->wasCancelled())
+        note(tr("The search was cancelled. The table lists nothing until it has been run."));
+    else
+        noteUnseen();
 }
 
 // What was marked and is done now has no mark any more, which needs no words.

@@ -119,10 +119,11 @@ private:
 
     // filters.cpp
     bool isSearchMode() const;
-    void changeFilter(const std::function<void()> &change);
+    void changeFilter(const PackageTable::Query &query, const std::function<void()> &change);
+    void showFilters();
+    void noteUnseen();
     bool lacksExtraData(const PackageTable::Query &query) const;
     bool loadExtraData(const PackageTable::Query &query);
-    void noteUnseen();
     void anyFilterChanged();
     void warnUnlistedActions();
     void showMode();
@@ -158,9 +159,10 @@ private:
     bool m_geometryKept = false; // the user has chosen the window's size
     bool m_engineReady = false;
     bool m_initialized = false;
-    bool m_busy = false;       // a job runs
-    bool m_busyCursor = false; // the busy cursor is set
-    bool m_canCancel = false;  // the running job can be cancelled now
+    bool m_busy = false;        // a job runs
+    bool m_busyCursor = false;  // the busy cursor is set
+    bool m_canCancel = false;   // the running job can be cancelled now
+    bool m_cancelAsked = false; // the running job shall be cancelled
     QPointer<QWidget> m_focusBeforeJob;
     bool m_inTransaction = false; // rpm is at work
     bool m_rpmBegan = false;      // in the running job

@@ -57,6 +57,7 @@ MainWindow::Job::~Job()
         return;
     m_window->jobState(QStringLiteral("done"), false);
     m_window->m_busy = false;
+    m_window->m_cancelAsked = false;
     if (m_window->m_quitAsked) {
         if (!m_window->m_dialogRuns)
             m_window->finish();
@@ -101,7 +102,9 @@ void MainWindow::cancel()
 {
     if (!m_busy || m_finished)
         return;
+    m_cancelAsked = true;
     m_cancelButton->setEnabled(false);
+    tell(tr("Cancelling the running operation."));
     m_yumIO->cancel();
 }
 

@@ -11,6 +11,7 @@ struct Query
 {
     Query() = default;
     Query(Mode mode, const QString &pattern);
+    bool operator==(const Query &other) const = default;
 
     bool isEmpty() const { return pattern.isEmpty(); }
     // Whether file lists and change logs are among what it is compared with.

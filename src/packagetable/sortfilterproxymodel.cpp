@@ -1,6 +1,7 @@
 #include "packagetable/sortfilterproxymodel.h"
 
 #include "packagetable/model.h"
+#include "yumio/expression.h"
 #include "yumio/yumio.h"
 
 #include <QStringEncoder>
@@ -25,25 +26,16 @@ void appendUtf8(QByteArray &bytes, QStringView text)
     bytes.truncate(end - bytes.constData());
 }
 
-template <typename T> bool changed(T &member, T value)
-{
-    return std::exchange(member, value) != value;
-}
-
 } // namespace
 
 SortFilterProxyModel::SortFilterProxyModel(StateFilter stateFilter, bool dups, bool groups,
                                            YumIO *yumIO, QObject *parent)
-    : HSortFilterProxyModel(NameColumn, parent), m_stateFilter(stateFilter), m_dups(dups),
-      m_groups(groups), m_yumIO(yumIO)
+    : HSortFilterProxyModel(NameColumn, parent), m_rules{stateFilter, dups, groups}, m_yumIO(yumIO),
+      m_expression(std::make_unique<Expression>(QString()))
 {
 }
 
-SortFilterProxyModel::~SortFilterProxyModel()
-{
-    if (m_regexStatus == 0)
-        regfree(&m_regex);
-}
+SortFilterProxyModel::~SortFilterProxyModel() = default;
 
 void SortFilterProxyModel::setSourceModel(HAbstractTableModel *model)
 {
@@ -61,66 +53,74 @@ void SortFilterProxyModel::setSourceModel(HAbstractTableModel *model)
 
 void SortFilterProxyModel::setMode(Mode mode)
 {
-    if (changed(m_query.mode, mode))
-        clear();
+    m_cancelled = false;
+    if (mode == m_query.mode)
+        return;
+    m_cancelled = !change(Query(mode, m_query.pattern), m_rules);
+    if (!m_cancelled)
+        HSortFilterProxyModel::clear();
+}
+
+void SortFilterProxyModel::setRules(const Rules &rules)
+{
+    m_cancelled = false;
+    if (rules == m_rules)
+        return;
+    m_cancelled = !change(m_query, rules);
+    if (!m_cancelled)
+        HSortFilterProxyModel::clear();
 }
 
 void SortFilterProxyModel::setStateFilter(StateFilter stateFilter)
 {
-    if (changed(m_stateFilter, stateFilter))
-        clear();
+    setRules({stateFilter, m_rules.dups, m_rules.groups});
 }
 
 void SortFilterProxyModel::setDupsFilter(bool dups)
 {
-    if (changed(m_dups, dups))
-        clear();
+    setRules({m_rules.state, dups, m_rules.groups});
 }
 
 void SortFilterProxyModel::setGroupsFilter(bool groups)
 {
-    if (changed(m_groups, groups))
-        clear();
+    setRules({m_rules.state, m_rules.dups, groups});
 }
 
 void SortFilterProxyModel::setFilter(bool filter)
 {
-    if (changed(m_filter, filter))
+    if (std::exchange(m_filter, filter) != filter)
         clear();
 }
 
-void SortFilterProxyModel::setWaiting(bool waiting)
+void SortFilterProxyModel::wait()
 {
-    if (changed(m_waiting, waiting))
-        clear();
+    m_waiting = true;
+    HSortFilterProxyModel::clear();
+}
+
+void SortFilterProxyModel::judge()
+{
+    m_cancelled = !change(m_query, m_rules);
+    if (!m_cancelled)
+        HSortFilterProxyModel::clear();
 }
 
 void SortFilterProxyModel::setFilterRegExp(const QString &pattern)
 {
-    m_query = Query(m_query.mode, pattern);
-    if (m_regexStatus == 0)
-        regfree(&m_regex);
-    m_regexStatus =
-        regcomp(&m_regex, m_query.pattern.toUtf8().constData(), REG_EXTENDED | REG_NOSUB);
-
-    const QRegularExpression expression(m_query.pattern);
-    if (expression != filterRegExp() || (m_query.readsExtraData() && m_basis != loaded()))
-        clearCache();
-    judgeAll();
-    HSortFilterProxyModel::setFilterRegExp(expression);
+    m_cancelled = !change(Query(m_query.mode, pattern), m_rules);
+    if (!m_cancelled)
+        HSortFilterProxyModel::setFilterRegExp(QRegularExpression(m_query.pattern));
 }
 
 void SortFilterProxyModel::clear()
 {
     clearCache();
-    judgeAll();
-    HSortFilterProxyModel::clear();
+    judge();
 }
 
 void SortFilterProxyModel::clearCache()
 {
-    m_acceptCache.clear();
-    m_basis = loaded();
+    m_verdicts.clear();
 }
 
 SortFilterProxyModel::Basis SortFilterProxyModel::loaded() const
@@ -137,19 +137,52 @@ void SortFilterProxyModel::sourceAboutToBeReset()
     m_rankedColumn = -1;
     m_nameRanks.clear();
     clearCache();
-    judgeAll();
+    if (!m_waiting)
+        m_cancelled = !change(m_query, m_rules);
 }
 
-// A search asks the engine, which may show a failure in a dialog: that must not happen while the
-// base builds its mapping, so the verdicts are there before.
-void SortFilterProxyModel::judgeAll()
+// Takes over other settings once all that they concern are judged; false when that was cancelled.
+bool SortFilterProxyModel::change(const Query &query, const Rules &rules)
 {
-    if (!m_sourcePackageModel)
-        return;
-    const int count = m_sourcePackageModel->rowCount();
-    m_acceptCache.reserve(count);
-    for (int row = 0; row < count; ++row)
-        filterAcceptsRow(row, {});
+    if (query != m_query || (query.readsExtraData() && m_basis != loaded())) {
+        auto expression = std::make_unique<const Expression>(query.pattern);
+        Verdicts verdicts;
+        if (!judge(query, rules, *expression, verdicts))
+            return false;
+        m_query = query;
+        m_expression = std::move(expression);
+        m_verdicts = std::move(verdicts);
+        m_basis = loaded();
+    } else if (!judge(query, rules, *m_expression, m_verdicts)) {
+        return false;
+    }
+    m_rules = rules;
+    m_waiting = false;
+    return true;
+}
+
+// Finds out what the expression says of the entries that the rules let through. All at once and
+// before the base builds its mapping, because a search is a job.
+bool SortFilterProxyModel::judge(const Query &query, const Rules &rules,
+                                 const Expression &expression, Verdicts &verdicts) const
+{
+    if (!m_sourcePackageModel || !m_filter || query.isEmpty())
+        return true;
+    QList<const Entry *> unknown;
+    for (const Entry *entry : *m_yumIO) {
+        if (rules.accept(*entry) && !verdicts.contains(entry))
+            unknown.append(entry);
+    }
+    verdicts.reserve(verdicts.size() + unknown.size());
+    if (query.mode == Mode::Filter) {
+        for (const Entry *entry : std::as_const(unknown))
+            verdicts.insert(entry, acceptTexts(*entry, expression));
+        return true;
+    }
+    const auto found = m_yumIO->search(query.pattern, unknown);
+    for (qsizetype i = 0; found && i < unknown.size(); ++i)
+        verdicts.insert(unknown[i], found->at(i));
+    return found.has_value();
 }
 
 // Null for a row that the engine does not have any more.
@@ -167,41 +200,38 @@ bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &) 
     const Entry *entry = entryAt(sourceRow);
     if (!entry)
         return false;
-    if (const auto known = m_acceptCache.constFind(entry); known != m_acceptCache.cend())
+    if (!m_rules.accept(*entry))
+        return false;
+    if (m_query.isEmpty())
+        return true;
+    if (const auto known = m_verdicts.constFind(entry); known != m_verdicts.cend())
         return *known;
-    const bool accepted = acceptRow(entry);
-    m_acceptCache.insert(entry, accepted);
-    return accepted;
+    // Only what a cancelled search has left is unknown.
+    return m_query.mode == Mode::Filter && acceptTexts(*entry, *m_expression);
 }
 
-bool SortFilterProxyModel::acceptRow(const Entry *entry) const
+bool SortFilterProxyModel::Rules::accept(const Entry &entry) const
 {
-    switch (m_stateFilter) {
+    switch (state) {
     case StateFilter::Updatable:
-        if (entry->state != State::Updatable)
+        if (entry.state != State::Updatable)
             return false;
         break;
     case StateFilter::Installable:
-        if (entry->state != State::Installable)
+        if (entry.state != State::Installable)
             return false;
         break;
     case StateFilter::Removable:
-        if (entry->state == State::Installable)
+        if (entry.state == State::Installable)
             return false;
         break;
     case StateFilter::All:
         break;
     }
-    if (!m_dups && entry->duplicate)
-        return false;
-    if (!m_groups && entry->kind == Kind::Group)
-        return false;
-    if (m_query.isEmpty())
-        return true;
-    return m_query.mode == Mode::Search ? acceptFields(*entry) : acceptTexts(*entry);
+    return (dups || !entry.duplicate) && (groups || entry.kind != Kind::Group);
 }
 
-bool SortFilterProxyModel::acceptTexts(const Entry &entry) const
+bool SortFilterProxyModel::acceptTexts(const Entry &entry, const Expression &expression) const
 {
     m_rowText.resize(0); // keeps its memory for the next row
     for (int column = NameColumn; column < ColumnCount; ++column) {
@@ -212,54 +242,12 @@ bool SortFilterProxyModel::acceptTexts(const Entry &entry) const
             m_rowText.append(' ');
         appendUtf8(m_rowText, text);
     }
-    return matches(m_rowText.constData());
-}
-
-// The cheap fields come first, and a field is asked for only when none before it matched.
-bool SortFilterProxyModel::acceptFields(const Entry &entry) const
-{
-    using Getter = QString (YumIO::*)(const Entry &);
-    using SimpleGetter = QString (YumIO::*)(const Entry &) const;
-    const auto found = [&](auto getter) { return matches((m_yumIO->*getter)(entry)); };
-    const auto anySimple = [&](std::initializer_list<SimpleGetter> getters) {
-        return std::any_of(getters.begin(), getters.end(), found);
-    };
-    const auto any = [&](std::initializer_list<Getter> getters) {
-        return std::any_of(getters.begin(), getters.end(), found);
-    };
-    // Those of an installed package are in the rpm database. Those of the others may not have been
-    // loaded, because the user cancelled it; asking for them would load them, at every package.
-    const bool known = entry.state == State::Installed;
-    switch (entry.kind) {
-    case Kind::Group:
-        return anySimple({&YumIO::getName}) ||
-               any({&YumIO::getRequiredGroups, &YumIO::getDefaultMetaPkgs,
-                    &YumIO::getOptionalMetaPkgs, &YumIO::getMandatoryPkgs, &YumIO::getDefaultPkgs,
-                    &YumIO::getOptionalPkgs, &YumIO::getConditionalPkgs});
-    case Kind::Package:
-    case Kind::Suite:
-        return anySimple({&YumIO::getName, &YumIO::getVerRel, &YumIO::getRepo, &YumIO::getArch,
-                          &YumIO::getSize, &YumIO::getSummary}) ||
-               any({&YumIO::getDescription, &YumIO::getGroup, &YumIO::getVendor}) ||
-               anySimple({&YumIO::getBuildTime}) ||
-               any({&YumIO::getInstallTime, &YumIO::getBinaryRpm, &YumIO::getSourceRpm,
-                    &YumIO::getLicense, &YumIO::getPackager, &YumIO::getUrl, &YumIO::getRelocations,
-                    &YumIO::getProvides, &YumIO::getRequires, &YumIO::getConflicts,
-                    &YumIO::getObsoletes}) ||
-               ((known || m_yumIO->hasFileLists()) && any({&YumIO::getFiles})) ||
-               ((known || m_yumIO->hasOtherData()) && any({&YumIO::getChangeLog}));
-    }
-    return false;
+    return expression.matches(m_rowText.constData());
 }
 
 bool SortFilterProxyModel::matches(const QString &text) const
 {
-    return matches(text.toUtf8().constData());
-}
-
-bool SortFilterProxyModel::matches(const char *text) const
-{
-    return m_regexStatus != 0 || regexec(&m_regex, text, 0, nullptr, 0) == 0;
+    return m_expression->matches(text);
 }
 
 // A sort of many rows compares each of them many times, so the order of a column is worked out once

@@ -7,10 +7,10 @@
 #include <QByteArray>
 #include <QHash>
 
+#include <memory>
 #include <vector>
 
-#include <regex.h>
-
+class Expression;
 class YumIO;
 
 namespace Package {
@@ -20,7 +20,12 @@ class Entry;
 namespace PackageTable {
 
 // Decides which packages are listed, by state, duplicates, groups and an extended POSIX expression,
-// and in which order. Each entry's verdict is kept until something that decides it changes.
+// and in which order. What the expression says of an entry is kept until the expression, the mode or
+// what was loaded changes.
+//
+// In Search mode the engine is asked, in a job of its own: a setter returns when it has ended, and
+// until then the rows are listed as before. The user may cancel it; then the setter has changed
+// nothing.
 class SortFilterProxyModel : public HSortFilterProxyModel
 {
     Q_OBJECT
@@ -39,8 +44,15 @@ public:
     // The master switch: off lists every row.
     void setFilter(bool filter);
     bool getFilter() const { return m_filter; }
-    // Rows wait for what their verdicts need: meanwhile none is judged, and none listed.
-    void setWaiting(bool waiting);
+    // From now on rows wait for what their verdicts need: none is judged, and none listed, until
+    // judge() or a setter was not cancelled.
+    void wait();
+    void judge();
+    // Whether the last setter, or judge(), was cancelled.
+    bool wasCancelled() const { return m_cancelled; }
+    StateFilter stateFilter() const { return m_rules.state; }
+    bool dupsFilter() const { return m_rules.dups; }
+    bool groupsFilter() const { return m_rules.groups; }
     // An expression that does not compile lists whatever the other rules let through.
     void setFilterRegExp(const QString &pattern) override;
     // Mode and expression as they are installed.
@@ -63,11 +75,15 @@ protected:
 private:
     using HSortFilterProxyModel::setFilterRegExp;
 
-    const Package::Entry *entryAt(int sourceRow) const;
-    bool acceptRow(const Package::Entry *entry) const;
-    bool acceptTexts(const Package::Entry &entry) const;
-    bool acceptFields(const Package::Entry &entry) const;
-    bool matches(const char *text) const;
+    // What is decided of an entry without a look at its texts.
+    struct Rules
+    {
+        bool operator==(const Rules &other) const = default;
+        bool accept(const Package::Entry &entry) const;
+        StateFilter state;
+        bool dups;
+        bool groups;
+    };
     // What the engine has loaded of that which verdicts rest on.
     struct Basis
     {
@@ -75,23 +91,28 @@ private:
         bool fileLists = false;
         bool otherData = false;
     };
+    using Verdicts = QHash<const Package::Entry *, bool>;
+
+    const Package::Entry *entryAt(int sourceRow) const;
+    bool acceptTexts(const Package::Entry &entry, const Expression &expression) const;
     Basis loaded() const;
     void sourceAboutToBeReset();
-    void judgeAll();
+    void setRules(const Rules &rules);
+    bool change(const Query &query, const Rules &rules);
+    bool judge(const Query &query, const Rules &rules, const Expression &expression,
+               Verdicts &verdicts) const;
     std::vector<int> ranks(int column) const;
 
     Query m_query;
+    Rules m_rules;
     bool m_filter = true;
     bool m_waiting = false;
-    StateFilter m_stateFilter;
-    bool m_dups;
-    bool m_groups;
+    bool m_cancelled = false;
     YumIO *m_yumIO;
     HAbstractTableModel *m_sourcePackageModel = nullptr;
-    mutable QHash<const Package::Entry *, bool> m_acceptCache;
-    Basis m_basis;          // of the verdicts
-    int m_regexStatus = -1; // 0: m_regex holds the compiled expression
-    regex_t m_regex;
+    std::unique_ptr<const Expression> m_expression; // of m_query
+    mutable Verdicts m_verdicts;                    // what it says of entries
+    Basis m_basis;                                  // of the verdicts
     mutable QByteArray m_rowText;
     mutable int m_rankedColumn = -1; // the column of m_ranks
     mutable std::vector<int> m_ranks;

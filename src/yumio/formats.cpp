@@ -25,6 +25,16 @@ const char *format(qint64 time, TimeBuffer &buffer)
     return buffer.data();
 }
 
+const char *formatDate(qint64 time, TimeBuffer &buffer)
+{
+    format(time, buffer);
+    if (std::strlen(buffer.data()) > yearPosition) {
+        std::memmove(buffer.data() + timeOfDayPosition, buffer.data() + yearPosition,
+                     std::strlen(buffer.data() + yearPosition) + 1);
+    }
+    return buffer.data();
+}
+
 } // namespace
 
 QString bytesFormat(quint64 bytes)
@@ -53,6 +63,18 @@ QString bytesFormat(quint64 bytes)
            QCoreApplication::translate("YumIO", unit);
 }
 
+QByteArray timeText(qint64 time)
+{
+    TimeBuffer buffer;
+    return format(time, buffer);
+}
+
+QByteArray dateText(qint64 time)
+{
+    TimeBuffer buffer;
+    return formatDate(time, buffer);
+}
+
 const char *timeFormat(qint64 time)
 {
     static TimeBuffer buffer;
@@ -62,10 +84,5 @@ const char *timeFormat(qint64 time)
 const char *dateFormat(qint64 time)
 {
     static TimeBuffer buffer;
-    format(time, buffer);
-    if (std::strlen(buffer.data()) > yearPosition) {
-        std::memmove(buffer.data() + timeOfDayPosition, buffer.data() + yearPosition,
-                     std::strlen(buffer.data() + yearPosition) + 1);
-    }
-    return buffer.data();
+    return formatDate(time, buffer);
 }

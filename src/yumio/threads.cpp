@@ -29,6 +29,11 @@ bool CollectOtherDataThread::work()
     return m_engine->collectOtherDataReal();
 }
 
+bool SearchThread::work()
+{
+    return m_engine->searchReal(m_request);
+}
+
 bool ApplyThread::work()
 {
     return m_engine->applyReal();

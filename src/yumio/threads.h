@@ -6,6 +6,7 @@
 #include <QThread>
 
 class YumIO;
+struct SearchRequest;
 
 // The worker of one job: runs it and ends the event loop in which the GUI thread waits.
 class WorkThread : public QThread
@@ -65,6 +66,21 @@ public:
 
 protected:
     bool work() override;
+};
+
+class SearchThread : public WorkThread
+{
+public:
+    SearchThread(YumIO *engine, QEventLoop &loop, SearchRequest &request)
+        : WorkThread(engine, loop), m_request(request)
+    {
+    }
+
+protected:
+    bool work() override;
+
+private:
+    SearchRequest &m_request;
 };
 
 class ApplyThread : public WorkThread

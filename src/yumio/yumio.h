@@ -8,6 +8,7 @@
 #include "output.h"
 #include "package.h"
 #include "python/python.h"
+#include "search.h"
 #include "session.h"
 #include "store.h"
 
@@ -20,12 +21,15 @@
 #include <functional>
 #include <initializer_list>
 #include <optional>
+#include <vector>
 
+class Expression;
 class HProgressBar;
 class QEventLoop;
 class QThread;
 class QWidget;
 class YumIODialogs;
+struct SearchSubject;
 struct TransactionLists;
 
 namespace Progress {
@@ -104,6 +108,11 @@ public:
     // another program had changed the installed packages since they were collected. `changes` gets
     // a line for each package. The marks are as they were; a collection makes the rows true again.
     bool outdated(QStringList *changes = nullptr) const;
+    // Looks for an extended POSIX expression in every field of rows, of available packages in the
+    // file lists and change logs only as far as they were loaded: for each row whether any field
+    // holds it. Nothing when the search was cancelled.
+    std::optional<QList<bool>> search(const QString &pattern,
+                                      const QList<const Package::Entry *> &entries);
     void clearEntries();
     void clear();
     // As clear, but rows that are still true stay at hand, unseen: a collection that is cancelled
@@ -211,8 +220,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     // File lists or other data were loaded, or forgotten by a collection.
     void collectedExtraData();
-    // The running job's state ("lock", "metadata", "resolve", "download", "transaction", "done")
-    // and whether it can be cancelled now.
+    // The running job's state ("lock", "metadata", "resolve", "download", "transaction",
+    // "search", "done") and whether it can be cancelled now.
     void jobState(const QString &state, bool canCancel);
 
 private:
@@ -222,6 +231,7 @@ private:
     friend class CollectFileListsThread;
     friend class CollectOtherDataThread;
     friend class ApplyThread;
+    friend class SearchThread;
     friend class YumIOCapturers;
     friend class YumIOCapturersMinion;
     friend class YumIODialogsUser;
@@ -315,6 +325,18 @@ private:
                          const char *newAttribute);
     PyObject *getGroupItem_22(const Package::Entry &entry, const char *attribute);
     PyObject *getGroupItem_25(const Package::Entry &entry, const char *attribute);
+
+    // search.cpp
+    bool searchReal(SearchRequest &request);
+    bool searchInBulk(SearchRequest &request, const QList<qsizetype> &numbers,
+                      PyGILStateWrapper &lock);
+    bool readSearchTexts(const SearchRequest &request, const QList<qsizetype> &numbers,
+                         Engine::Search &passing, std::vector<SearchSubject> &subjects);
+    bool askSearchTexts(const SearchRequest &request, const QList<qsizetype> &missing,
+                        const std::function<SearchTexts &(const Package::Entry &)> &textsFor);
+    SearchCaches searchCaches();
+    void searchSingly(SearchRequest &request, const QList<qsizetype> &numbers);
+    bool anyField(const Package::Entry &entry, const Expression &expression);
 
     // apply.cpp
     bool applyReal();
@@ -492,6 +514,7 @@ private:
     Engine::Session m_session;
     Engine::Session m_former; // of the rows that are kept unseen while new ones are gathered
     Engine::Store m_store;
+    Engine::Search m_search;
     std::atomic<bool> m_clearing = false; // no row is seen
     const Package::EntryList m_noEntries = {};
 

@@ -10,6 +10,7 @@ import hawkey
 from yum import Errors
 
 from . import certificates, config, database, errors, keys, locks, meters, plugins, report, root
+from . import solvcache
 
 _SOURCES = ["src", "nosrc"]
 
@@ -108,6 +109,7 @@ class Session:
         self.conf = config.read_main()
         self.spent = False
         self._cookie = ""  # of the rpm database that the sack was filled from
+        self._cached = {}
         self.base = Base(self.conf)
         with errors.translated():
             if self.conf.plugins:
@@ -145,11 +147,22 @@ class Session:
         except Errors.RepoError as error:
             error.value += full_cache(self.conf.cachedir)
             raise
+        self._cached = {repo.id: solvcache.Cached(self.conf.cachedir, repo.id)
+                        for repo in self.base.repos.iter_enabled()}
         errors.check_cancelled()
         former = Session._open()
         if former is not None and former is not self:
             former.close()
         Session._open = weakref.ref(self)
+
+    def cached(self, repo_id):
+        """What the cache has of a repository as it was when the packages were read."""
+        return self._cached[repo_id]
+
+    def search_caches(self):
+        """{repository: (path, identity)} for what is kept of searchTexts."""
+        return {name: (cached.search, cached.mark) for name, cached in self._cached.items()
+                if cached.mark}
 
     def outdated(self):
         """What differs between the rpm database and the packages that were read of it, as

@@ -2,9 +2,11 @@
 
 import contextlib
 
+import dnf.package
+
 from yum import Errors
 
-from . import base, config, errors, library, locks, report
+from . import base, config, errors, library, locks, packages, report
 from .packages import CHANGE_LOGS, FILE_LISTS
 
 
@@ -26,15 +28,23 @@ class Apart:
 
     def __init__(self, dnf_base):
         self._base = dnf_base
-        self._packages = None
+        self._spans = {}
 
     def find(self, pkg):
-        if self._packages is None:
-            self._packages = {(one.reponame, str(one)): one for one in self._base.sack.query()}
-        return self._packages.get((pkg.reponame, str(pkg)), pkg)
+        """The package of DNF that is the same in here; `pkg` itself when it is not here. Both sacks have
+        read the same metadata, so it has the same place among those of its repository."""
+        name = pkg.reponame
+        if name not in self._spans:
+            self._spans[name] = packages.span(pkg.base.sack, name), packages.span(self._base.sack, name)
+        (first, count), (first_here, count_here) = self._spans[name]
+        if count == count_here and 0 <= hash(pkg) - first < count:
+            same = dnf.package.Package((self._base.sack, first_here + hash(pkg) - first), self._base)
+            if str(same) == str(pkg) and same.location == pkg.location:
+                return same
+        found = self._base.sack.query().filterm(nevra_strict=str(pkg), reponame=name)
+        return found[0] if found else pkg
 
     def close(self):
-        self._packages = None
         self._base.close()
 
 

@@ -9,6 +9,7 @@ import functools
 import os
 
 import dnf.exceptions
+import hawkey
 
 from . import report
 
@@ -34,6 +35,15 @@ def _best_known(pkg, kind):
     """The package of DNF that has data of a kind: `pkg`, or the same one where that was read apart."""
     apart = getattr(pkg.base, "apart", {}).get(kind)
     return apart.find(pkg) if apart is not None and not pkg._from_system else pkg
+
+
+def span(sack, repo_id):
+    """(first, count): the packages of a repository lie one behind the other in a sack, and the hash of a
+    package of DNF's is its place. (0, 0) where that does not hold."""
+    query = sack.query(flags=hawkey.IGNORE_EXCLUDES).filterm(reponame=repo_id)
+    count = len(query)
+    first = hash(query[0]) if count else 0
+    return (first, count) if count and hash(query[count - 1]) - first == count - 1 else (0, 0)
 
 
 class Header:
@@ -153,7 +163,7 @@ class Package:
         "conflicts" or "obsoletes"."""
         if key not in _RELATIONS:
             raise KeyError(key)
-        return [_relation(_clean(one)) for one in getattr(self.pkg, key)]
+        return [relation(_clean(one)) for one in getattr(self.pkg, key)]
 
     @property
     def prco(self):
@@ -190,7 +200,7 @@ class Package:
         return _clean(path if os.path.exists(path) else self.pkg.repo.get_metadata_path("primary"))
 
 
-def _relation(text):
+def relation(text):
     """Splits a relation as DNF prints it. Boolean ones are names as a whole."""
     parts = text.split(" ")
     if text.startswith("(") or len(parts) != 3 or parts[1] not in _FLAGS:
