@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "app/main/commandline.h"
 #include "app/main/defaultstyle.h"
 #include "mainwindow/mainwindow.h"
@@ -17,11 +19,10 @@ class TestStart : public QObject
 private Q_SLOTS:
     void options_data()
     {
-        QTest::addColumn<QString>("arguments"); // separated by blanks; '' is an empty one
-        QTest::addColumn<QString>("calls");
+        // arguments: separated by blanks; '' is an empty one
+        columns<QString, QString>("arguments", "calls");
         const auto row = [](const char *arguments, const char *calls) {
-            QTest::newRow(arguments)
-                << QString::fromLatin1(arguments) << QString::fromLatin1(calls);
+            ::row(arguments, arguments, calls);
         };
         row("-m ''", "mode 0");
         row("--mode=search", "mode 1");
@@ -55,16 +56,14 @@ private Q_SLOTS:
 
     void style_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<bool>("inSettings");
-        QTest::addColumn<bool>("isSet");
+        columns<QStringList, bool, bool>("arguments", "inSettings", "isSet");
         const auto words = [](const char *text) { return QString::fromLatin1(text).split(u' '); };
-        QTest::newRow("nothing") << words("vok -l") << false << true;
-        QTest::newRow("option") << words("vok -style windows") << false << false;
-        QTest::newRow("option with value") << words("vok -l -style=windows") << false << false;
-        QTest::newRow("two dashes") << words("vok --style windows") << false << false;
-        QTest::newRow("two dashes with value") << words("vok --style=windows") << false << false;
-        QTest::newRow("settings") << words("vok") << true << false;
+        row("nothing", words("vok -l"), false, true);
+        row("option", words("vok -style windows"), false, false);
+        row("option with value", words("vok -l -style=windows"), false, false);
+        row("two dashes", words("vok --style windows"), false, false);
+        row("two dashes with value", words("vok --style=windows"), false, false);
+        row("settings", words("vok"), true, false);
     }
 
     void style()

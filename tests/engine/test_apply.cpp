@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "scripted.h"
 
 namespace {
@@ -21,12 +22,9 @@ private Q_SLOTS:
 
     void givesTheScriptItsLists_data()
     {
-        QTest::addColumn<QStringList>("marks");
-        QTest::addColumn<QString>("lists");
-        QTest::addColumn<int>("acts"); // elements, and ten for each download
+        // acts: elements, and ten for each download
+        columns<QStringList, QString, int>("marks", "lists", "acts");
 
-        const auto row = [](const char *name, const QStringList &marks, const char *lists,
-                            int acts) { QTest::newRow(name) << marks << s(lists) << acts; };
         using L = QStringList;
         row("install of what is in the cache", L{s("delta install")}, "['delta-1'] [] []", 1);
         row("update", L{s("alpha update")}, "[] [['alpha-2', 'alpha-1']] []", 12);
@@ -75,15 +73,8 @@ yumIOC.log(5, '%s %s %s' % (names(installs), names(updates), names(removes)))
 
     void followsResolution_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("dialog");
-        QTest::addColumn<int>("downloads");
-        QTest::addColumn<int>("elements");
+        columns<QString, QString, int, int>("line", "dialog", "downloads", "elements");
 
-        const auto row = [](const char *name, const char *line, const char *dialog, int downloads,
-                            int elements) {
-            QTest::newRow(name) << s(line) << s(dialog) << downloads << elements;
-        };
         row("marked as an update", "Marking 0:alpha-2-1.x86_64 as an update for x", "", 1, 2);
         row("marked in the cache", "Marking delta-1-1.noarch as install for x", "", 0, 1);
         row("obsoletes", "Obsoleting 0:old-1-1.x86_64 (base) with 0:beta-1-1.x86_64 (base)", "", 1,
@@ -223,11 +214,7 @@ probe()
 
     void reportsStrangeElements_data()
     {
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<QString>("dialogs");
-        const auto row = [](const char *name, const char *source, const char *dialogs) {
-            QTest::newRow(name) << s(source) << s(dialogs);
-        };
+        columns<QString, QString>("source", "dialogs");
         row("event", "yumIOC.tsEvent(None, 33, 0, 0, 1, 1)",
             "Internal error: YumIO::tsEvent action=33 not understood; ignoring");
         row("unknown, again with each event",
@@ -253,37 +240,10 @@ probe()
         QTEST(answers.texts().join(u'|'), "dialogs");
     }
 
-    void showsDownloads();
-    void showsMetadata();
-
-    // Nothing is asked when the rows are no longer true.
-    void noticesOtherPrograms()
+    void showsDownloads()
     {
-        Answers answers;
-        QVERIFY(m_case.mark({}));
-        m_case.setStep(s("io.changes = ['new-1-1.noarch'], [], ['alpha.x86_64 1-1 -> 2-1']"));
-        m_case.engine.clear();
-        QVERIFY(m_case.engine.collect({}));
-        m_case.row(s("beta"))->action = Package::Action::Install;
-        QVERIFY(!m_case.engine.apply());
-        QStringList changes;
-        QVERIFY(m_case.engine.outdated(&changes));
-        QCOMPARE(changes, QStringList({s("Installed: new-1-1.noarch"),
-                                       s("Changed: alpha.x86_64 1-1 -> 2-1")}));
-        QCOMPARE(m_case.calls().filter(s("apply")), QStringList());
-        QCOMPARE(answers.texts(), QStringList());
-        QVERIFY(m_case.mark({}));
-        QVERIFY(!m_case.engine.outdated());
-    }
-
-private:
-    Scripted m_case;
-};
-
-void TestApply::showsDownloads()
-{
-    Answers answers({s("OK")});
-    QVERIFY(m_case.apply({s("beta install"), s("alpha update")}, s(listing) + s(R"(
+        Answers answers({s("OK")});
+        QVERIFY(m_case.apply({s("beta install"), s("alpha update")}, s(listing) + s(R"(
 yumIOC.listTransaction(io)
 yumIOC.userconfirm()
 start, update = yumIOC.applyGrabMeterStart, yumIOC.applyGrabMeterUpdate
@@ -308,27 +268,29 @@ update('b', 3); update(None, 3)
 yumIOC.tsInitCallback(1); probe()
 yumIOC.applyGrabMeterStart('c', '/c/x', '', 'x', 'large', 'x')
 )"),
-                         answers));
-    // The rebuilding waits for the download that begins after it.
-    QCOMPARE(answers.observed.takeAt(1).section(u'/', 1), s("31984 70000 Downloading 2 packages"));
-    QCOMPARE(answers.observed, QStringList({s("100/31984 70000 Downloading 2 packages"),
-                                            s("22984/31984 4 Finishing RPM rebuild from deltas"),
-                                            s("22984/31984 1 Preparing to Run Transaction")}));
-    QCOMPARE(answers.texts().mid(1),
-             QStringList(s("Internal error: apply grab size not understood\n\n"
-                           "Internal error: unexpected progress filename")));
-    QVERIFY(m_case.logged().contains(
-        s("2/1 Downloading beta-1-1.x86_64: no route to http://u:**@host")));
-}
+                             answers));
+        // The rebuilding waits for the download that begins after it.
+        QCOMPARE(answers.observed.takeAt(1).section(u'/', 1),
+                 s("31984 70000 Downloading 2 packages"));
+        QCOMPARE(answers.observed,
+                 QStringList({s("100/31984 70000 Downloading 2 packages"),
+                              s("22984/31984 4 Finishing RPM rebuild from deltas"),
+                              s("22984/31984 1 Preparing to Run Transaction")}));
+        QCOMPARE(answers.texts().mid(1),
+                 QStringList(s("Internal error: apply grab size not understood\n\n"
+                               "Internal error: unexpected progress filename")));
+        QVERIFY(m_case.logged().contains(
+            s("2/1 Downloading beta-1-1.x86_64: no route to http://u:**@host")));
+    }
 
-// Six acts for each repository: the first for its index, one more whenever there turns out to be
-// more to load. What the last file fails to give is made up for by the next repository.
-void TestApply::showsMetadata()
-{
-    Answers answers;
-    m_case.engine.clear();
-    m_case.observeBars(answers);
-    m_case.setStep(s(R"(
+    // Six acts for each repository: the first for its index, one more whenever there turns out to be
+    // more to load. What the last file fails to give is made up for by the next repository.
+    void showsMetadata()
+    {
+        Answers answers;
+        m_case.engine.clear();
+        m_case.observeBars(answers);
+        m_case.setStep(s(R"(
 start, update = yumIOC.collectGrabMeterStart, yumIOC.collectGrabMeterUpdate
 yumIOC.collectGrabMultiMeterStart(1, 0); probe()
 yumIOC.collectGrabMultiMeterNew('base')
@@ -346,25 +308,50 @@ yumIOC.collectGrabMultiMeterEnd()
 yumIOC.collectProgress(1, 2, 'base'); probe()
 start('odd', '', '', 'primary', 'big', '')
 )"));
-    QVERIFY(m_case.engine.collect({}));
-    QStringList items = {s("24000 1 Downloading repository contents for 1 repositories"),
-                         s("24000 1 Downloading repository repomd for base")};
-    for (int act = 1; act <= 5; ++act)
-        items.append(s("24000 %1 Downloading repository base").arg(100 * act));
-    items.append(s("24000 500 Downloading repository base"));
-    items.append(s("24000 500 Reading repository base"));
-    QCOMPARE(answers.observed.size(), items.size());
-    for (int i = 0; i < items.size(); ++i)
-        QCOMPARE(answers.observed[i].section(u'/', 1), items[i]);
-    // The total never falls, and never runs ahead of the act that it is in.
-    for (int i = 1; i < answers.observed.size(); ++i) {
-        const int before = answers.observed[i - 1].section(u'/', 0, 0).toInt();
-        const int now = answers.observed[i].section(u'/', 0, 0).toInt();
-        QVERIFY2(now >= before, qPrintable(answers.observed.join(u'|')));
-        QVERIFY2(now <= 1000 + 14000 * i / 6, qPrintable(answers.observed.join(u'|')));
+        QVERIFY(m_case.engine.collect({}));
+        QStringList items = {s("24000 1 Downloading repository contents for 1 repositories"),
+                             s("24000 1 Downloading repository repomd for base")};
+        for (int act = 1; act <= 5; ++act)
+            items.append(s("24000 %1 Downloading repository base").arg(100 * act));
+        items.append(s("24000 500 Downloading repository base"));
+        items.append(s("24000 500 Reading repository base"));
+        QCOMPARE(answers.observed.size(), items.size());
+        for (int i = 0; i < items.size(); ++i)
+            QCOMPARE(answers.observed[i].section(u'/', 1), items[i]);
+        // The total never falls, and never runs ahead of the act that it is in.
+        for (int i = 1; i < answers.observed.size(); ++i) {
+            const int before = answers.observed[i - 1].section(u'/', 0, 0).toInt();
+            const int now = answers.observed[i].section(u'/', 0, 0).toInt();
+            QVERIFY2(now >= before, qPrintable(answers.observed.join(u'|')));
+            QVERIFY2(now <= 1000 + 14000 * i / 6, qPrintable(answers.observed.join(u'|')));
+        }
+        QCOMPARE(answers.texts(),
+                 QStringList(s("Internal error: collect grab size not understood")));
     }
-    QCOMPARE(answers.texts(), QStringList(s("Internal error: collect grab size not understood")));
-}
+
+    // Nothing is asked when the rows are no longer true.
+    void noticesOtherPrograms()
+    {
+        Answers answers;
+        QVERIFY(m_case.mark({}));
+        m_case.setStep(s("io.changes = ['new-1-1.noarch'], [], ['alpha.x86_64 1-1 -> 2-1']"));
+        m_case.engine.clear();
+        QVERIFY(m_case.engine.collect({}));
+        m_case.row(s("beta"))->action = Package::Action::Install;
+        QVERIFY(!m_case.engine.apply());
+        QStringList changes;
+        QVERIFY(m_case.engine.outdated(&changes));
+        QCOMPARE(changes, QStringList({s("Installed: new-1-1.noarch"),
+                                       s("Changed: alpha.x86_64 1-1 -> 2-1")}));
+        QCOMPARE(m_case.calls().filter(s("apply")), QStringList());
+        QCOMPARE(answers.texts(), QStringList());
+        QVERIFY(m_case.mark({}));
+        QVERIFY(!m_case.engine.outdated());
+    }
+
+private:
+    Scripted m_case;
+};
 
 QTEST_MAIN(TestApply)
 #include "test_apply.moc"

@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "scripted.h"
 
 #include "app/programname.h"
@@ -28,14 +29,9 @@ private Q_SLOTS:
 
     void starts_data()
     {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<QString>("text");   // of the dialogs
-        QTest::addColumn<QString>("logged"); // a line of the log
+        // text: of the dialogs; logged: a line of the log
+        columns<QString, QString, QString>("script", "text", "logged");
 
-        const auto row = [](const char *name, const QByteArray &script, const QString &text,
-                            const char *logged) {
-            QTest::newRow(name) << script << text << s(logged);
-        };
         const QString cannotRun = unexpected + s("Internal error: unable to execute YumIO.py");
         row("no script", "", s("Internal error: unable to open YumIO.py"),
             qPrintable(m_share.filePath(s("python/YumIO.py: No such file or directory"))));
@@ -53,21 +49,22 @@ private Q_SLOTS:
             unexpected + s("Internal error: cannot create python yumIO"), "ValueError: bad");
         QFile working(s(VOK_DOUBLE "/python/YumIO.py"));
         QVERIFY(working.open(QIODevice::ReadOnly));
-        row("works", working.readAll() + "yumIOC.log(0, 'argv ' + repr(sys.argv))\n", QString(),
-            "argv ['test', 'info']");
+        row("works",
+            QString::fromUtf8(working.readAll() + "yumIOC.log(0, 'argv ' + repr(sys.argv))\n"),
+            QString(), "argv ['test', 'info']");
         row("has worked", "raise ValueError\n", QString(), "argv ['test', 'info']"); // not run
     }
 
     void starts()
     {
-        QFETCH(QByteArray, script);
+        QFETCH(QString, script);
         QFETCH(QString, text);
         QFETCH(QString, logged);
 
         QFile file(m_share.filePath(s("python/YumIO.py")));
         if (!script.isEmpty()) {
             QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(script);
+            file.write(script.toUtf8());
             file.close();
         }
         qputenv("VOK_TEST_SCENARIO", "/dev/null");

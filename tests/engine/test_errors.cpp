@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "scripted.h"
 
 #include <sys/wait.h>
@@ -13,13 +14,7 @@ private Q_SLOTS:
 
     void mapsExceptions_data()
     {
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<QString>("dialog");
-        QTest::addColumn<bool>("walkback");
-        const auto row = [](const char *name, const char *source, const char *dialog,
-                            bool walkback) {
-            QTest::newRow(name) << s(source) << s(dialog) << walkback;
-        };
+        columns<QString, QString, bool>("source", "dialog", "walkback");
         const char *const generic =
             "Internal error: python exception occurred from C code.\n"
             "When reporting this issue, please include the contents of the\n"
@@ -72,39 +67,33 @@ private Q_SLOTS:
     }
 
     // A cancellation is no failure that needs a dialog; the same exception without one is.
-    void cancelsQuietly_data()
-    {
-        QTest::addColumn<bool>("cancel");
-        QTest::newRow("cancelled") << true;
-        QTest::newRow("only said so") << false;
-    }
-
     void cancelsQuietly()
     {
-        QFETCH(bool, cancel);
-        Answers answers;
-        const auto connection = connect(
-            &m_case.engine, qOverload<const QString &, bool>(&YumIO::jobState), this,
-            [&](const QString &state, bool) {
-                if (cancel && state == s("download"))
-                    m_case.engine.cancel();
-            },
-            Qt::DirectConnection);
-        m_case.apply({},
-                     s("class CancelledError(YumBaseError): pass\n"
-                       "yumIOC.log(9, 'first %d' % yumIOC.cancelled())\n"
-                       "yumIOC.jobState('download', 1)\n"
-                       "yumIOC.log(9, 'then %d' % yumIOC.cancelled())\n"
-                       "raise CancelledError('Cancelled by the user')"),
-                     answers);
-        disconnect(connection);
-        QCOMPARE(answers.shown.size(), cancel ? 0 : 1);
-        const QStringList logged = m_case.logged();
-        QVERIFY(logged.contains(s("0/9 first 0")));
-        QVERIFY(logged.contains(cancel ? s("0/9 then 1") : s("0/9 then 0")));
-        QVERIFY(logged.contains(cancel ? s("2/0 Cancelled by the user")
-                                       : s("3/0 Cancelled by the user")));
-        QVERIFY(logged.contains(s("0/0 cleaned up")));
+        for (const bool cancel : {true, false}) {
+            Answers answers;
+            const auto connection = connect(
+                &m_case.engine, qOverload<const QString &, bool>(&YumIO::jobState), this,
+                [&](const QString &state, bool) {
+                    if (cancel && state == s("download"))
+                        m_case.engine.cancel();
+                },
+                Qt::DirectConnection);
+            m_case.apply({},
+                         s("class CancelledError(YumBaseError): pass\n"
+                           "yumIOC.log(9, 'first %d' % yumIOC.cancelled())\n"
+                           "yumIOC.jobState('download', 1)\n"
+                           "yumIOC.log(9, 'then %d' % yumIOC.cancelled())\n"
+                           "raise CancelledError('Cancelled by the user')"),
+                         answers);
+            disconnect(connection);
+            QCOMPARE(answers.shown.size(), cancel ? 0 : 1);
+            const QStringList logged = m_case.logged();
+            QVERIFY(logged.contains(s("0/9 first 0")));
+            QVERIFY(logged.contains(cancel ? s("0/9 then 1") : s("0/9 then 0")));
+            QVERIFY(logged.contains(cancel ? s("2/0 Cancelled by the user")
+                                           : s("3/0 Cancelled by the user")));
+            QVERIFY(logged.contains(s("0/0 cleaned up")));
+        }
     }
 
     void reapsChildren()
@@ -167,47 +156,37 @@ yumIOC.log(9, repr(answers))
     }
 
     // The question of a key must not disturb the text that a later confirmation shows, or the bars.
-    void asksForKeys_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<int>("answer");
-        QTest::newRow("yes") << s("Yes") << 1;
-        QTest::newRow("closed") << s("none") << 0;
-    }
-
     void asksForKeys()
     {
-        QFETCH(QString, button);
-        QFETCH(int, answer);
-        Answers answers({button, s("OK")});
-        m_case.apply({}, s(R"(
+        for (const bool yes : {true, false}) {
+            Answers answers({yes ? s("Yes") : s("none"), s("OK")});
+            m_case.apply({}, s(R"(
 yumIOC.listTransaction(io)
 key = yumIOC.keyQuestion('ABCD', 'Ann <a@b>', '01 02', 'file:///k')
 yumIOC.userconfirm()
 yumIOC.log(9, 'key %r' % key)
 )"),
-                     answers);
-        QVERIFY(m_case.logged().contains(s("0/9 key %1").arg(answer)));
-        const QString question = answers.texts().value(0);
-        for (const char *part : {"ABCD", "Ann <a@b>", "01 02", "file:///k"})
-            QVERIFY2(question.contains(s(part)), part);
-        QCOMPARE(answers.texts().value(1), s("Transaction to be performed:\n"));
+                         answers);
+            QVERIFY(m_case.logged().contains(s("0/9 key %1").arg(int(yes))));
+            const QString question = answers.texts().value(0);
+            for (const char *part : {"ABCD", "Ann <a@b>", "01 02", "file:///k"})
+                QVERIFY2(question.contains(s(part)), part);
+            QCOMPARE(answers.texts().value(1), s("Transaction to be performed:\n"));
+        }
     }
 
     void reportsTheTransaction_data()
     {
-        QTest::addColumn<QString>("elements");
-        QTest::addColumn<QString>("dialogs");
-        QTest::addColumn<QString>("summary");
-        QTest::newRow("all done") << s("[('0:a-1-1.x', 'done', '')]") << QString()
-                                  << s("1/0 Transaction: 1 done, 0 failed, 0 skipped");
-        QTest::newRow("some not")
-            << s("[('0:a-1-1.x', 'done', ''), ('0:b-1-1.x', 'failed', 'scriptlet'),"
-                 " ('0:c-1-1.x', 'skipped', ''), ('0:d-1-1.x', 'done', '%post')]")
-            << s("Transaction: 2 done, 1 failed, 1 skipped\n\nFailed:\n\t0:b-1-1.x: scriptlet\n\n"
-                 "Skipped:\n\t0:c-1-1.x\n\nDone, with errors:\n\t0:d-1-1.x: %post\n\n"
-                 "Done:\n\t0:a-1-1.x\n")
-            << s("3/0 Transaction: 2 done, 1 failed, 1 skipped");
+        columns<QString, QString, QString>("elements", "dialogs", "summary");
+        row("all done", s("[('0:a-1-1.x', 'done', '')]"), QString(),
+            s("1/0 Transaction: 1 done, 0 failed, 0 skipped"));
+        row("some not",
+            s("[('0:a-1-1.x', 'done', ''), ('0:b-1-1.x', 'failed', 'scriptlet'),"
+              " ('0:c-1-1.x', 'skipped', ''), ('0:d-1-1.x', 'done', '%post')]"),
+            s("Transaction: 2 done, 1 failed, 1 skipped\n\nFailed:\n\t0:b-1-1.x: scriptlet\n\n"
+              "Skipped:\n\t0:c-1-1.x\n\nDone, with errors:\n\t0:d-1-1.x: %post\n\n"
+              "Done:\n\t0:a-1-1.x\n"),
+            s("3/0 Transaction: 2 done, 1 failed, 1 skipped"));
     }
 
     void reportsTheTransaction()
@@ -222,15 +201,11 @@ yumIOC.log(9, 'key %r' % key)
 
     void cleans_data()
     {
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<bool>("one");
-        QTest::addColumn<bool>("all");
-        QTest::newRow("clean") << s("result = (0, [])") << true << true;
-        QTest::newRow("headers fail")
-            << s("result = (method == 'cleanHeaders', [])") << false << false;
-        QTest::newRow("the last fails")
-            << s("result = (int(method == 'cleanSqlite'), [])") << true << false;
-        QTest::newRow("an exception") << s("raise YumBaseError('x')") << false << false;
+        columns<QString, bool, bool>("source", "one", "all");
+        row("clean", s("result = (0, [])"), true, true);
+        row("headers fail", s("result = (method == 'cleanHeaders', [])"), false, false);
+        row("the last fails", s("result = (int(method == 'cleanSqlite'), [])"), true, false);
+        row("an exception", s("raise YumBaseError('x')"), false, false);
     }
 
     void cleans()

@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "scripted.h"
 
 // The script's group Tools holds alpha (updatable) and beta (installable) as mandatory, gamma
@@ -12,30 +13,24 @@ private Q_SLOTS:
 
     void marksMembers_data()
     {
-        QTest::addColumn<QStringList>("marks");
-        QTest::addColumn<QString>("lists");
-        QTest::addColumn<QString>("noted");
-        QTest::addColumn<QStringList>("log");
+        columns<QStringList, QString, QString, QStringList>("marks", "lists", "noted", "log");
         using L = QStringList;
-        QTest::newRow("install") << L{s("@Tools install")} << s("['beta', 'zeta'] ['alpha'] []")
-                                 << s("[('Tools', 1)]")
-                                 << L{s("For group Tools, marking package alpha for Update"),
-                                      s("For group Tools, marking package beta for Install"),
-                                      s("For group Tools, marking package zeta for Install")};
-        QTest::newRow("update")
-            << L{s("@Tools update")} << s("['beta'] ['alpha'] []") << s("[('Tools', 0)]")
-            << L{s("For group Tools, marking package alpha for Update"),
-                 s("For group Tools, marking package beta for Install"),
-                 s("For group Tools, not marking package delta for Install, becuase the package "
-                   "is optional")};
-        QTest::newRow("remove") << L{s("@Tools remove")} << s("[] [] ['alpha', 'gamma']")
-                                << s("[('Tools', 2)]")
-                                << L{s("For group Tools, marking package alpha for Remove"),
-                                     s("For group Tools, marking package gamma for Remove")};
-        QTest::newRow("marked before")
-            << L{s("@Tools update"), s("beta install")} << s("['beta'] ['alpha'] []")
-            << s("[('Tools', 0)]")
-            << L{s("For group Tools, package beta already was marked for Install")};
+        row("install", L{s("@Tools install")}, s("['beta', 'zeta'] ['alpha'] []"),
+            s("[('Tools', 1)]"),
+            L{s("For group Tools, marking package alpha for Update"),
+              s("For group Tools, marking package beta for Install"),
+              s("For group Tools, marking package zeta for Install")});
+        row("update", L{s("@Tools update")}, s("['beta'] ['alpha'] []"), s("[('Tools', 0)]"),
+            L{s("For group Tools, marking package alpha for Update"),
+              s("For group Tools, marking package beta for Install"),
+              s("For group Tools, not marking package delta for Install, becuase the package "
+                "is optional")});
+        row("remove", L{s("@Tools remove")}, s("[] [] ['alpha', 'gamma']"), s("[('Tools', 2)]"),
+            L{s("For group Tools, marking package alpha for Remove"),
+              s("For group Tools, marking package gamma for Remove")});
+        row("marked before", L{s("@Tools update"), s("beta install")}, s("['beta'] ['alpha'] []"),
+            s("[('Tools', 0)]"),
+            L{s("For group Tools, package beta already was marked for Install")});
     }
 
     void marksMembers()
@@ -62,11 +57,11 @@ yumIOC.log(9, 'noted %r' % io.noted)
 
     void asksAboutConflicts_data()
     {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("lists"); // empty when the apply was stopped
-        QTest::newRow("the group's way") << s("Update") << s("['beta'] ['alpha'] []");
-        QTest::newRow("the mark's way") << s("Remove") << s("['beta'] [] ['alpha']");
-        QTest::newRow("cancel") << s("Cancel") << QString();
+        // lists: empty when the apply was stopped
+        columns<QString, QString>("button", "lists");
+        row("the group's way", s("Update"), s("['beta'] ['alpha'] []"));
+        row("the mark's way", s("Remove"), s("['beta'] [] ['alpha']"));
+        row("cancel", s("Cancel"), QString());
     }
 
     void asksAboutConflicts()
@@ -79,22 +74,15 @@ yumIOC.log(9, 'noted %r' % io.noted)
                  QStringList(s("Package alpha is included in group Tools which was marked for "
                                "Update,\nso the package would be marked for Update,\nbut it was "
                                "marked individually for Remove.\nHow do you wish to proceed?")));
+        QCOMPARE(answers.shown[0].buttons, QStringList({s("Update"), s("Remove"), s("Cancel")}));
         const QStringList reports = m_case.logged().filter(s("lists "));
         QCOMPARE(reports, lists.isEmpty() ? QStringList() : QStringList(s("0/9 lists ") + lists));
     }
 
     // Two groups: the second asks by what the first did, or by how the first was answered. Which
     // group is the first follows the table's order.
-    void asksAboutOtherGroups_data()
-    {
-        QTest::addColumn<bool>("answered");
-        QTest::newRow("marked by a group") << false;
-        QTest::newRow("answered before") << true;
-    }
-
     void asksAboutOtherGroups()
     {
-        QFETCH(bool, answered);
         QVERIFY(m_case.mark({}));
         QStringList groups;
         for (const Package::Entry *row : m_case.engine) {
@@ -102,23 +90,25 @@ yumIOC.log(9, 'noted %r' % io.noted)
                 groups.append(row->name);
         }
         QCOMPARE(groups.size(), 2);
-        QStringList marks{u'@' + groups[0] + (answered ? s(" update") : s(" remove")),
-                          u'@' + groups[1] + s(" update")};
-        if (answered)
-            marks.append(s("alpha remove"));
-        Answers answers({s("Remove"), s("Remove"), s("Remove")});
-        m_case.apply(marks, reporting(), answers);
-        const QString expected =
-            s("Package alpha is included in group %1 which was marked for Update,\n"
-              "so the package would be marked for Update,\n")
-                .arg(groups[1]) +
-            (answered ? s("but you resolved an earlier conflict by marking it for Remove.\n")
-                      : s("but it also was part of group %1 and so was marked for Remove.\n")
-                            .arg(groups[0])) +
-            s("How do you wish to proceed?");
-        const QStringList aboutAlpha = answers.texts().filter(s("Package alpha "));
-        QCOMPARE(aboutAlpha.size(), answered ? 2 : 1);
-        QCOMPARE(aboutAlpha.constLast(), expected);
+        for (const bool answered : {false, true}) {
+            QStringList marks{u'@' + groups[0] + (answered ? s(" update") : s(" remove")),
+                              u'@' + groups[1] + s(" update")};
+            if (answered)
+                marks.append(s("alpha remove"));
+            Answers answers({s("Remove"), s("Remove"), s("Remove")});
+            m_case.apply(marks, reporting(), answers);
+            const QString expected =
+                s("Package alpha is included in group %1 which was marked for Update,\n"
+                  "so the package would be marked for Update,\n")
+                    .arg(groups[1]) +
+                (answered ? s("but you resolved an earlier conflict by marking it for Remove.\n")
+                          : s("but it also was part of group %1 and so was marked for Remove.\n")
+                                .arg(groups[0])) +
+                s("How do you wish to proceed?");
+            const QStringList aboutAlpha = answers.texts().filter(s("Package alpha "));
+            QCOMPARE(aboutAlpha.size(), answered ? 2 : 1);
+            QCOMPARE(aboutAlpha.constLast(), expected);
+        }
     }
 
     void endsWithAReport_data()

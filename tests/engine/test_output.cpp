@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "yumio/capturers.h"
 #include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
@@ -90,14 +92,8 @@ class TestOutput : public QObject
 private Q_SLOTS:
     void splitsLines_data()
     {
-        QTest::addColumn<QStringList>("writes");
-        QTest::addColumn<QString>("entries");
-        QTest::addColumn<QString>("tail");
+        columns<QStringList, QString, QString>("writes", "entries", "tail");
 
-        const auto row = [](const char *name, const QStringList &writes, const char *entries,
-                            const char *tail) {
-            QTest::newRow(name) << writes << QString::fromUtf8(entries) << QString::fromUtf8(tail);
-        };
         using L = QStringList;
         row("several at once", L{QStringLiteral("x"), QStringLiteral("1\n2\n\n3")},
             "1/0 x1|1/0 2|1/0 ", "3");
@@ -119,11 +115,7 @@ private Q_SLOTS:
 
     void logsMessages_data()
     {
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("entries");
-        const auto row = [](const char *name, const char *message, const char *entries) {
-            QTest::newRow(name) << QString::fromUtf8(message) << QString::fromUtf8(entries);
-        };
+        columns<QString, QString>("message", "entries");
         row("lines, the last included", "a\n\nb\n", "2/7 a|2/7 |2/7 b|2/7 ");
         row("errno on a line of its own", "read: [Errno 5] broken",
             "2/7 read:|2/7 [Errno 5] broken");

@@ -42,7 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                                      httpProtect(values[2]), httpProtect(values[3]));
         if (!Repo::Kivvet::getAuth(url, nameKey, name, passwordKey, password) ||
             QStringList{nameKey, name, passwordKey, password} != values ||
-            Repo::Kivvet::replaceAuth(url, name, password) != url)
+            Repo::Kivvet::replaceAuth(url, name, password) != url ||
+            Repo::Kivvet::replaceAuth(Repo::Kivvet::replaceAuth(url, form), password) != url)
             abort();
         const QString shown = MaskedField::maskWhole(url, one, u'*');
         const qsizetype length = httpProtect(password).size();

@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "log/logwindow.h"
 
 #include "app/colors.h"
@@ -44,11 +46,8 @@ private Q_SLOTS:
 
     void entries_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<unsigned int>("level");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QColor>("color");
+        columns<int, unsigned int, QString, QString, QColor>("kind", "level", "text", "shown",
+                                                             "color");
         const auto row = [](const char *name, int kind, unsigned int level, QStringView text,
                             QStringView shown, const QColor &color) {
             QTest::newRow(name) << kind << level << text.toString() << shown.toString() << color;

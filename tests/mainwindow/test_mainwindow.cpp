@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "mainwindow/mainwindow.h"
 #include "packagetable/view.h"
 
@@ -106,13 +108,10 @@ private Q_SLOTS:
 
     void filters_data()
     {
-        QTest::addColumn<QString>("expression");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<bool>("dups");
-        QTest::addColumn<bool>("groups");
-        QTest::addColumn<QString>("names");
-        QTest::newRow("duplicates left out") << "^pair" << 3 << false << true << "pair";
-        QTest::newRow("groups") << "" << 2 << true << true << "Workshop alpha echo kernel modules";
+        columns<QString, int, bool, bool, QString>("expression", "state", "dups", "groups",
+                                                   "names");
+        ::row("duplicates left out", "^pair", 3, false, true, "pair");
+        ::row("groups", "", 2, true, true, "Workshop alpha echo kernel modules");
     }
 
     void filters()

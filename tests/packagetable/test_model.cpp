@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "tablecase.h"
 
 #include <QAbstractItemModelTester>
@@ -22,10 +23,7 @@ private Q_SLOTS:
 
     void cells_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("tip");
+        columns<QString, int, QString, QString>("name", "column", "text", "tip");
         const auto row = [](const char *name, int column, const char *text, const char *tip) {
             QTest::addRow("%s %d", name, column) << s(name) << column << s(text) << s(tip);
         };
@@ -95,11 +93,10 @@ private Q_SLOTS:
 
     void toggles_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QList<int>>("actions");
-        QTest::newRow("updatable") << "alpha" << QList<int>{0, 2, 3, 0};
-        QTest::newRow("installable") << "beta" << QList<int>{1, 3, 1};
-        QTest::newRow("installed") << "echo" << QList<int>{2, 3, 2};
+        columns<QString, QList<int>>("name", "actions");
+        row("updatable", "alpha", QList<int>{0, 2, 3, 0});
+        row("installable", "beta", QList<int>{1, 3, 1});
+        row("installed", "echo", QList<int>{2, 3, 2});
     }
 
     void toggles()

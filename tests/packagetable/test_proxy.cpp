@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "tablecase.h"
 
 #include <QAbstractItemModelTester>
@@ -31,14 +32,8 @@ private Q_SLOTS:
 
     void lists_data()
     {
-        QTest::addColumn<StateFilter>("state");
-        QTest::addColumn<QString>("kinds"); // "d" with duplicates, "g" with groups
-        QTest::addColumn<QString>("expression");
-        QTest::addColumn<QString>("names");
-        const auto row = [](const char *name, StateFilter state, const char *kinds,
-                            const char *expression, const char *names) {
-            QTest::newRow(name) << state << s(kinds) << s(expression) << s(names);
-        };
+        // kinds: "d" with duplicates, "g" with groups
+        columns<StateFilter, QString, QString, QString>("state", "kinds", "expression", "names");
         const StateFilter all = StateFilter::All;
         row("everything", all, "dg", ".*",
             "Attic Workshop Zulu alpha beta echo grüße kernel modules pair pair tools-suite");
@@ -87,14 +82,8 @@ private Q_SLOTS:
 
     void searches_data()
     {
-        QTest::addColumn<QString>("expression");
-        QTest::addColumn<QString>("filtered");
-        QTest::addColumn<QString>("found");
-        QTest::addColumn<QString>("loaded"); // found by the same expression with file lists there
-        const auto row = [](const char *name, const char *expression, const char *filtered,
-                            const char *found, const char *loaded) {
-            QTest::newRow(name) << s(expression) << s(filtered) << s(found) << s(loaded);
-        };
+        // loaded: found by the same expression with file lists there
+        columns<QString, QString, QString, QString>("expression", "filtered", "found", "loaded");
         row("description", "needle", "", "beta", "beta");
         row("one field at a time", "beta 1-1", "beta", "", "");
         row("summary", "^modules summary$", "", "modules", "modules");
@@ -117,13 +106,7 @@ private Q_SLOTS:
 
     void sorts_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("expression");
-        QTest::addColumn<QString>("ascending");
-        const auto row = [](const char *name, int column, const char *expression,
-                            const char *ascending) {
-            QTest::newRow(name) << column << s(expression) << s(ascending);
-        };
+        columns<int, QString, QString>("column", "expression", "ascending");
         row("kind, then name", KindColumn, "(suite|Attic|Work|echo|alpha)",
             "tools-suite Attic Workshop alpha echo");
         row("state, then name", StateColumn, "(alpha|kernel|beta|Zulu|echo)",

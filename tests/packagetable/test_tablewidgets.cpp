@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "widgets/habstracttablemodel.h"
 #include "widgets/hsortfilterproxymodel.h"
 #include "widgets/htableview.h"
@@ -69,25 +71,16 @@ class TestTableWidgets : public QObject
 private Q_SLOTS:
     void sorts_data()
     {
-        QTest::addColumn<QVariantList>("values"); // of the rows named c, a, b
-        QTest::addColumn<QString>("ascending");
-        QTest::addColumn<QString>("descending");
-        QTest::newRow("integers") << QVariantList{10, 9, -1} << "bac"
-                                  << "cab";
-        QTest::newRow("64 bits") << QVariantList{1LL << 40, 5LL, 1LL << 33} << "abc"
-                                 << "cba";
-        QTest::newRow("doubles") << QVariantList{10.5, 9.25, 1e3} << "acb"
-                                 << "bca";
-        QTest::newRow("texts as code units") << QVariantList{u"10"_s, u"9"_s, u"Z"_s} << "cab"
-                                             << "bac";
-        QTest::newRow("not as a locale does") << QVariantList{u"a"_s, u"B"_s, u"ä"_s} << "acb"
-                                              << "bca";
-        QTest::newRow("dates") << QVariantList{QDate(2026, 1, 2), QDate(999, 1, 1),
-                                               QDate(2026, 1, 1)}
-                               << "abc"
-                               << "cba";
-        QTest::newRow("ties by the second column") << QVariantList{1, 1, 1} << "abc"
-                                                   << "cba";
+        // values: of the rows named c, a, b
+        columns<QVariantList, QString, QString>("values", "ascending", "descending");
+        row("integers", QVariantList{10, 9, -1}, "bac", "cab");
+        row("64 bits", QVariantList{1LL << 40, 5LL, 1LL << 33}, "abc", "cba");
+        row("doubles", QVariantList{10.5, 9.25, 1e3}, "acb", "bca");
+        row("texts as code units", QVariantList{u"10"_s, u"9"_s, u"Z"_s}, "cab", "bac");
+        row("not as a locale does", QVariantList{u"a"_s, u"B"_s, u"ä"_s}, "acb", "bca");
+        row("dates", QVariantList{QDate(2026, 1, 2), QDate(999, 1, 1), QDate(2026, 1, 1)}, "abc",
+            "cba");
+        row("ties by the second column", QVariantList{1, 1, 1}, "abc", "cba");
     }
 
     void sorts()
@@ -132,10 +125,9 @@ private Q_SLOTS:
 
     void columnWidths_data()
     {
-        QTest::addColumn<QString>("family");
-        QTest::addColumn<int>("size");
-        QTest::newRow("sans") << "DejaVu Sans" << 9;
-        QTest::newRow("serif") << "DejaVu Serif" << 11;
+        columns<QString, int>("family", "size");
+        row("sans", "DejaVu Sans", 9);
+        row("serif", "DejaVu Serif", 11);
     }
 
     // The widths are those of measuring every cell, however many cells are not.

@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "packagetable/menus.h"
 #include "packagetable/view.h"
 #include "tablecase.h"
@@ -82,15 +84,9 @@ private Q_SLOTS:
 
     void actionMenu_data()
     {
-        QTest::addColumn<QString>("selected");
-        QTest::addColumn<QString>("at");
-        QTest::addColumn<QString>("enabled");
-        QTest::addColumn<QString>("choice");
-        QTest::addColumn<QString>("actions"); // of alpha (updatable), beta (installable), echo
-        const auto row = [](const char *name, const char *selected, const char *at,
-                            const char *enabled, const char *choice, const char *actions) {
-            QTest::newRow(name) << s(selected) << s(at) << s(enabled) << s(choice) << s(actions);
-        };
+        // actions: of alpha (updatable), beta (installable), echo
+        columns<QString, QString, QString, QString, QString>("selected", "at", "enabled", "choice",
+                                                             "actions");
         row("installed", "", "echo", "RN", "R", "--R");
         row("updatable", "", "alpha", "URN", "R", "R--");
         row("installable", "", "beta", "IN", "I", "-I-");

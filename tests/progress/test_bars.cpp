@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "progress/generaltip.h"
 #include "progress/progress.h"
 
@@ -84,21 +86,19 @@ private Q_SLOTS:
 
     void tipRows_data()
     {
-        QTest::addColumn<QList<ThreadState>>("states");
-        QTest::addColumn<QStringList>("rows");
+        columns<QList<ThreadState>, QStringList>("states", "rows");
         const ThreadState idle;
         const ThreadState retrying{QStringLiteral("a"), 0, 10, 1};
         const ThreadState running{QStringLiteral("<b>"), 250, 1000, 2};
         const ThreadState unknown{QStringLiteral("c"), 250, 1, 2};
         const ThreadState finished{QStringLiteral("d"), 5, 5, 3};
-        QTest::newRow("each") << QList<ThreadState>{idle,    retrying, running,
-                                                    unknown, finished, idle}
-                              << words("a|Retrying|<b>|250 / 1000 (25%)|c|In Progress|d|Complete|"
-                                       "2 downloads|Not Started Yet");
-        QTest::newRow("25 finished, 3 running")
-            << QList<ThreadState>(3, running) + QList<ThreadState>(25, finished)
-            << words("25 downloads|Complete|<b>|250 / 1000 (25%)|<b>|250 / 1000 (25%)|"
-                     "<b>|250 / 1000 (25%)");
+        row("each", QList<ThreadState>{idle, retrying, running, unknown, finished, idle},
+            words("a|Retrying|<b>|250 / 1000 (25%)|c|In Progress|d|Complete|"
+                  "2 downloads|Not Started Yet"));
+        row("25 finished, 3 running",
+            QList<ThreadState>(3, running) + QList<ThreadState>(25, finished),
+            words("25 downloads|Complete|<b>|250 / 1000 (25%)|<b>|250 / 1000 (25%)|"
+                  "<b>|250 / 1000 (25%)"));
     }
 
     void tipRows()

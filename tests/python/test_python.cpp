@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "python/pyref.h"
 
 #include "python/python.h"
@@ -68,16 +70,15 @@ private Q_SLOTS:
 
     void calls_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QStringList>("reports");
+        columns<QByteArray, QStringList>("name", "reports");
 
-        QTest::newRow("works") << QByteArray("add") << QStringList();
-        QTest::newRow("missing") << QByteArray("sys.missing")
-                                 << QStringList{internal("%s not found\n", "missing"),
-                                                internal("%s not found\n", "sys.missing")};
-        QTest::newRow("not callable")
-            << QByteArray("number") << QStringList(internal("%s not callable\n", "number"));
-        QTest::newRow("raises") << QByteArray("colorsys.rgb_to_hsv") << QStringList(unexpected);
+        row("works", QByteArray("add"), QStringList());
+        row("missing", QByteArray("sys.missing"),
+            QStringList{internal("%s not found\n", "missing"),
+                        internal("%s not found\n", "sys.missing")});
+        row("not callable", QByteArray("number"),
+            QStringList(internal("%s not callable\n", "number")));
+        row("raises", QByteArray("colorsys.rgb_to_hsv"), QStringList(unexpected));
     }
 
     void calls()

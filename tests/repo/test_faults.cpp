@@ -3,6 +3,7 @@
 // happens.
 
 #include "configroot.h"
+#include "rows.h"
 
 #include <QProcess>
 #include <QTest>
@@ -210,8 +211,8 @@ private Q_SLOTS:
     void fileSystems_data()
     {
         QTest::addColumn<QString>("how");
-        QTest::newRow("full") << u"full"_s;
-        QTest::newRow("read-only") << u"readonly"_s;
+        row("full", "full");
+        row("read-only", "readonly");
     }
 
     void fileSystems()

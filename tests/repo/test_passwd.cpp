@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "kivvet/kivvet.h"
 #include "repo/passwdlineedit.h"
 #include "repo/passwdreal.h"
@@ -139,22 +141,18 @@ private Q_SLOTS:
     void initTestCase() { qApp->setCursorFlashTime(0); }
     void masks_data()
     {
-        QTest::addColumn<bool>("several");
-        QTest::addColumn<QString>("real");
-        QTest::addColumn<QString>("shown"); // with "*" for the mask character
+        // shown: with "*" for the mask character
+        columns<bool, QString, QString>("several", "real", "shown");
 
-        QTest::newRow("query") << false << url << u"http://h/kivvet?user=joe&pass=****&path=os"_s;
-        QTest::newRow("path") << false << u"h/rhel/u=joe/p=a.b-c/os"_s
-                              << u"h/rhel/u=joe/p=*****/os"_s;
-        QTest::newRow("no match") << false << u"h/kivvet?user=joe&pass=x"_s
-                                  << u"h/kivvet?user=joe&pass=x"_s;
-        QTest::newRow("outside the BMP")
-            << false << u"h/rhel/u=j/p=a😀/שלום"_s << u"h/rhel/u=j/p=***/שלום"_s;
-        QTest::newRow("several") << true << (url + u"\nhttp://plain/\n\nh/rhel/u=j/p=x\u00a0y/z"_s)
-                                 << u"http://h/kivvet?user=joe&pass=****&path=os\nhttp://plain/\n\n"
-                                    "h/rhel/u=j/p=x\u00a0y/z"_s;
-        QTest::newRow("two on a line") << true << u"h/rhel/u=j/p=א/שלום h/kivvet?a=b&c=dd&path=x"_s
-                                       << u"h/rhel/u=j/p=*/שלום h/kivvet?a=b&c=**&path=x"_s;
+        row("query", false, url, "http://h/kivvet?user=joe&pass=****&path=os");
+        row("path", false, "h/rhel/u=joe/p=a.b-c/os", "h/rhel/u=joe/p=*****/os");
+        row("no match", false, "h/kivvet?user=joe&pass=x", "h/kivvet?user=joe&pass=x");
+        row("outside the BMP", false, "h/rhel/u=j/p=a😀/שלום", "h/rhel/u=j/p=***/שלום");
+        row("several", true, (url + u"\nhttp://plain/\n\nh/rhel/u=j/p=x\u00a0y/z"_s),
+            "http://h/kivvet?user=joe&pass=****&path=os\nhttp://plain/\n\n"
+            "h/rhel/u=j/p=x\u00a0y/z");
+        row("two on a line", true, "h/rhel/u=j/p=א/שלום h/kivvet?a=b&c=dd&path=x",
+            "h/rhel/u=j/p=*/שלום h/kivvet?a=b&c=**&path=x");
     }
 
     void masks()
@@ -230,13 +228,12 @@ private Q_SLOTS:
 
     void keysLikeAPlainEditor_data()
     {
-        QTest::addColumn<bool>("several");
-        QTest::addColumn<QString>("start");
+        columns<bool, QString>("several", "start");
         const QString rtl = u"http://h/rhel/u=א/p=שלום/עולם"_s;
-        QTest::newRow("line") << false << url;
-        QTest::newRow("line, right to left") << false << rtl;
-        QTest::newRow("text") << true << (url + u'\n' + url);
-        QTest::newRow("text, right to left") << true << (rtl + u'\n' + url);
+        row("line", false, url);
+        row("line, right to left", false, rtl);
+        row("text", true, (url + u'\n' + url));
+        row("text, right to left", true, (rtl + u'\n' + url));
     }
 
     // Whatever is typed, the real text, the cursor and the selection are those of an editor that
@@ -520,8 +517,8 @@ private:
     static void kinds()
     {
         QTest::addColumn<bool>("several");
-        QTest::newRow("line") << false;
-        QTest::newRow("text") << true;
+        row("line", false);
+        row("text", true);
     }
 };
 

@@ -1,4 +1,5 @@
 #include "configroot.h"
+#include "rows.h"
 
 #include <QTest>
 
@@ -66,36 +67,33 @@ private Q_SLOTS:
 
     void contents_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("entries");    // as described() has them
-        QTest::addColumn<QByteArray>("written"); // empty: the bytes themselves
-        QTest::newRow("sections")
-            << QByteArray("name=lost\n# lost too\n[one]\n# kept\nname=One\nname=First\n\n"
-                          "enabled=no\ngpgkey=file:///k\n   http://k\n[two]\nenabled: 0\n"
-                          "gpgcheck=0\n[ three ]")
-            << u"1 one, First, enabled 2 gpgcheck 1, # kept;gpgkey=file:///k;   http://k;|"
-               "2 two, , enabled 0 gpgcheck 0, |3  three , , enabled 1 gpgcheck 1, "_s
-            << QByteArray("[one]\nname=First\nenabled=1\n# kept\ngpgkey=file:///k\n   http://k\n\n"
-                          "[two]\nenabled=0\ngpgcheck=0\n\n[ three ]\n");
-        QTest::newRow("URLs")
-            << QByteArray("[a]\nbaseurl = http://one/ \thttp://two/\n  http://three/ \n"
-                          "mirrorlist=http://m/?a=$b  c\n")
-            << u"1 a, , enabled 1 gpgcheck 1, http://one/;http://two/;http://three/;"
-               "http://m/?a=$b  c"_s
-            << QByteArray("[a]\nbaseurl=http://one/\n        http://two/\n        http://three/\n"
-                          "mirrorlist=http://m/?a=$b  c\n");
+        // entries: as described() has them; written: empty: the bytes themselves
+        columns<QByteArray, QString, QByteArray>("bytes", "entries", "written");
+        row("sections",
+            QByteArray("name=lost\n# lost too\n[one]\n# kept\nname=One\nname=First\n\n"
+                       "enabled=no\ngpgkey=file:///k\n   http://k\n[two]\nenabled: 0\n"
+                       "gpgcheck=0\n[ three ]"),
+            "1 one, First, enabled 2 gpgcheck 1, # kept;gpgkey=file:///k;   http://k;|"
+            "2 two, , enabled 0 gpgcheck 0, |3  three , , enabled 1 gpgcheck 1, ",
+            QByteArray("[one]\nname=First\nenabled=1\n# kept\ngpgkey=file:///k\n   http://k\n\n"
+                       "[two]\nenabled=0\ngpgcheck=0\n\n[ three ]\n"));
+        row("URLs",
+            QByteArray("[a]\nbaseurl = http://one/ \thttp://two/\n  http://three/ \n"
+                       "mirrorlist=http://m/?a=$b  c\n"),
+            "1 a, , enabled 1 gpgcheck 1, http://one/;http://two/;http://three/;"
+            "http://m/?a=$b  c",
+            QByteArray("[a]\nbaseurl=http://one/\n        http://two/\n        http://three/\n"
+                       "mirrorlist=http://m/?a=$b  c\n"));
         const QString plain = u"1 a, %1, enabled 1 gpgcheck 1, %2"_s;
-        QTest::newRow("UTF-8") << QByteArray("[a]\nname=caf\xc3\xa9\nx=\xf0\x9f\x98\x80\n")
-                               << plain.arg(u"café"_s, u"x=😀;"_s) << QByteArray();
-        QTest::newRow("Latin-1") << QByteArray("[a]\nname=caf\xe9\nx=\xc3\xa9\x80\xff\n")
-                                 << plain.arg(u"café"_s, u"x=\u00c3\u00a9\u0080\u00ff;"_s)
-                                 << QByteArray();
+        row("UTF-8", QByteArray("[a]\nname=caf\xc3\xa9\nx=\xf0\x9f\x98\x80\n"),
+            plain.arg(u"café"_s, u"x=😀;"_s), QByteArray());
+        row("Latin-1", QByteArray("[a]\nname=caf\xe9\nx=\xc3\xa9\x80\xff\n"),
+            plain.arg(u"café"_s, u"x=\u00c3\u00a9\u0080\u00ff;"_s), QByteArray());
         const QString zero(QChar(0));
-        QTest::newRow("NUL and CR")
-            << QByteArray("[a]\nname=x\0y\r\nz=\0\0\n", 19)
-            << plain.arg(u'x' + zero + u"y\r"_s, u"z="_s + zero + zero + u';') << QByteArray();
-        QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf[a]\nname=x\n\xef\xbb\xbf=y\n")
-                                         << plain.arg(u"x"_s, u"\ufeff=y;"_s) << QByteArray();
+        row("NUL and CR", QByteArray("[a]\nname=x\0y\r\nz=\0\0\n", 19),
+            plain.arg(u'x' + zero + u"y\r"_s, u"z="_s + zero + zero + u';'), QByteArray());
+        row("byte order mark", QByteArray("\xef\xbb\xbf[a]\nname=x\n\xef\xbb\xbf=y\n"),
+            plain.arg(u"x"_s, u"\ufeff=y;"_s), QByteArray());
     }
 
     void contents()
@@ -120,16 +118,16 @@ private Q_SLOTS:
 
     void usedRepositories_data()
     {
-        QTest::addColumn<QString>("requests"); // "+" or "-" and a pattern, separated by blanks
-        QTest::addColumn<QString>("used");
-        QTest::newRow("as the file says") << u""_s << u"base base/os"_s;
-        QTest::newRow("whole, with a slash") << u"-base*"_s << u""_s;
-        QTest::newRow("not a part") << u"-bas -ase +Base"_s << u"base base/os"_s;
-        QTest::newRow("question mark") << u"-base?os"_s << u"base"_s;
-        QTest::newRow("class with a slash") << u"-base[/-]*"_s << u"base"_s;
-        QTest::newRow("negated class") << u"-b[!a]*"_s << u"base base/os"_s;
-        QTest::newRow("the last wins") << u"-* +b*s +*]"_s << u"b[x] base/os"_s;
-        QTest::newRow("dots are dots") << u"-b..."_s << u"base base/os"_s;
+        // requests: "+" or "-" and a pattern, separated by blanks
+        columns<QString, QString>("requests", "used");
+        row("as the file says", "", "base base/os");
+        row("whole, with a slash", "-base*", "");
+        row("not a part", "-bas -ase +Base", "base base/os");
+        row("question mark", "-base?os", "base");
+        row("class with a slash", "-base[/-]*", "base");
+        row("negated class", "-b[!a]*", "base base/os");
+        row("the last wins", "-* +b*s +*]", "b[x] base/os");
+        row("dots are dots", "-b...", "base base/os");
     }
 
     void usedRepositories()
@@ -154,13 +152,12 @@ private Q_SLOTS:
 
     void malformed_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("line");
-        QTest::newRow("blank behind") << QByteArray("[a]\n[b] \n") << u"[b] "_s;
-        QTest::newRow("carriage return") << QByteArray("[a]\r\nname=x\r\n") << u"[a]\r"_s;
-        QTest::newRow("continued") << QByteArray("[a]\n  x\n") << u"[a]\n  x"_s;
-        QTest::newRow("password") << QByteArray("[a http://h/kivvet?u=n&p=secret&path=x\n")
-                                  << u"[a http://h/kivvet?u=n&p=******&path=x"_s;
+        columns<QByteArray, QString>("bytes", "line");
+        row("blank behind", QByteArray("[a]\n[b] \n"), "[b] ");
+        row("carriage return", QByteArray("[a]\r\nname=x\r\n"), "[a]\r");
+        row("continued", QByteArray("[a]\n  x\n"), "[a]\n  x");
+        row("password", QByteArray("[a http://h/kivvet?u=n&p=secret&path=x\n"),
+            "[a http://h/kivvet?u=n&p=******&path=x");
     }
 
     void malformed()
@@ -219,19 +216,15 @@ private Q_SLOTS:
 
     void validates_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("question");
-        QTest::addColumn<QString>("survivors");
+        columns<QByteArray, QString, QString>("bytes", "question", "survivors");
         const QString empty = u"A repository has no Identifier.  It will be removed."_s;
         const QString twice =
             u"Two or more repositories have the same Identifier(s), %1.  Only one "
             "repository will be applied for each Identifier."_s;
-        QTest::newRow("empty") << QByteArray("[]\n[a]\n") << empty << u"2 a"_s;
-        QTest::newRow("twice") << QByteArray("[a]\n[b]\n[a]\n[A]\n") << twice.arg(u"a"_s)
-                               << u"1 a|2 b|4 A"_s;
-        QTest::newRow("once per pair")
-            << QByteArray("[a]\n[b]\n[a]\n[]\n[b]\n[a]\n")
-            << (empty + u'\n' + twice.arg(u"a, a, b, a"_s)) << u"1 a|2 b"_s;
+        row("empty", QByteArray("[]\n[a]\n"), empty, "2 a");
+        row("twice", QByteArray("[a]\n[b]\n[a]\n[A]\n"), twice.arg(u"a"_s), "1 a|2 b|4 A");
+        row("once per pair", QByteArray("[a]\n[b]\n[a]\n[]\n[b]\n[a]\n"),
+            (empty + u'\n' + twice.arg(u"a, a, b, a"_s)), "1 a|2 b");
     }
 
     void validates()
@@ -322,16 +315,13 @@ private Q_SLOTS:
 
     void newFiles_data()
     {
-        QTest::addColumn<QString>("baseurl");
-        QTest::addColumn<QString>("others");
-        QTest::addColumn<int>("mode");
-        QTest::newRow("plain") << u"http://h:80/a@b/kivvet?u=&p=&path=x"_s
-                               << u"password=\n#password=x\nusername=joe\n"_s << 0644;
-        QTest::newRow("second URL")
-            << u"http://h/rhel/u=/p=/\nhttp://h/rhel/u=j/p=x/"_s << u""_s << 0600;
-        QTest::newRow("user information") << u"https://joe:pw@h/"_s << u""_s << 0600;
-        QTest::newRow("proxy's option") << u""_s << u"a=b\nproxy_password = x\n"_s << 0600;
-        QTest::newRow("proxy's URL") << u""_s << u"proxy=http://j:x@h:3128\n"_s << 0600;
+        columns<QString, QString, int>("baseurl", "others", "mode");
+        row("plain", "http://h:80/a@b/kivvet?u=&p=&path=x",
+            "password=\n#password=x\nusername=joe\n", 0644);
+        row("second URL", "http://h/rhel/u=/p=/\nhttp://h/rhel/u=j/p=x/", "", 0600);
+        row("user information", "https://joe:pw@h/", "", 0600);
+        row("proxy's option", "", "a=b\nproxy_password = x\n", 0600);
+        row("proxy's URL", "", "proxy=http://j:x@h:3128\n", 0600);
     }
 
     void newFiles()
@@ -355,18 +345,18 @@ private Q_SLOTS:
 
     void strangeFiles_data()
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<QString>("message"); // empty: it is read over
+        // message: empty: it is read over
+        columns<QString, QString>("kind", "message");
         const QString unreadable = u"Unable to read repository configuration file %1; "_s;
         const QString absent = u"Unable to stat repository configuration file %1; errno = "_s;
-        QTest::newRow("directory") << u"directory"_s << u""_s;
-        QTest::newRow("null device") << u"null"_s << u""_s;
-        QTest::newRow("pipe") << u"pipe"_s << unreadable;
-        QTest::newRow("socket") << u"socket"_s << unreadable;
-        QTest::newRow("dangling link") << u"dangling"_s << absent + u'2';
-        QTest::newRow("link to itself") << u"loop"_s << absent + u"40"_s;
-        QTest::newRow("no right to read") << u"unreadable"_s << u""_s;
-        QTest::newRow("a name that is no text") << u"bytes"_s << u""_s;
+        row("directory", "directory", "");
+        row("null device", "null", "");
+        row("pipe", "pipe", unreadable);
+        row("socket", "socket", unreadable);
+        row("dangling link", "dangling", absent + u'2');
+        row("link to itself", "loop", absent + u"40"_s);
+        row("no right to read", "unreadable", "");
+        row("a name that is no text", "bytes", "");
     }
 
     void strangeFiles()
@@ -485,18 +475,18 @@ private Q_SLOTS:
 
     void isLinear_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("least"); // of what is written
+        // least: of what is written
+        columns<QByteArray, int>("bytes", "least");
         constexpr int much = 10'000'000;
         QByteArray repositories;
         for (int i = 0; i < 20'000; ++i)
             repositories += "[id" + QByteArray::number(i) + "]\nname=x\n\n";
-        QTest::newRow("one long line") << "[a]\nx=" + QByteArray(much, 'y') << much;
-        QTest::newRow("no line feed") << "[a]\nx=" + QByteArray(much, '\0') << much;
-        QTest::newRow("continued lines")
-            << "[a]\nbaseurl=x\n" + QByteArray(" http://h/\n").repeated(200'000) << 2'000'000;
-        QTest::newRow("many repositories") << repositories << 300'000;
-        QTest::newRow("one identifier") << QByteArray("[same]\n\n").repeated(50'000) << 7;
+        row("one long line", "[a]\nx=" + QByteArray(much, 'y'), much);
+        row("no line feed", "[a]\nx=" + QByteArray(much, '\0'), much);
+        row("continued lines", "[a]\nbaseurl=x\n" + QByteArray(" http://h/\n").repeated(200'000),
+            2'000'000);
+        row("many repositories", repositories, 300'000);
+        row("one identifier", QByteArray("[same]\n\n").repeated(50'000), 7);
     }
 
     // Sizes at which anything that grows with the square would take minutes.

@@ -7,12 +7,16 @@ import pathlib
 import select
 import shlex
 import subprocess
+import sys
 import time
 
 CHECKOUT = pathlib.Path(__file__).resolve().parent.parent.parent
 SANDBOX = CHECKOUT / "tools" / "sandbox"
 BUILD = pathlib.Path(os.environ.get("VOK_BUILD", CHECKOUT / "build" / "release"))
 UPDATE, INSTALL, REMOVE, NONE = range(4)
+
+sys.path.insert(0, str(CHECKOUT / "tools"))
+from guidriver import Program  # noqa: E402
 
 
 class Recorder:
@@ -57,6 +61,15 @@ class Recorder:
         self.do("press", button=button)
         return self.do("wait")
 
+    def logged(self):
+        """The texts of the log, one a line."""
+        return "\n".join(text for _, _, text in self.do("log")["log"])
+
+    def marked(self):
+        """{name: action} of the marked rows, in order of the names."""
+        table = self.do("rows")["table"]
+        return {name: action for name, (_, _, _, action) in table.items() if action != NONE}
+
     def close(self):
         """Ends the program by its menu, or by force when a job still runs; returns its exit status."""
         try:
@@ -74,3 +87,12 @@ class Recorder:
 
     def __exit__(self, *_):
         self.close()
+
+
+def start_program(case, root, *arguments):
+    """Starts the real program on a root, for as long as a test case runs; needs a screen."""
+    os.environ["VOKSHARE"] = str(BUILD / "share" / "vok")
+    case.addCleanup(os.environ.pop, "VOKSHARE", None)
+    program = Program([SANDBOX, "run", root, "--", BUILD / "bin" / "vok", *arguments], root / "vok.output")
+    case.addCleanup(program.kill)
+    return program

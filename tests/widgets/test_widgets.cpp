@@ -1,3 +1,5 @@
+#include "rows.h"
+
 #include "widgets/htextedit.h"
 #include "widgets/messagebox.h"
 #include "widgets/scrollabledialogs.h"
@@ -32,16 +34,13 @@ class TestWidgets : public QObject
 private Q_SLOTS:
     void messageBox_data()
     {
-        QTest::addColumn<QStringList>("buttons");
-        QTest::addColumn<int>("defaultButton");
-        QTest::addColumn<int>("escapeButton");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<int>("result");
+        columns<QStringList, int, int, QString, int>("buttons", "defaultButton", "escapeButton",
+                                                     "answer", "result");
         const QStringList none(3), three{u"&A"_s, u"&B"_s, u"&C"_s};
-        QTest::newRow("ok by escape") << none << 0 << -1 << u"escape"_s << 0;
-        QTest::newRow("last") << three << 0 << 1 << u"button2"_s << 2;
-        QTest::newRow("default") << three << 2 << 1 << u"return"_s << 2;
-        QTest::newRow("escape") << three << 2 << 1 << u"escape"_s << 1;
+        row("ok by escape", none, 0, -1, "escape", 0);
+        row("last", three, 0, 1, "button2", 2);
+        row("default", three, 2, 1, "return", 2);
+        row("escape", three, 2, 1, "escape", 1);
     }
 
     void messageBox()
@@ -79,12 +78,11 @@ private Q_SLOTS:
 
     void confirm_data()
     {
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<int>("result");
-        QTest::newRow("no") << u"noButton"_s << 0;
-        QTest::newRow("return") << u"return"_s << 1;
-        QTest::newRow("escape") << u"escape"_s << 0;
-        QTest::newRow("close") << u"close"_s << 0;
+        columns<QString, int>("answer", "result");
+        row("no", "noButton", 0);
+        row("return", "return", 1);
+        row("escape", "escape", 0);
+        row("close", "close", 0);
     }
 
     void confirm()
@@ -100,12 +98,11 @@ private Q_SLOTS:
 
     void scrollableSizes_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("scrolls");
+        columns<QString, bool>("text", "scrolls");
         const QString line = u"glibc-2.36-9.x86_64\tbase\t5 M\n"_s;
-        QTest::newRow("3 lines") << line.repeated(3) << false;
-        QTest::newRow("3000 lines") << line.repeated(3000) << true;
-        QTest::newRow("long line") << u"word "_s.repeated(50000) << true;
+        row("3 lines", line.repeated(3), false);
+        row("3000 lines", line.repeated(3000), true);
+        row("long line", u"word "_s.repeated(50000), true);
     }
 
     void scrollableSizes()

@@ -144,6 +144,12 @@ class Suite:
         return path in inputs or path.endswith(".h") and any(
             os.path.dirname(one) == os.path.dirname(path) for one in inputs)
 
+    def _is_near(self, name, path):
+        """Whether a test belongs to the room of the file."""
+        rooms = {"yumio": ("yumio", "engine")}.get(path.split("/")[1], (path.split("/")[1],))
+        return any(one.split("/")[:2] == ["tests", room] for room in rooms
+                   for one in self._native.get(name, ((), ()))[1])
+
     def seeing(self, path, system):
         """The tests that could see a change of the file, the nearest and quickest first. Those of
         tests/system are among them for the script, and for other files when `system` is true."""
@@ -158,11 +164,9 @@ class Suite:
         driving = r'"share"|\bBUILD\b' if script else r"\bBUILD\b"
         python = [name for name, text in self._system.items() if re.search(driving, text)
                   and (script or system and self._sees(self._programs, path))]
-        room = "tests/" + path.split("/")[1]
 
         def distance(name):
-            near = any(os.path.dirname(one) == room for one in self._native.get(name, ((), ()))[1])
-            return name in self._system, not near, self.times().get(name) or 0
+            return name in self._system, not self._is_near(name, path), self.times().get(name) or 0
 
         return sorted(native + python, key=distance)
 
@@ -175,15 +179,13 @@ class Suite:
         return kept["times"] if kept["digest"] == self._digest else {}
 
     def measure(self, path, system, tell):
-        """Builds the unchanged tree as far as the tests need it that see the file, and runs those of them
-        that were not measured yet."""
-        names = self.seeing(path, system)
-        tell(f"building the copy for {path} ...")
-        self.build(names)
+        """Runs those of the tests that see the file on the unchanged tree that were not measured yet."""
         times = self.times()
+        names = [name for name in self.seeing(path, system) if name not in times]
+        if names:
+            tell(f"building the copy for {path} ...")
+            self.build(names)
         for name in names:
-            if name in times:
-                continue
             start = time.monotonic()
             good, output = self.test(name, 1800)
             times[name] = time.monotonic() - start if good else None
@@ -206,15 +208,17 @@ class Suite:
         text = target.read_text(encoding="utf-8")
         target.write_text(text[:site.start] + site.new + text[site.end:], encoding="utf-8")
         try:
-            names = self.seeing(path, system)
-            if not self.build(names, changed=True):
-                return None
             times = self.times()
-            for name in (name for name in names if times[name] is not None):
-                allowed = LEAST + FACTOR * times[name]
-                good, output = self.test(name, allowed)
-                if not good:
-                    return name, good is None or "***Timeout" in output
+            names = [name for name in self.seeing(path, system) if times[name] is not None]
+            near = [name for name in names if self._is_near(name, path)]
+            for some in (near, [name for name in names if name not in near]):
+                # Most changes are noticed next to where they are, and the rest need not be linked.
+                if some and not self.build(some, changed=True):
+                    return None
+                for name in some:
+                    good, output = self.test(name, LEAST + FACTOR * times[name])
+                    if not good:
+                        return name, good is None or "***Timeout" in output
             return None, False
         finally:
             target.write_text(text, encoding="utf-8")
