@@ -4,20 +4,15 @@ table can be used afterwards."""
 
 import fcntl
 import os
-import pathlib
 import sqlite3
 import subprocess
-import sys
-import tempfile
 import unittest
 
+import scriptdriver
 from httpserver import Server
-from recorder import BUILD, CHECKOUT, INSTALL, NONE, SANDBOX, Recorder
+from recorder import INSTALL, NONE, SANDBOX, Recorder, start_program
+from guidriver import Screen, wait_for
 from scriptdriver import mounted
-
-sys.path.insert(0, str(CHECKOUT / "tools"))
-import guidriver  # noqa: E402
-from guidriver import Program, Screen, wait_for  # noqa: E402
 
 # Takes a lock file as the program and DNF do, and holds it until its standard input ends.
 HOLD = "import fcntl, os, sys; f = open(sys.argv[1], 'r+'); fcntl.flock(f, fcntl.LOCK_EX); " \
@@ -31,22 +26,16 @@ CURL = r"Curl error \(%d\)"
 REFUSED = CURL % 60 + r".*\]: \w"
 
 
-class Case(unittest.TestCase):
+class Case(scriptdriver.Case):
     @classmethod
     def setUpClass(cls):
-        place = tempfile.TemporaryDirectory(prefix="vok-faults-")
-        cls.addClassCleanup(place.cleanup)
-        cls.model = pathlib.Path(place.name, "model")
-        subprocess.run([SANDBOX, "create", cls.model], check=True, stdout=subprocess.DEVNULL)
-        for path in (cls.model / "etc/yum.repos.d").iterdir():
+        super().setUpClass()
+        for path in (cls.place / "model/etc/yum.repos.d").iterdir():
             if path.name != "Aster-Base.repo":
                 path.unlink()
 
     def setUp(self):
-        place = tempfile.TemporaryDirectory(prefix="vok-faults-")
-        self.addCleanup(place.cleanup)
-        self.root = pathlib.Path(place.name, "root")
-        subprocess.run([SANDBOX, "copy", self.model, self.root], check=True)
+        self.root = super().root()
         self.repositories = self.root / "srv/repos/9/x86_64"
 
     def serve(self, *urls, **options):
@@ -75,13 +64,6 @@ class Case(unittest.TestCase):
         for pattern in patterns:
             self.assertRegex(dialogs[0]["text"], pattern)
         return dialogs[0]["text"]
-
-    def marked(self, window):
-        table = window.do("rows")["table"]
-        return sorted(name for name, row in table.items() if row[3] != NONE)
-
-    def logged(self, window):
-        return "\n".join(text for _, _, text in window.do("log")["log"])
 
     def installed(self, *names):
         done = subprocess.run([SANDBOX, "rpm", self.root, "-q", *names], text=True,
@@ -152,9 +134,9 @@ class Downloads(Case):
                         table = window.do("rows")["table"]
                         self.assertEqual("bulk-001" in table, present)
                         self.assertIn("archiver", table)
-                        self.assertRegex(self.logged(window), told)
-                self.assertNotIn(PASSWORD, self.logged(window))
-                self.assertNotIn("se@cret", self.logged(window))
+                        self.assertRegex(window.logged(), told)
+                self.assertNotIn(PASSWORD, window.logged())
+                self.assertNotIn("se@cret", window.logged())
 
     def test_packages(self):
         with Server(self.repositories) as server:
@@ -169,12 +151,12 @@ class Downloads(Case):
                         server.misbehave("only=*.rpm;" + behaviour)
                         self.one(self.apply(window, "bulk-001"), "^Unable to apply changes: ",
                                  "bulk-001-1.0-1.*" + reason)
-                        self.assertEqual(self.marked(window), ["bulk-001"])
+                        self.assertEqual([*window.marked()], ["bulk-001"])
                 server.misbehave("")
                 self.serve(server.url("bulk/", "only=*.rpm;status=503"), server.url("bulk/"))
                 window.job("refreshButton")
                 self.assertEqual(self.apply(window, "bulk-001"), [])
-                self.assertIn("Status code: 503", self.logged(window))
+                self.assertIn("Status code: 503", window.logged())
             self.assertTrue(self.installed("bulk-001"))
 
     def test_cancel(self):
@@ -194,8 +176,8 @@ class Downloads(Case):
                         window.do("cancelAt", state=state)
                         self.assertEqual(start(), [])
                         self.assertEqual(window.do("rows")["rows"], rows)
-                        self.assertEqual(self.marked(window), ["bulk-001"])
-                        self.assertIn("Cancelled by the user", self.logged(window))
+                        self.assertEqual([*window.marked()], ["bulk-001"])
+                        self.assertIn("Cancelled by the user", window.logged())
                 server.misbehave("")
                 self.assertEqual(self.apply(window, "bulk-001"), [])
             self.assertTrue(self.installed("bulk-001"))
@@ -233,12 +215,12 @@ class Locks(Case):
             history = self.locked(self.root / "var/lib/dnf/history.sqlite")
             self.one(self.apply(window, "twice"), "history.*database is locked")
             self.assertEqual(window.do("rows")["rows"], rows)
-            self.assertEqual(self.marked(window), ["twice"])
+            self.assertEqual([*window.marked()], ["twice"])
             history.close()
 
             database = self.locked(self.root / "var/lib/rpm/rpmdb.sqlite")
             window.do("press", button="applyButton")
-            wait_for(lambda: f"process {os.getpid()} " in self.logged(window), "the name of the holder")
+            wait_for(lambda: f"process {os.getpid()} " in window.logged(), "the name of the holder")
             database.close()
             self.assertEqual(window.do("wait")["dialogs"][1:], [])
             self.assertTrue(self.installed("twice"))
@@ -261,7 +243,7 @@ class FileSystems(Case):
         with self.start("mount -t tmpfs -o size=20m none ROOT/usr/share") as window:
             window.do("wait")
             self.one(self.apply(window, "heavy"), "heavy-1.0-1.*48MB more space.*/usr/share")
-            self.assertEqual(self.marked(window), ["heavy"])
+            self.assertEqual([*window.marked()], ["heavy"])
         with Server(self.repositories) as server:
             self.serve(server.url("extras/"))
             (self.root / "etc/yum.repos.d/Aster-Base.repo").unlink()
@@ -275,59 +257,34 @@ class FileSystems(Case):
         with self.start("mount --bind ROOT ROOT && mount -o remount,ro,bind ROOT && cd ROOT") as window:
             self.assertEqual(window.do("wait")["dialogs"], [])
             self.one(self.apply(window, "twice"), "package database in /var/lib/rpm", "read-only")
-            self.assertEqual(self.marked(window), ["twice"])
+            self.assertEqual([*window.marked()], ["twice"])
 
 
 class Termination(Case):
-    """SIGTERM to the real program."""
-
-    def start(self, *arguments):
-        program = Program([SANDBOX, "run", self.root, "--", BUILD / "bin" / "vok", *arguments],
-                          self.root / "vok.output")
-        self.addCleanup(program.kill)
-        return program
-
     def settled(self):
         """Nothing is left that only a running program has, and rpm's database is sound."""
         self.assertEqual((self.root / "run/vok/vok.lock").read_text(), "")
         self.assertEqual([*(self.root / "var/lib/vok").glob("*")], [])
         subprocess.run([SANDBOX, "rpm", self.root, "--verifydb"], check=True)
 
-    def test_at_any_time(self):
-        configuration = self.root / "etc/yum.conf"
-        before = configuration.read_bytes()
+    def test_terminated(self):
+        """By SIGTERM, while it downloads and when it is at rest."""
+        before = (self.root / "etc/yum.conf").read_bytes()
         with Server(self.repositories) as server, Screen():
-            os.environ["VOKSHARE"] = str(BUILD / "share" / "vok")
             self.serve(server.url("bulk/", "only=*primary*;stall=50"), timeout=60)
-            program = self.start()
-            guidriver.wait_for(lambda: any("primary" in path for _, path, _ in server.requests()),
-                               "the download")
+            program = start_program(self, self.root)
+            wait_for(lambda: any("primary" in path for _, path, _ in server.requests()), "the download")
             program.process.terminate()
             self.assertEqual(program.end(), 0)
             self.settled()
 
             self.serve(f"file://{self.repositories}/extras")
-            program = self.start()
+            program = start_program(self, self.root)
             program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
-            program.process.terminate()
-            self.assertEqual(program.end(), 0)
-            self.settled()
-
-            program = self.start("-s", "installable", "-e", "^slow-[12] ")
-            program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
-            for row in range(2):
-                cells = program.find(("table", "tree table")).get_table_iface()
-                program.click(cells.get_accessible_at(row, 0))
-            program.click(program.find("push button", "Apply Actions"))
-            question = program.find("dialog", "Apply")
-            program.click(program.find("push button", "OK", question))
-            marker = self.root / "var/lib/vok/transaction.json"
-            guidriver.wait_for(marker.exists, "the transaction")
             program.process.terminate()
             self.assertEqual(program.end(), 0)
         self.settled()
-        self.assertTrue(self.installed("slow-1", "slow-2"))
-        self.assertEqual(configuration.read_bytes(), before)
+        self.assertEqual((self.root / "etc/yum.conf").read_bytes(), before)
 
 
 if __name__ == "__main__":

@@ -8,15 +8,11 @@ import pathlib
 import re
 import signal
 import subprocess
-import sys
 import unittest
 
-from scriptdriver import CHECKOUT, SANDBOX, Case, calls, run, tool
-
-sys.path.insert(0, str(CHECKOUT / "tools"))
-from guidriver import Program, Screen, key, wait_for  # noqa: E402
-
-BUILD = pathlib.Path(os.environ.get("VOK_BUILD", CHECKOUT / "build" / "release"))
+from recorder import start_program
+from scriptdriver import SANDBOX, Case, calls, run, tool
+from guidriver import Screen, key, wait_for
 
 UPDATE, REMOVE = ["clock", "bellows", "confy"], ["compass"]
 NEVER = {"killAt": ["never", 0]}  # allows that a scenario is killed from outside
@@ -202,14 +198,6 @@ class RealProgram(Case):
     def setUpClass(cls):
         super().setUpClass()
         cls.enterClassContext(Screen())
-        os.environ["VOKSHARE"] = str(BUILD / "share/vok")
-        cls.addClassCleanup(os.environ.pop, "VOKSHARE")
-
-    def start(self, root, *arguments):
-        program = Program([SANDBOX, "run", root, "--", BUILD / "bin/vok", *arguments],
-                          self.place / "output")
-        self.addCleanup(program.kill)
-        return program
 
     def apply_listed(self, program, count):
         """Marks the rows that are listed, a known number of them, and applies."""
@@ -224,13 +212,13 @@ class RealProgram(Case):
 
     def test_killed_and_started_again(self):
         root = self.root()
-        program = self.start(root, "-s", "all", "-e", "^slow-1 ")
+        program = start_program(self, root, "-s", "all", "-e", "^slow-1 ")
         self.apply_listed(program, 1)
         kill_in_scriptlet(root, "slow-1 post", lambda: program.process.pid)
         program.process.wait()
         tool(root, "rpm", "--verifydb")
 
-        program = self.start(root)
+        program = start_program(self, root)
         dialog = program.find("dialog", "VOK Interrupted Transaction")
         text = "\n".join(map(program.texts, program.walk(dialog)))
         self.assertIn("The last transaction was interrupted.\n1 of its 1 steps had been done.", text)
@@ -245,7 +233,7 @@ class RealProgram(Case):
         """What rpm has done is told: at once to who quits, at the next start after a SIGTERM."""
         for attended in (True, False):
             root = self.root()
-            program = self.start(root, "-s", "all", "-e", "^(slow-1|fail-post) ")
+            program = start_program(self, root, "-s", "all", "-e", "^(slow-1|fail-post) ")
             self.apply_listed(program, 2)
             wait_for_scriptlet(root, "slow-1 post")
             if attended:
@@ -254,12 +242,13 @@ class RealProgram(Case):
             else:
                 program.process.terminate()
                 self.assertEqual(program.end(), 0)
-                program = self.start(root)
+                program = start_program(self, root)
             dialog = program.find("dialog", "VOK Transaction Report")
             text = "\n".join(map(program.texts, program.walk(dialog)))
             self.assertIn("Transaction: 2 done, 0 failed, 0 skipped", text)
             self.assertIn("fail-post", text)
             key("Return")
+            tool(root, "rpm", "--verifydb")
             if not attended:
                 program.wait_enabled(program.find("push button", "Refresh"), "the window")
                 self.assertFalse((root / "var/lib/vok/report.txt").exists(), "it is shown once")

@@ -139,38 +139,6 @@ class Failures(Case):
             self.assertRegex(error[1], "file /.+ conflicts ")
             self.assertEqual(calls(result, "tsEvent"), [])
 
-    def test_signatures(self):
-        """Nothing is changed for a package that must not be trusted; a key is imported on a yes."""
-        for marked, key, enabled, outcome in (
-                ("unsigned", True, (), "unsigned-1.0-1.noarch cannot be trusted: .* not signed"),
-                ("damaged", True, (), "damaged-1.0-1.noarch cannot be trusted: .* damaged"),
-                ("foreign-key", False, (), "foreign-key-1.0-1.noarch cannot be trusted"),
-                ("needs-foreign", True, (), None),
-                ("anvil", True, ("foundry",), None)):
-            with self.subTest(marked):
-                root = self.root()
-                before = self.packages(root)
-                result, value, error = self.apply(root, {"install": [marked, "abacus"]}, key=key,
-                                                  enable=enabled)
-                questions = calls(result, "keyQuestion")
-                if outcome is None:
-                    self.assertEqual((value, error), (True, None))
-                    self.assertIn(marked, map(name_of, self.change(root, before)[0]))
-                else:
-                    self.assertRegex(error[1], outcome)
-                    self.assertEqual(self.packages(root), before)
-                    self.assertEqual(calls(result, "tsInitCallback"), [])
-                if marked in ("unsigned", "damaged"):
-                    continue
-                for key_id, owner, fingerprint, source in questions:
-                    self.assertTrue(fingerprint.endswith(key_id))
-                    self.assertIn("@foundry.example", owner)
-                    self.assertIn("file:///srv/repos/RPM-GPG-KEY-foundry", source)
-                self.assertEqual(len(questions), 2 if enabled else 1)
-        refused = run(self.root(), {"enable": ["foundry"], "steps": [{"do": "collect"}]})
-        self.assertEqual(refused["errors"][0][0], "RepoError")
-        self.assertIn("GPG", refused["errors"][0][1])
-
     @staticmethod
     def serve(root, urls, extra=""):
         path = pathlib.Path(root, "etc/yum.repos.d/aster-extras.repo")

@@ -63,7 +63,7 @@ class Table(Window):
         window = self.open(ours)
         for action, name, command in ((INSTALL, GAMES, "install games"), (UPDATE, "Office", "upgrade office"),
                                       (REMOVE, GAMES, "remove games"), (INSTALL, "Messages", "install messages"),
-                                      (UPDATE, "Science", "upgrade science")):
+                                      (UPDATE, "Messages", "upgrade messages")):
             with self.subTest(command):
                 self.assertEqual(self.titles(self.run_marks(window, {action: [name]})), ["Apply"])
                 tool(theirs, "dnf", "-y", "-q", "--noautoremove", "group", *command.split())
