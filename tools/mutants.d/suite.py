@@ -51,9 +51,11 @@ def limit():
 
 
 class Suite:
-    """The copy at `place`. Tests are named as ctest and tools/run-python-tests name them."""
+    """The copy at `place`. Tests are named as ctest and tools/run-python-tests name them. C++ is tested by
+    those of tests/system only when `system` is true, and by those of its own room alone when `near` is."""
 
-    def __init__(self, checkout, place, tests=None):
+    def __init__(self, checkout, place, tests=None, system=True, near=False):
+        self._system_too, self._near_only = system, near
         self.tree = place / "tree"
         self.build_directory = self.tree / "build" / "release"
         self._copy(checkout, tests_of(checkout, tests, place / "other") if tests else None)
@@ -150,9 +152,8 @@ class Suite:
         return any(one.split("/")[:2] == ["tests", room] for room in rooms
                    for one in self._native.get(name, ((), ()))[1])
 
-    def seeing(self, path, system):
-        """The tests that could see a change of the file, the nearest and quickest first. Those of
-        tests/system are among them for the script, and for other files when `system` is true."""
+    def seeing(self, path):
+        """The tests that could see a change of the file, the nearest and quickest first."""
         script = path.startswith("share/")
 
         def drives_script(inputs):
@@ -163,12 +164,14 @@ class Suite:
                   if (drives_script(inputs) if script else self._sees(inputs, path))]
         driving = r'"share"|\bBUILD\b' if script else r"\bBUILD\b"
         python = [name for name, text in self._system.items() if re.search(driving, text)
-                  and (script or system and self._sees(self._programs, path))]
+                  and (script or self._system_too and self._sees(self._programs, path))]
 
         def distance(name):
             return name in self._system, not self._is_near(name, path), self.times().get(name) or 0
 
-        return sorted(native + python, key=distance)
+        names = sorted(native + python, key=distance)
+        near = [name for name in names if self._is_near(name, path)]
+        return near if self._near_only and near else names
 
     def times(self):
         """{test: seconds, None when it fails} of those measured on the tree as it stands."""
@@ -178,10 +181,10 @@ class Suite:
             return {}
         return kept["times"] if kept["digest"] == self._digest else {}
 
-    def measure(self, path, system, tell):
+    def measure(self, path, tell):
         """Runs those of the tests that see the file on the unchanged tree that were not measured yet."""
         times = self.times()
-        names = [name for name in self.seeing(path, system) if name not in times]
+        names = [name for name in self.seeing(path) if name not in times]
         if names:
             tell(f"building the copy for {path} ...")
             self.build(names)
@@ -201,7 +204,7 @@ class Suite:
         return self.run(["ctest", "--test-dir", str(self.build_directory), "--no-tests=error", "--timeout",
                          str(int(seconds)), "--output-on-failure", "-R", f"^{re.escape(name)}$"], seconds)
 
-    def verdict(self, path, site, system):
+    def verdict(self, path, site):
         """(test that notices the change or None, whether by its time limit); None when the changed tree
         does not build. The tree is then as before."""
         target = self.tree / path
@@ -209,7 +212,7 @@ class Suite:
         target.write_text(text[:site.start] + site.new + text[site.end:], encoding="utf-8")
         try:
             times = self.times()
-            names = [name for name in self.seeing(path, system) if times[name] is not None]
+            names = [name for name in self.seeing(path) if times[name] is not None]
             near = [name for name in names if self._is_near(name, path)]
             for some in (near, [name for name in names if name not in near]):
                 # Most changes are noticed next to where they are, and the rest need not be linked.
