@@ -119,6 +119,8 @@ class Chapter:
         differences = []
         if not ran:
             differences += self._changed("VOK", self._place, before)
+            if records.last_transaction(self._place) != self._window_transaction:
+                differences.append("VOK alone: a transaction is recorded")
         differences += self._likewise(self._for_dnf(rows, marks), kinds, ran, before)
         self._explain(differences, rules.Step(self.lines, rows, marks, kinds))
         if any(row.action != window.NONE for row in self._window.rows()):
