@@ -183,8 +183,11 @@ bool YumIO::askSearchTexts(const SearchRequest &request, const QList<qsizetype> 
     const Steps count = Steps(missing.size());
     m_progress->startItem(tr("Reading packages"), count * readingShare, count);
     const PyRef packages(PyList_New(missing.size()));
-    for (qsizetype i = 0; i < missing.size(); ++i)
-        PyList_SET_ITEM(packages.get(), i, Py_NewRef(request.entries[missing[i]]->po));
+    for (qsizetype i = 0; i < missing.size(); ++i) {
+        PyObject *const po = request.entries[missing[i]]->po;
+        Py_INCREF(po);
+        PyList_SET_ITEM(packages.get(), i, po);
+    }
     const PyRef result(pyMethodCall(m_session.yumIO, "searchTexts", "(O,i,i)", packages.get(),
                                     int(m_session.fileLists), int(m_session.otherData)));
     const PyRef iterator(result ? PyObject_GetIter(result.get()) : nullptr);
