@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 #include <cerrno>
@@ -91,11 +92,13 @@ void Execute::execute(QWidget *parent, char **argv)
     const pid_t child = fork();
     if (child == -1) {
         const int error = errno;
-        QMessageBox::critical(parent, ExecuteTexts::tr("Help"),
-                              ExecuteTexts::tr("fork() failed; errno = %1 (%2)")
-                                  .arg(error)
-                                  .arg(QString::fromLocal8Bit(strerror(error))),
-                              QMessageBox::Ok);
+        QMessageBox box(QMessageBox::Critical, ExecuteTexts::tr("Help"),
+                        ExecuteTexts::tr("fork() failed; errno = %1 (%2)")
+                            .arg(error)
+                            .arg(QString::fromLocal8Bit(strerror(error))),
+                        QMessageBox::Ok, parent);
+        box.button(QMessageBox::Ok)->setIcon(QIcon()); // like the buttons of all boxes
+        box.exec();
         return;
     }
     if (child == 0) {

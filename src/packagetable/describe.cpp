@@ -2,12 +2,13 @@
 
 #include "app/fonts.h"
 #include "packagetable/describepage.h"
+#include "packagetable/fieldstext.h"
 #include "packagetable/filetree.h"
 #include "packagetable/icons.h"
 #include "progress/hprogressbar.h"
 #include "repo/repobrowse.h"
 #include "repo/yumconfio.h"
-#include "widgets/hscrollarea.h"
+#include "widgets/messagebox.h"
 #include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
 
@@ -18,6 +19,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QShortcut>
 #include <QTabWidget>
@@ -82,19 +84,23 @@ Dialog::Dialog(QWidget *parent)
     createPages();
     layout->addWidget(createProgress());
     layout->addLayout(createButtons());
-    connect(m_tabs, &QTabWidget::currentChanged, this, &Dialog::openPage);
-    // The texts keep these keys from the tabs.
-    const auto turn = [this](const QKeySequence &keys, int pages) {
-        auto *shortcut = new QShortcut(keys, this);
-        connect(shortcut, &QShortcut::activated, m_tabs, [this, pages] {
-            const int count = m_tabs->count();
-            m_tabs->setCurrentIndex((m_tabs->currentIndex() + pages + count) % count);
-        });
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        m_wantedPage = m_tabs->currentWidget();
+        openPage();
+    });
+    const auto onKeys = [this](const QKeySequence &keys, const std::function<void()> &act) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
     };
-    turn(QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1);
-    turn(QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1);
+    // The texts keep these keys from the tabs.
+    onKeys(Qt::CTRL | Qt::Key_PageDown, [this] { turnPages(1); });
+    onKeys(Qt::CTRL | Qt::Key_PageUp, [this] { turnPages(-1); });
+    // A button's own shortcut would take the place of its letter.
+    onKeys(Qt::ALT | Qt::Key_Up, [this] { m_previousButton->click(); });
+    onKeys(Qt::ALT | Qt::Key_Down, [this] { m_nextButton->click(); });
 
-    resize(QFontMetrics(font()).averageCharWidth() * 112, QFontMetrics(font()).height() * 34);
+    const QFontMetrics metrics(font());
+    resize(QSize(metrics.averageCharWidth() * 112, metrics.height() * 34)
+               .boundedTo(screen()->availableSize() * 9 / 10));
     restoreGeometry(settings().value(geometryKey).toByteArray());
 }
 
@@ -107,17 +113,9 @@ QLayout *Dialog::createHead()
     m_name = newLabel("nameLabel", this);
     m_name->setFont(Fonts::makeHeader(m_name->font()));
     m_facts = newLabel("factsLabel", this);
-    m_urlButton = newButton("urlButton", tr("Open &Web Page"), QString(), this);
-    m_browseButton = newButton("browseButton", tr("&Browse Repository"),
-                               tr("Show the files of the repository in the web browser"), this);
-    connect(m_urlButton, &QPushButton::clicked, this, &Dialog::openUrl);
-    connect(m_browseButton, &QPushButton::clicked, this, &Dialog::browseRepository);
-
     auto *row = new QHBoxLayout;
     row->addWidget(m_icon);
     row->addWidget(m_name, 1);
-    row->addWidget(m_urlButton);
-    row->addWidget(m_browseButton);
     auto *head = new QVBoxLayout;
     head->addLayout(row);
     head->addWidget(m_facts);
@@ -141,13 +139,15 @@ void Dialog::createPages()
                             void (Dialog::*fill)()) {
         auto *page = new Page(content, this);
         page->setObjectName(content->objectName() + QStringLiteral("Page"));
-        page->hide();
-        m_infos.push_back({page, title, data, fill});
+        m_infos.push_back({page, data, fill});
+        m_tabs->addTab(page, title);
         connect(page, &Page::retryAsked, this, &Dialog::openPage);
     };
     m_description = newText("description", tr("Description"));
     m_update = newText("update", tr("What the update changes"));
-    m_details = createDetails();
+    m_details = new FieldsText(this);
+    m_details->setObjectName(QStringLiteral("details"));
+    m_details->setAccessibleName(tr("Details"));
     QWidget *members = createMembers();
     m_relations = newText("relations", tr("Dependencies"));
     QWidget *files = createFiles();
@@ -161,14 +161,6 @@ void Dialog::createPages()
     add(tr("&Files"), files, Data::FileLists, &Dialog::fillFiles);
     add(tr("Change &Log"), m_changes, Data::Other, &Dialog::fillChanges);
     add(tr("&Required By"), m_requiredBy, Data::None, &Dialog::fillRequiredBy);
-}
-
-QWidget *Dialog::createDetails()
-{
-    auto *area = new HScrollArea(this);
-    area->setObjectName(QStringLiteral("details"));
-    area->setFrameShape(QFrame::NoFrame);
-    return area;
 }
 
 QWidget *Dialog::createFiles()
@@ -190,6 +182,14 @@ QWidget *Dialog::createFiles()
     m_fileTree->setUniformRowHeights(true);
     m_fileTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_fileTree->setModel(m_files);
+    // As wide as what is seen of it, so that a long path can be scrolled to.
+    m_fileTree->header()->setStretchLastSection(false);
+    m_fileTree->header()->setResizeContentsPrecision(0);
+    m_fileTree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    widget->setFocusProxy(m_fileTree);
+    connect(
+        new QShortcut(QKeySequence::Find, widget, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+        &QShortcut::activated, m_fileFilter, qOverload<>(&QWidget::setFocus));
 
     auto *copy = new QAction(tr("&Copy Paths"), m_fileTree);
     copy->setShortcut(QKeySequence::Copy);
@@ -258,19 +258,25 @@ QWidget *Dialog::createProgress()
 
 QLayout *Dialog::createButtons()
 {
-    m_previousButton =
-        newButton("previousButton", tr("&Previous"), tr("Describe the row above this one"), this);
-    m_nextButton =
-        newButton("nextButton", tr("Ne&xt"), tr("Describe the row below this one"), this);
+    m_previousButton = newButton("previousButton", tr("&Previous"),
+                                 tr("Describe the row above this one (Alt+Up)"), this);
+    m_nextButton = newButton("nextButton", tr("Ne&xt"),
+                             tr("Describe the row below this one (Alt+Down)"), this);
+    m_urlButton = newButton("urlButton", tr("Open &Web Page"), QString(), this);
+    m_browseButton = newButton("browseButton", tr("&Browse Repository"),
+                               tr("Show the files of the repository in the web browser"), this);
     m_closeButton = newButton("closeButton", tr("&Close"), QString(), this);
-    m_previousButton->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Up));
-    m_nextButton->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Down));
+    connect(m_urlButton, &QPushButton::clicked, this, &Dialog::openUrl);
+    connect(m_browseButton, &QPushButton::clicked, this, &Dialog::browseRepository);
     connect(m_previousButton, &QPushButton::clicked, this, [this] { Q_EMIT stepAsked(-1); });
     connect(m_nextButton, &QPushButton::clicked, this, [this] { Q_EMIT stepAsked(1); });
     connect(m_closeButton, &QPushButton::clicked, this, &QDialog::reject);
     auto *row = new QHBoxLayout;
     row->addWidget(m_previousButton);
     row->addWidget(m_nextButton);
+    row->addStretch();
+    row->addWidget(m_urlButton);
+    row->addWidget(m_browseButton);
     row->addStretch();
     row->addWidget(m_closeButton);
     return row;
@@ -285,6 +291,14 @@ void Dialog::config(YumIO *yumIO, Entry *entry, YumConfIO *yumConfIO)
     fillHead();
     choosePages();
     openPage();
+    m_tabs->currentWidget()->setFocus();
+}
+
+// What is loaded for a page is loaded where the user can see it.
+void Dialog::showEvent(QShowEvent *event)
+{
+    HDialog::showEvent(event);
+    QMetaObject::invokeMethod(this, &Dialog::openPage, Qt::QueuedConnection);
 }
 
 void Dialog::setSteps(bool previous, bool next)
@@ -294,18 +308,28 @@ void Dialog::setSteps(bool previous, bool next)
     updateButtons();
 }
 
-// The pages that fit the row; the one that was open stays so.
+// The pages that fit the row; the one that the user opened is open again where there is one.
 void Dialog::choosePages()
 {
     const QSignalBlocker blocker(m_tabs);
-    QWidget *const open = m_tabs->currentWidget();
-    m_tabs->clear();
+    QWidget *open = m_infos.front().page;
     for (PageInfo &info : m_infos) {
         info.page->setFilled(false);
-        if (hasPage(info))
-            m_tabs->addTab(info.page, info.title);
+        m_tabs->setTabVisible(m_tabs->indexOf(info.page), hasPage(info));
+        if (info.page == m_wantedPage && hasPage(info))
+            open = info.page;
     }
-    m_tabs->setCurrentIndex(qMax(0, m_tabs->indexOf(open)));
+    m_tabs->setCurrentWidget(open);
+}
+
+void Dialog::turnPages(int pages)
+{
+    const int count = m_tabs->count();
+    int index = m_tabs->currentIndex();
+    do {
+        index = (index + pages + count) % count;
+    } while (!m_tabs->isTabVisible(index));
+    m_tabs->setCurrentIndex(index);
 }
 
 bool Dialog::hasPage(const PageInfo &info) const
@@ -338,7 +362,7 @@ void Dialog::fillPage(PageInfo &info)
         info.page->showMessage(tr("Other data are being loaded; this page follows."), false);
         return;
     }
-    if (!isLoaded(info.data) && !load(info))
+    if (!isLoaded(info.data) && (!isVisible() || !load(info)))
         return;
     info.page->setFilled(true);
     (this->*info.fill)();
@@ -362,30 +386,35 @@ bool Dialog::load(PageInfo &info)
                            false);
     setLoading(true);
     bool loaded = false;
+    QString said;
     const YumIO::Surface window = m_yumIO->exchangeSurface({this, m_totalBar, m_itemBar});
-    const bool ran = m_runJob(
-        [&] { loaded = files ? m_yumIO->collectFileLists() : m_yumIO->collectOtherData(); });
+    const bool ran = m_runJob([&] {
+        said = m_yumIO->withoutBoxes(
+            [&] { loaded = files ? m_yumIO->collectFileLists() : m_yumIO->collectOtherData(); });
+    });
     m_yumIO->exchangeSurface(window);
     setLoading(false);
     if (m_closeAsked) {
-        HDialog::done(QDialog::Rejected);
-        return false;
-    }
-    if (!loaded) {
-        QString reason = tr("Another operation is running.");
-        if (ran)
-            reason = m_yumIO->wasCancelled() ? tr("Loading was cancelled.")
-                                             : tr("They could not be loaded; the log says why.");
-        info.page->showMessage((files ? tr("The file lists are not loaded.\n%1")
-                                      : tr("The change logs are not loaded.\n%1"))
-                                   .arg(reason),
-                               true);
+        done(QDialog::Rejected);
         return false;
     }
     // The user may have gone to another page meanwhile.
     if (m_tabs->currentWidget() != info.page)
         QMetaObject::invokeMethod(this, &Dialog::openPage, Qt::QueuedConnection);
-    return true;
+    if (loaded) {
+        if (!said.isEmpty())
+            showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Warning"), shown(said));
+        return true;
+    }
+    if (!ran)
+        said = tr("Another operation is running.");
+    else if (m_yumIO->wasCancelled())
+        said = tr("Loading was cancelled.");
+    info.page->showMessage((files ? tr("The file lists are not loaded.\n\n%1")
+                                  : tr("The change logs are not loaded.\n\n%1"))
+                               .arg(shown(said)),
+                           true);
+    return false;
 }
 
 void Dialog::setLoading(bool loading)
@@ -416,6 +445,7 @@ void Dialog::done(int result)
         return;
     }
     m_closeButton->setEnabled(true);
+    m_entry = nullptr; // whose life is the caller's again
     HDialog::done(result);
 }
 

@@ -3,6 +3,8 @@
 #include "packagetable/model.h"
 #include "widgets/hdialog.h"
 
+#include <QStringList>
+
 #include <vector>
 
 class HProgressBar;
@@ -19,15 +21,17 @@ class YumIO;
 
 namespace PackageTable {
 
+class FieldsText;
 class FileTreeModel;
 
 namespace Describe {
 
 class Page;
 
-// What changed between two change logs as the engine words them: the changes of `newer` that `older`
-// does not have, in their order.
-QString changesSince(const QString &newer, const QString &older);
+// The changes in a change log as the engine words it, each as it stands there.
+QStringList changes(const QString &log);
+// Those of `newer` that `older` does not have, in their order.
+QStringList changesSince(const QString &newer, const QString &older);
 
 // Everything that is known of one package or group. A page is filled when it is opened; what has to
 // be loaded for it first runs as a job, with progress and a cancel control of its own. Closing the
@@ -54,12 +58,14 @@ Q_SIGNALS:
     // The user wants the row that many below; -1 is the one above.
     void stepAsked(int rows);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     enum class Data { None, FileLists, Other };
     struct PageInfo
     {
         Page *page;
-        QString title;
         Data data;
         void (Dialog::*fill)();
     };
@@ -69,12 +75,12 @@ private:
     void createPages();
     QWidget *createFiles();
     QWidget *createMembers();
-    QWidget *createDetails();
     QWidget *createProgress();
     QLayout *createButtons();
 
     void fillHead();
     void choosePages();
+    void turnPages(int pages);
     bool hasPage(const PageInfo &info) const;
     void openPage();
     void fillPage(PageInfo &info);
@@ -113,6 +119,7 @@ private:
     bool m_hasPrevious = false;
     bool m_hasNext = false;
     std::vector<PageInfo> m_infos;
+    QWidget *m_wantedPage = nullptr; // which the user opened last
 
     QLabel *m_icon = nullptr;
     QLabel *m_name = nullptr;
@@ -121,7 +128,7 @@ private:
     QPushButton *m_urlButton = nullptr;
     QTabWidget *m_tabs = nullptr;
     QPlainTextEdit *m_description = nullptr;
-    QWidget *m_details = nullptr;
+    FieldsText *m_details = nullptr;
     QPlainTextEdit *m_relations = nullptr;
     QLineEdit *m_fileFilter = nullptr;
     QLabel *m_fileCount = nullptr;

@@ -2,16 +2,16 @@
 
 #include "packagetable/describe.h"
 
+#include "packagetable/fieldstext.h"
 #include "packagetable/filetree.h"
 #include "packagetable/icons.h"
 #include "repo/repobrowse.h"
 #include "repo/yumconfio.h"
-#include "widgets/hscrollarea.h"
+#include "yumio/formats.h"
 #include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
 
 #include <QClipboard>
-#include <QFormLayout>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -24,6 +24,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <iterator>
 
 namespace PackageTable::Describe {
 
@@ -34,31 +35,47 @@ using Package::State;
 namespace {
 
 constexpr int fewFiles = 500; // a tree of so many is shown with all folders open
+const QString paragraph = QStringLiteral("\n\n");
 
 QStringList lines(const QString &text)
 {
     return text.split(u'\n', Qt::SkipEmptyParts);
 }
 
-QStringList changes(const QString &log)
+// The change without its first words, "* Tue Sep 26 2023 ".
+QString withoutDate(const QString &change)
 {
-    static const QRegularExpression between(QStringLiteral("\n\n(?=\\* )"));
-    return log.split(between, Qt::SkipEmptyParts);
+    static const QRegularExpression date(QStringLiteral("^\\* \\S+ \\S+ +\\d+ \\d+ "));
+    return QString(change).remove(date);
 }
 
 } // namespace
 
-QString changesSince(const QString &newer, const QString &older)
+QStringList changes(const QString &log)
 {
-    QSet<QString> known;
-    for (const QString &change : changes(older))
-        known.insert(change.trimmed());
-    QStringList found;
-    for (const QString &change : changes(newer)) {
-        if (!known.contains(change.trimmed()))
-            found.append(change.trimmed());
+    static const QRegularExpression between(QStringLiteral("\n\n(?=\\* )"));
+    QStringList list = log.split(between, Qt::SkipEmptyParts);
+    for (QString &change : list)
+        change = change.trimmed();
+    return list;
+}
+
+QStringList changesSince(const QString &newer, const QString &older)
+{
+    const QStringList all = changes(newer);
+    // A repository tells the day alone, which another time zone may take for the next.
+    for (const bool dated : {true, false}) {
+        const auto told = [dated](const QString &text) { return dated ? text : withoutDate(text); };
+        QSet<QString> known;
+        for (const QString &change : changes(older))
+            known.insert(told(change));
+        QStringList found;
+        std::copy_if(all.cbegin(), all.cend(), std::back_inserter(found),
+                     [&](const QString &change) { return !known.contains(told(change)); });
+        if (found.size() < all.size())
+            return found;
     }
-    return found.join(QStringLiteral("\n\n"));
+    return all;
 }
 
 bool Dialog::isGroup() const
@@ -112,11 +129,8 @@ void Dialog::fillHead()
     facts.append(YumIO::getState(m_entry->state));
     if (!m_entry->repo.isEmpty() && m_entry->state != State::Installed)
         facts.append(tr("Repository %1").arg(m_entry->repo));
-    QString text = facts.join(QStringLiteral(" \u00b7 "));
-    if (!m_entry->summary.isEmpty())
-        text = shown(m_entry->summary) + u'\n' + text;
-    m_facts->setText(text);
-    m_url = m_loading ? QString() : m_yumIO->getUrl(*m_entry);
+    m_facts->setText(facts.join(QStringLiteral(" \u00b7 ")));
+    m_url = m_yumIO->getUrl(*m_entry);
     m_urlButton->setVisible(!m_url.isEmpty());
     m_urlButton->setToolTip(shown(m_url));
     m_browseButton->setVisible(isFromRepository());
@@ -125,25 +139,19 @@ void Dialog::fillHead()
 
 void Dialog::fillDescription()
 {
-    const QString text =
-        isGroup() ? m_yumIO->getGroupDescription(*m_entry) : m_yumIO->getDescription(*m_entry);
-    m_description->setPlainText(text.isEmpty() ? tr("There is no description.") : shown(text));
+    QStringList texts = {m_entry->summary, isGroup() ? m_yumIO->getGroupDescription(*m_entry)
+                                                     : m_yumIO->getDescription(*m_entry)};
+    texts.removeAll(QString());
+    m_description->setPlainText(texts.isEmpty() ? tr("There is no description.")
+                                                : shown(texts.join(paragraph)));
 }
 
 void Dialog::fillDetails()
 {
-    auto *widget = new QWidget;
-    auto *form = new QFormLayout(widget);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    QList<FieldsText::Field> fields;
     const auto add = [&](const QString &title, const QString &text) {
-        if (text.isEmpty())
-            return;
-        auto *value = new QLabel(shown(text), widget);
-        value->setTextFormat(Qt::PlainText);
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        value->setWordWrap(true);
-        value->setAccessibleName(title);
-        form->addRow(new QLabel(title, widget), value);
+        if (!text.isEmpty())
+            fields.append({title, shown(text)});
     };
     const Entry &entry = *m_entry;
     add(tr("Name:"), entry.name);
@@ -158,7 +166,12 @@ void Dialog::fillDetails()
     add(tr("Repository:"), entry.repo);
     add(tr("Architecture:"), entry.arch);
     if (!isGroup()) {
-        add(tr("Size:"), tr("%1 (%L2 bytes)").arg(entry.sizeText).arg(entry.size));
+        const QString bytes = tr("%1 (%L2 bytes)");
+        const quint64 installedSize = m_yumIO->getInstalledSize(entry);
+        add(readsHeader() ? tr("Installed size:") : tr("Download size:"),
+            bytes.arg(entry.sizeText).arg(entry.size));
+        if (!readsHeader() && installedSize)
+            add(tr("Installed size:"), bytes.arg(bytesFormat(installedSize)).arg(installedSize));
         add(tr("Summary:"), entry.summary);
         add(tr("Group:"), m_yumIO->getGroup(entry));
         add(tr("License:"), m_yumIO->getLicense(entry));
@@ -172,7 +185,7 @@ void Dialog::fillDetails()
         add(tr("Source package:"), m_yumIO->getSourceRpm(entry));
         add(tr("Relocations:"), m_yumIO->getRelocations(entry));
     }
-    static_cast<HScrollArea *>(m_details)->setWidget(widget);
+    m_details->setFields(fields);
 }
 
 void Dialog::fillRelations()
@@ -191,7 +204,7 @@ void Dialog::fillRelations()
     if (entry.state != State::Installed)
         add(tr("Replaces the installed:"), m_yumIO->getReplaced(entry));
     m_relations->setPlainText(sections.isEmpty() ? tr("There are none.")
-                                                 : shown(sections.join(QStringLiteral("\n\n"))));
+                                                 : shown(sections.join(paragraph)));
 }
 
 void Dialog::fillFiles()
@@ -207,7 +220,7 @@ void Dialog::filterFiles()
     m_files->setFilter(m_fileFilter->text());
     const int count = m_files->fileCount();
     m_fileCount->setText(m_files->shownCount() == count
-                             ? tr("%L1 files").arg(count)
+                             ? (count == 1 ? tr("1 file") : tr("%L1 files").arg(count))
                              : tr("%L1 of %L2 files").arg(m_files->shownCount()).arg(count));
     if (m_files->shownCount() <= fewFiles)
         m_fileTree->expandAll();
@@ -235,35 +248,48 @@ void Dialog::fillChanges()
 
 void Dialog::fillRequiredBy()
 {
-    const QString text = m_yumIO->getRequiredBy(*installed());
-    m_requiredBy->setPlainText(text.isEmpty() ? tr("Nothing that is installed requires it.")
-                                              : shown(text));
+    QStringList names;
+    for (const Entry *version = installed(); version; version = version->next)
+        names.append(lines(m_yumIO->getRequiredBy(*version)));
+    names.sort();
+    names.removeDuplicates();
+    m_requiredBy->setPlainText(names.isEmpty() ? tr("Nothing that is installed requires it.")
+                                               : shown(names.join(u'\n')));
 }
 
 void Dialog::fillUpdate()
 {
     const Entry &entry = *m_entry;
-    QStringList texts;
-    for (const Entry *old = entry.next; old; old = old->next)
-        texts.append(tr("Version: %1 becomes %2").arg(old->verRel, entry.verRel));
-    if (const Entry *old = installed()) {
-        if (old->arch != entry.arch)
-            texts.append(tr("Architecture: %1 becomes %2").arg(old->arch, entry.arch));
-        texts.append(
-            tr("Size: %1 installed now, %2 to download").arg(old->sizeText, entry.sizeText));
-        const QString found =
-            changesSince(m_yumIO->getChangeLog(entry), m_yumIO->getChangeLog(*old));
-        texts.append(found.isEmpty()
-                         ? tr("\nThe change log has nothing new.")
-                         : tr("\nChanges since the installed version:\n\n%1").arg(found));
-    }
-    m_update->setPlainText(shown(texts.join(u'\n')));
+    const Entry *const old = installed();
+    if (!old)
+        return;
+    QStringList versions;
+    for (const Entry *version = old; version; version = version->next)
+        versions.append(version->verRel);
+    const QString change = tr("%1 -> %2");
+    QStringList facts = {
+        tr("Version: %1").arg(change.arg(versions.join(QStringLiteral(", ")), entry.verRel))};
+    if (old->arch != entry.arch)
+        facts.append(tr("Architecture: %1").arg(change.arg(old->arch, entry.arch)));
+    if (const quint64 size = m_yumIO->getInstalledSize(entry))
+        facts.append(tr("Installed size: %1").arg(change.arg(old->sizeText, bytesFormat(size))));
+    facts.append(tr("Download size: %1").arg(entry.sizeText));
+
+    const QString newLog = m_yumIO->getChangeLog(entry), oldLog = m_yumIO->getChangeLog(*old);
+    const QStringList found = changesSince(newLog, oldLog);
+    QStringList texts = {facts.join(u'\n'), found.isEmpty()
+                                                ? tr("The change log has nothing new.")
+                                                : tr("Changes since the installed version:")};
+    texts.append(found);
+    if (!found.isEmpty() && !oldLog.isEmpty() && found.size() == changes(newLog).size())
+        texts.append(tr("The repository keeps no older changes; there may have been others."));
+    m_update->setPlainText(shown(texts.join(paragraph)));
 }
 
 void Dialog::fillMembers()
 {
     m_members->clear();
-    const auto add = [&](const QString &title, const QString &names) {
+    const auto add = [&](const QString &title, const QString &names, bool packages = true) {
         const QStringList members = lines(names);
         if (members.isEmpty())
             return;
@@ -271,17 +297,18 @@ void Dialog::fillMembers()
             new QTreeWidgetItem(m_members, {tr("%1 (%2)").arg(title).arg(members.size())});
         section->setFirstColumnSpanned(true);
         for (const QString &name : members) {
-            const Entry *member = m_yumIO->packageNamed(name);
+            const Entry *member = packages ? m_yumIO->packageNamed(name) : nullptr;
             auto *item = new QTreeWidgetItem(
-                section, member ? QStringList{name, YumIO::getState(member->state), member->verRel,
-                                              shown(member->summary)}
-                                : QStringList{name, tr("Not available")});
+                section, !packages ? QStringList{name}
+                         : member  ? QStringList{name, YumIO::getState(member->state),
+                                                member->verRel, shown(member->summary)}
+                                   : QStringList{name, tr("Not available")});
             if (member)
                 item->setIcon(0, shareIcon(kindIconName(member->kind)));
         }
     };
     const Entry &entry = *m_entry;
-    add(tr("Groups"), m_yumIO->getRequiredGroups(entry));
+    add(tr("Groups"), m_yumIO->getRequiredGroups(entry), false);
     add(tr("Mandatory packages"), m_yumIO->getMandatoryPkgs(entry));
     add(tr("Default packages"), m_yumIO->getDefaultPkgs(entry));
     add(tr("Optional packages"), m_yumIO->getOptionalPkgs(entry));

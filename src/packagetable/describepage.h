@@ -2,12 +2,12 @@
 
 #include <QStackedWidget>
 
-class QLabel;
+class QPlainTextEdit;
 class QPushButton;
 
 namespace PackageTable::Describe {
 
-// One page of the description: its content, or a line that says why there is none yet, with a button
+// One page of the description: its content, or a text that says why there is none yet, with a button
 // to try again where trying can help.
 class Page : public QStackedWidget
 {
@@ -26,8 +26,9 @@ Q_SIGNALS:
     void retryAsked();
 
 private:
+    QWidget *m_content;
     QWidget *m_message;
-    QLabel *m_text;
+    QPlainTextEdit *m_text;
     QPushButton *m_retry;
     bool m_filled = false;
 };

@@ -79,7 +79,11 @@ void View::describeStep(int rows)
     const QModelIndex next = currentIndex().siblingAtRow(currentIndex().row() + rows);
     if (!next.isValid())
         return;
-    setCurrentIndex(next);
+    // Several selected rows are a choice that reading does not undo.
+    if (View::selectedRows().size() > 1)
+        selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
+    else
+        setCurrentIndex(next);
     m_model->describeNext(m_proxy->mapToSource(next));
     tellDescribeSteps();
 }

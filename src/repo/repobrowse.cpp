@@ -1,8 +1,8 @@
 #include "repobrowse.h"
 
-#include "app/webbrowser.h"
 #include "repoentry.h"
 #include "widgets/messagebox.h"
+#include "widgets/webbrowser.h"
 #include "yumconfio.h"
 #include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
@@ -24,12 +24,14 @@ class RepoBrowseTexts
 void RepoBrowse::open(QWidget *parent, const QString &url)
 {
     const QString address = withoutPasswords(url);
-    if (address != url)
-        showMessageBox(
-            QMessageBox::Information, parent, RepoBrowseTexts::tr("Browse"),
-            RepoBrowseTexts::tr("The address holds a password, which is left out, because "
-                                "other users could read it:\n%1")
-                .arg(address));
+    if (address != url) {
+        const QString text = RepoBrowseTexts::tr("The address holds a password, which is left out, "
+                                                 "because other users could read it:\n%1");
+        const int pressed = showMessageBox(QMessageBox::Information, parent,
+                                           RepoBrowseTexts::tr("Browse"), text.arg(address));
+        if (pressed == -1) // the program ends
+            return;
+    }
     WebBrowser::open(parent, address);
 }
 

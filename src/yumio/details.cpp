@@ -175,6 +175,11 @@ QString YumIO::getUrl(const Package::Entry &entry)
     return packageString(entry, "url");
 }
 
+quint64 YumIO::getInstalledSize(const Package::Entry &entry)
+{
+    return packageString(entry, "installedsize").toULongLong();
+}
+
 QString YumIO::getBinaryRpm(const Package::Entry &entry)
 {
     const PyGILStateWrapper lock(true);

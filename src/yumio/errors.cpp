@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstring>
 #include <sys/wait.h>
+#include <utility>
 
 void YumIO::error(const QString &text)
 {
@@ -47,6 +48,13 @@ bool YumIO::fail(const QString &text)
 void YumIO::holdReports()
 {
     m_reports.held = true;
+}
+
+QString YumIO::withoutBoxes(const std::function<void()> &work)
+{
+    holdReports();
+    work();
+    return std::exchange(m_reports, {}).texts.join(QLatin1String("\n\n"));
 }
 
 // Shows what was kept, in order, and no longer keeps what comes.

@@ -165,6 +165,8 @@ public:
     QString getOptionalPkgs(const Package::Entry &);
     QString getConditionalPkgs(const Package::Entry &);
     QString getGroupDescription(const Package::Entry &);
+    // Bytes that the package's files take, or will take; 0 when that is not known.
+    quint64 getInstalledSize(const Package::Entry &);
     // Installed packages, a line each: those that require the package, and those that it replaces.
     QString getRequiredBy(const Package::Entry &);
     QString getReplaced(const Package::Entry &);
@@ -204,6 +206,9 @@ public:
     // Reports: logged, then shown in a box on the GUI thread.
     void error(const QString &text);
     void warning(const QString &text);
+    // Does work whose reports are only logged: the result is what the boxes would have said. GUI thread;
+    // the work may be a job.
+    QString withoutBoxes(const std::function<void()> &work);
 
     // Asks the running job to stop where it honestly can. Any thread.
     void cancel() { m_cancelled = true; }

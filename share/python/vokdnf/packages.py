@@ -118,12 +118,14 @@ class Package:
         return evr_text(self.pkg.epoch, _clean(self.pkg.version), _clean(self.pkg.release))
 
     def returnSimple(self, key):
-        """A simple field: text, for "buildtime" seconds since 1970. KeyError when the package lacks
-        it."""
+        """A simple field: text, for "buildtime" seconds since 1970, for "installedsize" bytes. KeyError
+        when the package lacks it."""
         if key == "repoid":
             return self.repoid
         if key == "buildtime":
             return int(self.pkg.buildtime)
+        if key == "installedsize":
+            return int(self.pkg.installsize)
         if key == "buildhost":
             if not self.pkg._from_system:
                 raise KeyError(key)

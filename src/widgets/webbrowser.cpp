@@ -1,11 +1,11 @@
 #include "webbrowser.h"
 
-#include "execute.h"
-#include "share.h"
+#include "app/execute.h"
+#include "app/share.h"
+#include "messagebox.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QMessageBox>
 
 namespace {
 
@@ -24,12 +24,9 @@ void WebBrowser::open(QWidget *parent, const QString &address)
     char *question[] = {program.data(), check.data(), argument.data(), nullptr};
     QString reason;
     if (!Execute::ask(question, reason)) {
-        QMessageBox box(
-            QMessageBox::Critical, WebBrowserTexts::tr("Browse"),
-            WebBrowserTexts::tr("The address cannot be opened:\n%1\n\n%2").arg(address, reason),
-            QMessageBox::Ok, parent);
-        box.setTextFormat(Qt::PlainText);
-        box.exec();
+        showMessageBox(
+            QMessageBox::Critical, parent, WebBrowserTexts::tr("Browse"),
+            WebBrowserTexts::tr("The address cannot be opened:\n%1\n\n%2").arg(address, reason));
         return;
     }
     char *command[] = {program.data(), argument.data(), nullptr};

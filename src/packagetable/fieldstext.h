@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QTextEdit>
+
+#include <utility>
+
+namespace PackageTable {
+
+// Titles with their values in a column beside them, as one text that can only be read, selected and
+// copied. A value is plain text of any length, of one line or several; it is wrapped, within a word
+// where it must be.
+class FieldsText : public QTextEdit
+{
+    Q_OBJECT
+
+public:
+    using Field = std::pair<QString, QString>;
+
+    explicit FieldsText(QWidget *parent = nullptr);
+
+    void setFields(const QList<Field> &fields);
+};
+
+} // namespace PackageTable
