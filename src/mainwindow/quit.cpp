@@ -128,6 +128,8 @@ void MainWindow::terminate()
 // rpm has done is still worth reading.
 void MainWindow::decline()
 {
+    if (QWidget *menu = QApplication::activePopupWidget())
+        menu->close(); // which would keep the dialog below it from ending
     QWidget *shown = QApplication::activeModalWidget();
     if (!shown)
         return;

@@ -186,7 +186,7 @@ QWidget *Dialog::createFiles()
     m_fileTree->header()->setStretchLastSection(false);
     m_fileTree->header()->setResizeContentsPrecision(0);
     m_fileTree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    widget->setFocusProxy(m_fileTree);
+    widget->setFocusProxy(m_fileFilter);
     connect(
         new QShortcut(QKeySequence::Find, widget, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
         &QShortcut::activated, m_fileFilter, qOverload<>(&QWidget::setFocus));
@@ -247,10 +247,12 @@ QWidget *Dialog::createProgress()
         m_cancelButton->setEnabled(false);
         m_yumIO->cancel();
     });
+    auto *bars = new QVBoxLayout;
+    bars->addWidget(m_totalBar);
+    bars->addWidget(m_itemBar);
     auto *row = new QHBoxLayout(m_progress);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_totalBar, 1);
-    row->addWidget(m_itemBar, 1);
+    row->addLayout(bars, 1);
     row->addWidget(m_cancelButton);
     m_progress->hide();
     return m_progress;
@@ -320,6 +322,8 @@ void Dialog::choosePages()
             open = info.page;
     }
     m_tabs->setCurrentWidget(open);
+    // The bar keeps the room of a tab that goes until another makes it lay them out.
+    m_tabs->setTabText(0, m_tabs->tabText(0));
 }
 
 void Dialog::turnPages(int pages)

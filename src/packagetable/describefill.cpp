@@ -12,9 +12,11 @@
 #include "yumio/yumio.h"
 
 #include <QClipboard>
+#include <QDate>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -24,7 +26,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
-#include <iterator>
+#include <utility>
 
 namespace PackageTable::Describe {
 
@@ -42,11 +44,16 @@ QStringList lines(const QString &text)
     return text.split(u'\n', Qt::SkipEmptyParts);
 }
 
-// The change without its first words, "* Tue Sep 26 2023 ".
-QString withoutDate(const QString &change)
+// What a change says behind its date, "* Tue Sep 26 2023 ", and the day; one without a date as it is.
+std::pair<QString, qint64> dated(const QString &change)
 {
-    static const QRegularExpression date(QStringLiteral("^\\* \\S+ \\S+ +\\d+ \\d+ "));
-    return QString(change).remove(date);
+    static const QRegularExpression start(QStringLiteral("^\\* (\\S+ \\S+ +\\d+ \\d+) "));
+    const auto match = start.match(change);
+    const QDate date =
+        QLocale::c().toDate(match.captured(1).simplified(), QStringLiteral("ddd MMM d yyyy"));
+    if (!date.isValid())
+        return {change, 0};
+    return {change.mid(match.capturedEnd()), date.toJulianDay()};
 }
 
 } // namespace
@@ -62,20 +69,18 @@ QStringList changes(const QString &log)
 
 QStringList changesSince(const QString &newer, const QString &older)
 {
-    const QStringList all = changes(newer);
-    // A repository tells the day alone, which another time zone may take for the next.
-    for (const bool dated : {true, false}) {
-        const auto told = [dated](const QString &text) { return dated ? text : withoutDate(text); };
-        QSet<QString> known;
-        for (const QString &change : changes(older))
-            known.insert(told(change));
-        QStringList found;
-        std::copy_if(all.cbegin(), all.cend(), std::back_inserter(found),
-                     [&](const QString &change) { return !known.contains(told(change)); });
-        if (found.size() < all.size())
-            return found;
+    QSet<std::pair<QString, qint64>> known;
+    for (const QString &change : changes(older))
+        known.insert(dated(change));
+    QStringList found;
+    for (const QString &change : changes(newer)) {
+        // A repository tells the day alone, which may be the next one in another time zone.
+        const auto [text, day] = dated(change);
+        if (!known.contains({text, day}) && !known.contains({text, day - 1}) &&
+            !known.contains({text, day + 1}))
+            found.append(change);
     }
-    return all;
+    return found;
 }
 
 bool Dialog::isGroup() const

@@ -91,6 +91,11 @@ private Q_SLOTS:
         qputenv("SUDO_UID", uid);
         qputenv("SUDO_GID", QByteArray::number(user->pw_gid));
         run("{ id -u; id -g; id -G; echo $HOME; echo \"<$SUDO_UID>\"; } > $0.tmp", {});
+        char id[] = "/usr/bin/id", option[] = "-u";
+        char *argv[] = {id, option, nullptr};
+        QString said;
+        QVERIFY(Execute::ask(argv, said));
+        QCOMPARE(said.toLatin1(), uid);
         qunsetenv("SUDO_UID");
         qunsetenv("SUDO_GID");
         QCOMPARE(m_lines.value(0).toLatin1(), uid);

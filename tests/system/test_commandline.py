@@ -18,6 +18,28 @@ OPTIONS = """-h -H --help -m --mode=m -e --regexp=r -s --state=s -d --duplicates
 --disablerepo=r --enablerepo=r""".split()
 
 
+class WebBrowser(unittest.TestCase):
+    def test_what_is_opened(self):
+        with tempfile.TemporaryDirectory() as directory:
+            seen = pathlib.Path(directory, "seen")
+            opener = pathlib.Path(directory, "opener")
+            opener.write_text(f"#!/bin/sh\nprintf '%s|' \"$@\" > {seen}\n")
+            opener.chmod(0o755)
+            for address, opened in [
+                    ("https://a.example/?x='$(id)';&y=a b", True), ("HTTP://a", True), (directory, True),
+                    ("file:///etc", True), ("/not/there", False), ("javascript:1", False), ("--help", False)]:
+                for options in (["--check"], []):
+                    with self.subTest(address=address, options=options):
+                        seen.unlink(missing_ok=True)
+                        done = subprocess.run([BUILD / "share/vok/webbrowser", *options, address],
+                                              env=dict(os.environ, BROWSER=f"/not/there:{opener}"),
+                                              capture_output=True, text=True)
+                        self.assertEqual(done.returncode == 0, opened)
+                        self.assertEqual(bool(done.stderr), not opened)
+                        text = seen.read_text() if seen.exists() else ""
+                        self.assertEqual(text, address + "|" if opened and not options else "")
+
+
 class CommandLine(unittest.TestCase):
     def setUp(self):
         directory = tempfile.TemporaryDirectory()

@@ -1,8 +1,9 @@
 """Packages for the table and the window.
 
-While the file named by VOK_TEST_HOLD exists, the reading of repositories and a transaction wait in the
-state that it names ("metadata", "transaction") until it goes, or until the user cancels where that is
-allowed; NAME.held exists meanwhile."""
+While the file named by VOK_TEST_HOLD exists, the reading of repositories or of change logs and a transaction
+wait in the state that it names ("metadata", "otherdata", "transaction") until it goes, or until the user
+cancels where that is allowed; NAME.held exists meanwhile. Where the file says "otherdata fails", that fails
+when it goes."""
 
 import time
 
@@ -43,7 +44,7 @@ installed = [Installed("alpha", "1-1", 100), Installed("kernel", "1-1"), Install
              Installed("echo", "1-1", 3 << 30), Installed("modules", "1-1"), Installed("modules", "2-1")]
 updates = [P("alpha", "2:2-1", repo="updates", size=2000),
            P("kernel", "3-1", repo="updates", size=1 << 30)]
-available = [P("beta", "1-1", repo="extras", size=500, buildtime=86400, description="needle in it"),
+available = [P("beta", "1-1", repo="extras", size=500, buildtime=86400, description="needle in it", url="https://u:secret@h/"),
              P("pair", "1-1", size=10), P("pair", "2-1", arch="i686", size=20),
              P("Zulu", "1-1", arch="noarch", size=2 << 30), P("tools-suite", "1-1", group="Suite"),
              P("grüße", "1-1", repo="extras")]
@@ -57,8 +58,9 @@ def isBetterThan(io, first, second):
 
 def hold(state):
     path = os.environ.get("VOK_TEST_HOLD", "")
-    if not os.path.exists(path) or open(path).read() != state:
+    if not os.path.exists(path) or open(path).read().split()[0] != state:
         return
+    fails = open(path).read() != state
     yumIOC.jobState(state, int(state != "transaction"))
     held = open(path + ".held", "w")
     try:
@@ -69,11 +71,18 @@ def hold(state):
     finally:
         held.close()
         os.remove(held.name)
+    if fails:
+        raise NoMoreMirrorsRepoError("no mirror")
     yumIOC.jobState("done", 0)
 
 
 def setupRepos(io):
     hold("metadata")
+
+
+def collectOtherData(io):
+    hold("otherdata")
+    return True
 
 
 def apply(io, installs, updates, removes):
