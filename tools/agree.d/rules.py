@@ -50,6 +50,12 @@ def _removed_with_group(line, step):
     return found and found[2] in names and (found[1], found[3]) in (("VOK", "group"), ("DNF", "user"))
 
 
+def _kept_no_longer(line, step):
+    names = [row.name for row in _of_groups(step.rows, step.marks, REMOVE, _ALL)]
+    found = re.match(r"records: only DNF reason change (.+)-\S+-\S+ \(", line)
+    return found and found[1] in names
+
+
 EXCLUDES = Translation("excludes", "dnf hides installed packages that the main file excludes, VOK shows and "
                        "removes them; so the same is said for each repository.", None)
 _REPLACED = {"quill": "fountain-pen", "oldname": "newname", "oldtwin": "merged"}
@@ -74,6 +80,8 @@ RULES = [
          lambda line, step: "allow_vendor_change" in step.lines and line in _RIVALS),
     Rule("reason of a removed member", "A member that somebody had installed goes with the group by VOK, "
          "and is recorded so; dnf is told to remove it by itself.", _removed_with_group),
+    Rule("reason before removal", "dnf notes that a removed group no longer keeps a member, and then removes "
+         "it for another mark.", _kept_no_longer),
     Rule("shared member", "Of two groups with a member, one is removed and one installed: VOK removes what "
          "is there, dnf installs it again.", _shared),
     Rule("unlisted removal", "VOK records what rpm removes beside the transaction, once it was agreed to; "
