@@ -93,6 +93,9 @@ def member_names(session, name):
     replacing = session.sack.query().filterm(obsoletes=query).apply()
     if not replacing:
         return [name]
+    beside = _members_beside(session.base, name).intersection(pkg.name for pkg in replacing)
+    if beside:  # whatever repository is preferred, not both can be had
+        return sorted(beside)
     query = query.union(replacing)
     goal, selector = dnf.goal.Goal(session.sack), dnf.selector.Selector(session.sack)
     selector.set(pkg=query)
@@ -101,6 +104,16 @@ def member_names(session, name):
         return [name]  # resolving the transaction tells why
     chosen = set(query)
     return sorted({pkg.name for pkg in goal.list_installs() if pkg in chosen})
+
+
+def _members_beside(base, name):
+    """The names that stand in a group together with `name`."""
+    found = set()
+    for group in base.comps.groups:
+        names = {member.name for member in group.packages}
+        if name in names:
+            found |= names - {name}
+    return found
 
 
 def record(base, noted):
