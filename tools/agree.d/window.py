@@ -27,7 +27,7 @@ class Box(collections.namedtuple("Box", "title text buttons")):
             return None
         if buttons == {"OK", "Cancel"} and "Transaction to be performed:" in text:
             return "listing"
-        if "How do you wish to proceed?" in text and len(buttons) == 3:
+        if "How do you wish to proceed?" in text and len(self.buttons) == 3:
             return "conflict"
         if buttons == {"Yes", "No"}:
             for words, kind in (("It can be done by removing:", "removing"),
