@@ -86,7 +86,7 @@ class YumIO:
         """An object with `installed` and `available`, lists of package objects, newest first."""
         found = self._collected()
         return types.SimpleNamespace(installed=list(map(packages.Package, found.installed())),
-                                     available=list(map(packages.Package, found.available())))
+                                     available=found.available())
 
     def collectRows(self):
         """All packages in one call: yields tuples (po, state, name, verRel, repo, arch, biArch, size,
@@ -94,15 +94,16 @@ class YumIO:
         buildtime in seconds are ints, isSuite is a bool, the rest texts. The order is that of the single
         calls: first the number of updates and these, then the number of the others and these, installed and
         available; pairing and duplicates are left to the caller."""
-        family, row, wrap = self._architectures.family, collection.row, packages.Package
+        family, row = self._architectures.family, collection.row
         found = self._collected()
+        wrap = found.package
         updates = found.updates()
         yield len(updates)
         yield from (row(wrap(pkg), collection.UPDATABLE, family) for pkg in updates)
         installed, available = found.installed(), found.available()
         yield len(installed) + len(available)
         yield from (row(wrap(pkg), collection.INSTALLED, family) for pkg in installed)
-        yield from (row(wrap(pkg), collection.INSTALLABLE, family) for pkg in available)
+        yield from (row(po, collection.INSTALLABLE, family) for po in available)
 
     def isBetterThan(self, first, second):
         return self._architectures.is_better(first, second)

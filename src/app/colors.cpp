@@ -1,5 +1,7 @@
 #include "colors.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <cmath>
 
@@ -14,6 +16,7 @@ QPalette withBase(QPalette palette, const QColor &color)
 
 constexpr double enoughContrast = 4.5;
 constexpr double shadeStep = 0.02;
+constexpr double paleLuminance = 0.85;
 
 // Relative luminance, 0 to 1, as the accessibility guidelines for the web define it.
 double luminance(const QColor &color)
@@ -29,6 +32,21 @@ double contrast(const QColor &one, const QColor &two)
 {
     const double first = luminance(one), second = luminance(two);
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+QColor nearestReadable(const QColor &text, const QColor &background)
+{
+    float hue, saturation, lightness;
+    text.getHslF(&hue, &saturation, &lightness);
+    const double step = Colors::isDark(background) ? shadeStep : -shadeStep;
+    QColor shade = text;
+    for (double light = lightness; contrast(shade, background) < enoughContrast;) {
+        light += step;
+        if (light < 0 || light > 1)
+            break;
+        shade = QColor::fromHslF(hue, saturation, float(light));
+    }
+    return shade;
 }
 
 } // namespace
@@ -114,17 +132,17 @@ bool Colors::isDark(const QColor &background)
     return luminance(background) < 0.18;
 }
 
+bool Colors::isPale(const QColor &background)
+{
+    return luminance(background) >= paleLuminance;
+}
+
+// Asked for every cell at every paint, of few colours.
 QColor Colors::readable(const QColor &text, const QColor &background)
 {
-    float hue, saturation, lightness;
-    text.getHslF(&hue, &saturation, &lightness);
-    const double step = isDark(background) ? shadeStep : -shadeStep;
-    QColor shade = text;
-    for (double light = lightness; contrast(shade, background) < enoughContrast;) {
-        light += step;
-        if (light < 0 || light > 1)
-            break;
-        shade = QColor::fromHslF(hue, saturation, float(light));
-    }
+    static QHash<std::pair<QRgb, QRgb>, QColor> known;
+    QColor &shade = known[{text.rgba(), background.rgba()}];
+    if (!shade.isValid())
+        shade = nearestReadable(text, background);
     return shade;
 }

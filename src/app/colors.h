@@ -23,6 +23,8 @@ public:
     // shade of its hue that has it.
     static QColor readable(const QColor &text, const QColor &background);
     static bool isDark(const QColor &background);
+    // As light as the backgrounds that the colours of status texts are made for.
+    static bool isPale(const QColor &background);
 
     // Copies with the background of fields coloured, for the active and the inactive group.
     static QPalette makeRequired(const QPalette &palette);

@@ -1,6 +1,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "mainwindow/wraplayout.h"
+#include "packagetable/emptytext.h"
 #include "packagetable/model.h"
 #include "packagetable/sortfilterproxymodel.h"
 #include "packagetable/view.h"
@@ -29,6 +30,15 @@ void describeControl(QWidget *control, const char *name, const QString &toolTip,
     control->setToolTip(toolTip);
     if (!accessibleName.isEmpty())
         control->setAccessibleName(accessibleName);
+}
+
+// A combo box tells its current text for its name; what it is for, a screen reader takes from a
+// label of its own.
+void labelForReaders(QWidget *control)
+{
+    auto *label = new QLabel(control->accessibleName(), control->parentWidget());
+    label->setBuddy(control);
+    label->hide();
 }
 
 } // namespace
@@ -144,7 +154,6 @@ void MainWindow::createMainArea()
     m_view = new PackageTable::View(m_model, m_proxy, m_mainArea);
     m_view->setObjectName(QStringLiteral("view"));
     m_view->setAccessibleName(tr("Packages"));
-    m_view->setAccessibleDescription(tr("Space changes the action of the current package."));
     QLayout *buttonRow = createButtonRow();
 
     auto *layout = new QVBoxLayout(m_mainArea);
@@ -163,6 +172,7 @@ QLayout *MainWindow::createFilterRow()
     m_modeCombo = new QComboBox(m_mainArea);
     m_modeCombo->addItems({tr("Filter"), tr("Search")});
     describeControl(m_modeCombo, "modeCombo", QString(), tr("Mode"));
+    labelForReaders(m_modeCombo);
 
     m_regexpEdit = new QLineEdit(QStringLiteral(".*"), m_mainArea);
     describeControl(m_regexpEdit, "regexpEdit", QString(), tr("Regular expression"));
@@ -177,12 +187,15 @@ QLayout *MainWindow::createFilterRow()
     describeControl(m_filterSearchButton, "filterSearchButton", QString());
 
     m_stateCombo = new QComboBox(m_mainArea);
-    m_stateCombo->addItems(
-        {tr("View Updatable"), tr("View Installable"), tr("View Removable"), tr("View All")});
+    for (const auto filter :
+         {PackageTable::StateFilter::Updatable, PackageTable::StateFilter::Installable,
+          PackageTable::StateFilter::Removable, PackageTable::StateFilter::All})
+        m_stateCombo->addItem(PackageTable::stateFilterName(filter));
     describeControl(m_stateCombo, "stateCombo",
                     tr("Filter for those packages which are eligible for updating,\nfor "
                        "installing, or for removing; or show all packages"),
                     tr("State"));
+    labelForReaders(m_stateCombo);
 
     m_dupsCheck = new QCheckBox(tr("Include Duplicates"), m_mainArea);
     m_dupsCheck->setChecked(true);

@@ -8,6 +8,9 @@ enum class Mode { Filter = 0, Search = 1 };
 // Which packages are listed; the index of the main window's selector.
 enum class StateFilter { Updatable = 0, Installable = 1, Removable = 2, All = 3 };
 
+// What keeps a row from being listed: the first of these that rejects it.
+enum class Hides { State, Duplicates, Groups, Expression, Search, Nothing };
+
 // The columns of the table.
 enum Column {
     ActionColumn = 0,

@@ -7,6 +7,7 @@
 #include <QStringEncoder>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace PackageTable {
@@ -210,25 +211,42 @@ bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &) 
     return m_query.mode == Mode::Filter && acceptTexts(*entry, *m_expression);
 }
 
-bool SortFilterProxyModel::Rules::accept(const Entry &entry) const
+Hides SortFilterProxyModel::Rules::rejectedBy(const Entry &entry) const
 {
     switch (state) {
     case StateFilter::Updatable:
         if (entry.state != State::Updatable)
-            return false;
+            return Hides::State;
         break;
     case StateFilter::Installable:
         if (entry.state != State::Installable)
-            return false;
+            return Hides::State;
         break;
     case StateFilter::Removable:
         if (entry.state == State::Installable)
-            return false;
+            return Hides::State;
         break;
     case StateFilter::All:
         break;
     }
-    return (dups || !entry.duplicate) && (groups || entry.kind != Kind::Group);
+    if (!dups && entry.duplicate)
+        return Hides::Duplicates;
+    return !groups && entry.kind == Kind::Group ? Hides::Groups : Hides::Nothing;
+}
+
+Hides SortFilterProxyModel::hidesMost() const
+{
+    if (m_yumIO->count() == 0)
+        return Hides::Nothing;
+    if (m_waiting)
+        return Hides::Search;
+    std::array<int, size_t(Hides::Nothing) + 1> rows = {};
+    for (const Entry *entry : *m_yumIO) {
+        // Nothing is listed: the expression has rejected what the rules let through.
+        const Hides by = m_rules.rejectedBy(*entry);
+        ++rows[size_t(by == Hides::Nothing ? Hides::Expression : by)];
+    }
+    return Hides(std::max_element(rows.begin(), rows.end()) - rows.begin());
 }
 
 bool SortFilterProxyModel::acceptTexts(const Entry &entry, const Expression &expression) const

@@ -58,6 +58,10 @@ public:
     // Mode and expression as they are installed.
     const Query &query() const { return m_query; }
 
+    // Which of the filters rejects most rows, each row counted for the first that does, those that
+    // look at no text first. To be asked when nothing is listed. Search: it has not ended yet.
+    Hides hidesMost() const;
+
     // Sets Update on every listed entry that is out of date.
     void setUpdateListed();
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
@@ -79,7 +83,11 @@ private:
     struct Rules
     {
         bool operator==(const Rules &other) const = default;
-        bool accept(const Package::Entry &entry) const;
+        Hides rejectedBy(const Package::Entry &entry) const;
+        bool accept(const Package::Entry &entry) const
+        {
+            return rejectedBy(entry) == Hides::Nothing;
+        }
         StateFilter state;
         bool dups;
         bool groups;

@@ -1,5 +1,7 @@
 #include "packagetable/view.h"
 
+#include "packagetable/emptytext.h"
+#include "packagetable/header.h"
 #include "packagetable/menus.h"
 #include "packagetable/model.h"
 #include "packagetable/sortfilterproxymodel.h"
@@ -10,6 +12,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -28,24 +31,28 @@ View::View(Model *model, SortFilterProxyModel *proxy, QWidget *parent)
     setTabKeyNavigation(false); // Tab leaves the table
 
     verticalHeader()->hide();
-    auto *header = new QHeaderView(Qt::Horizontal, this);
-    header->setSectionsMovable(true);
-    header->setSectionsClickable(true);
-    header->setHighlightSections(false);
+    auto *header = new Header(this);
     setHorizontalHeader(header);
     header->setSortIndicatorShown(true); // which setting the header has taken away
+    header->setAccessibleDescription(
+        tr("Left and Right choose a column, Return sorts by it, Ctrl+Left and Ctrl+Right move it, "
+           "Plus and Minus change its width. The menu key shows and hides columns."));
+    setTabOrder(header, this);
 
     sortByColumn(KindColumn, Qt::AscendingOrder);
     m_proxy->setFilterKeyColumn(KindColumn);
 
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this, &View::showColumnMenu);
     connect(header, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
+    connect(header, &Header::chosen, this, [this](int column) {
+        scrollTo(m_proxy->index(std::max(rowAt(0), 0), column)); // sideways
+    });
     connect(this, &QAbstractItemView::clicked, this, &View::handleActivated);
     connect(this, &QWidget::customContextMenuRequested, this,
             &View::handleCustomContextMenuRequested);
     connect(m_model, &Model::describing, this, &View::tellDescribeSteps);
     connect(m_model, &Model::describeStepAsked, this, &View::describeStep);
+    tellEmpty();
 }
 
 void View::handleHorizontalHeaderClicked(int column)
@@ -172,6 +179,7 @@ void View::reset()
 {
     HTableView::reset();
     tellCurrent(m_proxy->mapToSource(currentIndex()).row());
+    tellEmpty();
 }
 
 void View::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -187,14 +195,23 @@ void View::tellCurrent(int row)
         Q_EMIT currentChanged(row, previous);
 }
 
+// An empty table says why, also to who cannot see it.
+void View::tellEmpty()
+{
+    m_emptyText = m_proxy->rowCount() > 0 ? QString() : emptyText(*m_proxy);
+    setAccessibleDescription(m_emptyText.isEmpty()
+                                 ? tr("Space changes the action of the current package.")
+                                 : m_emptyText);
+}
+
 void View::paintEvent(QPaintEvent *event)
 {
     HTableView::paintEvent(event);
-    if (model()->rowCount() > 0)
+    if (m_emptyText.isEmpty())
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter, tr("No packages are listed"));
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(viewport()->rect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_emptyText);
 }
 
 void View::changeEvent(QEvent *event)

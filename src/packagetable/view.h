@@ -77,6 +77,7 @@ private:
     void copySelection() const;
     const Package::Entry *entryAt(int proxyRow) const;
     void tellCurrent(int row);
+    void tellEmpty();
     void describeStep(int rows);
     void tellDescribeSteps();
     void toggleAction(const QModelIndex &index);
@@ -88,6 +89,7 @@ private:
     OtherContextMenu *m_otherContextMenu = nullptr;
     int m_currentRow = -1; // the model's
     bool m_measureAll = false;
+    QString m_emptyText; // in the place of rows; empty when there are some
 };
 
 } // namespace PackageTable

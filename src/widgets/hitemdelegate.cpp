@@ -19,12 +19,19 @@ QPalette::ColorGroup groupOf(const QStyleOptionViewItem &option)
 void makeReadable(QStyleOptionViewItem &option)
 {
     const QPalette::ColorGroup group = groupOf(option);
-    const QColor background = option.palette.color(group, QPalette::Base);
-    if (group == QPalette::Disabled || !Colors::isDark(background))
+    if (group == QPalette::Disabled)
         return;
-    option.palette.setColor(
-        group, QPalette::Text,
-        Colors::readable(option.palette.color(group, QPalette::Text), background));
+    const bool selected = option.state & QStyle::State_Selected;
+    const bool alternate = option.features & QStyleOptionViewItem::Alternate;
+    const QColor background = option.palette.color(group, selected    ? QPalette::Highlight
+                                                          : alternate ? QPalette::AlternateBase
+                                                                      : QPalette::Base);
+    if (!selected && Colors::isPale(background))
+        return;
+    const QPalette::ColorRole role = selected ? QPalette::HighlightedText : QPalette::Text;
+    const QColor given = option.palette.color(group, role);
+    if (const QColor shade = Colors::readable(given, background); shade != given)
+        option.palette.setColor(group, role, shade);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include <QItemDelegate>
 
-// Draws cells whose text is never wrapped and can be read on a dark background. A selected row is
+// Draws cells whose text is never wrapped and can be read on any background. A selected row is
 // seen as one band behind its texts, and the current cell has a frame.
 class HItemDelegate : public QItemDelegate
 {

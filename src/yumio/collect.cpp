@@ -338,19 +338,19 @@ bool YumIO::collectRow(PyObject *row)
                           &size, &summary, &buildTime, &isSuite))
         return false;
     const QString nameText = pyString(name);
-    const QString archText = shared(arch);
-    const QString familyText = shared(family);
+    const QString archText = shared(pyString(arch));
+    const QString familyText = shared(pyString(family));
     const auto create = [&](Package::Entry *&slot) {
         auto *entry = new Package::Entry;
         entry->state = static_cast<Package::State>(state);
         entry->kind = isSuite ? Package::Kind::Suite : Package::Kind::Package;
         entry->name = nameText;
         entry->verRel = pyString(verRel);
-        entry->repo = shared(repo);
+        entry->repo = shared(pyString(repo));
         entry->arch = archText;
         entry->biArch = familyText;
         entry->size = qint64(size);
-        entry->sizeText = bytesFormat(size);
+        entry->sizeText = shared(bytesFormat(size));
         entry->summary = fieldText(pyString(summary));
         entry->buildTime = buildTime;
         entry->buildTimeText = QString::fromLocal8Bit(timeFormat(buildTime));
@@ -363,9 +363,9 @@ bool YumIO::collectRow(PyObject *row)
 }
 
 // Few distinct texts, which all rows share.
-QString YumIO::shared(PyObject *text)
+QString YumIO::shared(const QString &text)
 {
-    return *m_store.texts.insert(pyString(text));
+    return *m_store.texts.insert(text);
 }
 
 QString YumIO::getBiArch(const QString &arch)

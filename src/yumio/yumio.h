@@ -270,7 +270,7 @@ private:
     bool collectPackages();
     bool collectRows();
     bool collectRow(PyObject *row);
-    QString shared(PyObject *text);
+    QString shared(const QString &text);
     bool collectAllGroups();
     void foldPackage(EntryHash &hash, const QString &name, const QString &arch,
                      const QString &family, Package::State state, PyObject *po,

@@ -5,10 +5,13 @@ import functools
 import dnf.goal
 import dnf.rpm
 import dnf.selector
+import hawkey
 
 from . import packages, relations, report
 
 UPDATABLE, INSTALLABLE, INSTALLED = 0, 1, 2  # states of a row
+_FIRST_NUMBER = 2  # of a sack's packages
+_AT_ONCE = 2000
 
 
 class Architectures:
@@ -45,12 +48,13 @@ class Architectures:
 
 
 class Collection:
-    """The packages of a filled sack as rows want them: lists of DNF's objects. `updatable` is the set of
-    (name, family) that have an update."""
+    """The packages of a filled sack as rows want them: lists of DNF's objects where nothing else is said.
+    `updatable` is the set of (name, family) that have an update."""
 
     def __init__(self, base, architectures):
         self._base = base
         self._sack = base.sack
+        self._source = self._sack, base
         self._architectures = architectures
         self._installed = self._families(self._sack.query().installed())
         self._updates = self._choose_updates()
@@ -69,13 +73,16 @@ class Collection:
         key = self.key
         for pkg in query:
             found.setdefault(key(pkg), []).append(pkg)
-        distance = self._architectures.distance
-        order = functools.cmp_to_key(lambda one, two: two.evr_cmp(one)
-                                     or distance(one.arch) - distance(two.arch))
+        order = functools.cmp_to_key(self._order)
         for versions in found.values():
             if len(versions) > 1:
                 versions.sort(key=order)
         return found
+
+    def _order(self, one, two):
+        """Negative when `one` comes first: the newer version, or the nearer architecture."""
+        distance = self._architectures.distance
+        return two.evr_cmp(one) or distance(one.arch) - distance(two.arch)
 
     def _choose_updates(self):
         """What DNF's own upgrade would take, were all dependencies met: of the versions that are not older
@@ -124,10 +131,29 @@ class Collection:
         return [pkg for packages in self._installed.values() for pkg in packages]
 
     def available(self):
-        """The newest version of everything that is not installed at all."""
-        query = self._sack.query().available().filterm(latest_per_arch_by_priority=True)
-        return [versions[0] for key, versions in self._families(query).items()
-                if key not in self._installed]
+        """The newest version of everything that is not installed at all, as package objects."""
+        found = {}
+        for pkg in self._each(self._sack.query().available().filterm(latest_per_arch_by_priority=True)):
+            key = self.key(pkg)
+            if key not in self._installed and (key not in found or self._order(pkg, found[key].pkg) < 0):
+                found[key] = self.package(pkg)
+        return list(found.values())
+
+    def package(self, pkg):
+        """The package object for one of DNF's."""
+        return packages.Numbered(pkg, self._source)
+
+    def _each(self, query):
+        """Yields the packages of a query in its order, never more than some at once: what DNF's objects of
+        all packages take is lost to the rest of the program."""
+        query.apply()
+        seen = None
+        for first in range(_FIRST_NUMBER, _FIRST_NUMBER + len(self._sack), _AT_ONCE):
+            numbers = range(first, min(first + _AT_ONCE, _FIRST_NUMBER + len(self._sack)))
+            part = query.filter(pkg=[hawkey.Package((self._sack, number)) for number in numbers])
+            yield from part
+            seen = part if seen is None else seen.union(part)
+        yield from query if seen is None else query.difference(seen)  # numbers may have gaps
 
     def report_replacements(self):
         """Log lines about available packages that replace installed ones of other names."""

@@ -9,6 +9,7 @@ import functools
 import os
 
 import dnf.exceptions
+import dnf.package
 import hawkey
 
 from . import report
@@ -200,6 +201,22 @@ class Package:
             return _clean(self.pkg.base.conf.persistdir)
         path = self.pkg.localPkg()
         return _clean(path if os.path.exists(path) else self.pkg.repo.get_metadata_path("primary"))
+
+
+class Numbered(Package):
+    """A package that keeps DNF's number instead of its object, which takes much more memory: for the tens of
+    thousands that stay. `source` is (sack, base), one for all of them."""
+
+    __slots__ = ("_source", "_number")
+
+    def __init__(self, pkg, source):
+        self._source = source
+        self._number = hash(pkg)
+
+    @property
+    def pkg(self):
+        sack, base = self._source
+        return dnf.package.Package((sack, self._number), base)
 
 
 def relation(text):

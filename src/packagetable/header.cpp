@@ -1,0 +1,129 @@
+#include "packagetable/header.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace PackageTable {
+
+namespace {
+
+constexpr int widthStep = 10; // pixels
+
+} // namespace
+
+Header::Header(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
+{
+    setSectionsMovable(true);
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+// The nearest shown place from `place` on, in steps of 1 or -1; -1 when there is none.
+int Header::shownBeside(int place, int step) const
+{
+    while (place >= 0 && place < count() && isSectionHidden(logicalIndex(place)))
+        place += step;
+    return place < count() ? place : -1;
+}
+
+// What the user hears of it is the header's name.
+void Header::choose(int column)
+{
+    if (column < 0)
+        return;
+    m_column = column;
+    setAccessibleName(model()->headerData(column, Qt::Horizontal).toString());
+    Q_EMIT chosen(column);
+    viewport()->update();
+}
+
+void Header::moveBy(int step)
+{
+    const int from = visualIndex(m_column);
+    const int to = shownBeside(from + step, step);
+    if (to >= 0)
+        moveSection(from, to);
+    choose(m_column);
+}
+
+void Header::sortByChosen()
+{
+    const bool descend =
+        sortIndicatorSection() == m_column && sortIndicatorOrder() == Qt::AscendingOrder;
+    setSortIndicator(m_column, descend ? Qt::DescendingOrder : Qt::AscendingOrder);
+    Q_EMIT sectionClicked(m_column);
+}
+
+void Header::keyPressEvent(QKeyEvent *event)
+{
+    const int place = visualIndex(m_column);
+    const bool moves = event->modifiers() & Qt::ControlModifier;
+    const auto goTo = [this](int wanted) { choose(wanted < 0 ? -1 : logicalIndex(wanted)); };
+    const auto widen = [this](int pixels) {
+        resizeSection(m_column, std::max(minimumSectionSize(), sectionSize(m_column) + pixels));
+    };
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return moves ? moveBy(-1) : goTo(shownBeside(place - 1, -1));
+    case Qt::Key_Right:
+        return moves ? moveBy(1) : goTo(shownBeside(place + 1, 1));
+    case Qt::Key_Home:
+        return goTo(shownBeside(0, 1));
+    case Qt::Key_End:
+        return goTo(shownBeside(count() - 1, -1));
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        return sortByChosen();
+    case Qt::Key_Plus:
+        return widen(widthStep);
+    case Qt::Key_Minus:
+        return widen(-widthStep);
+    case Qt::Key_Down:
+        return parentWidget()->setFocus(Qt::OtherFocusReason);
+    default:
+        event->ignore();
+    }
+}
+
+bool Header::event(QEvent *event)
+{
+    // Where the pointer is does not matter to who presses a key.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard) {
+        Q_EMIT customContextMenuRequested({sectionViewportPosition(m_column), height()});
+        return true;
+    }
+    return QHeaderView::event(event);
+}
+
+void Header::focusInEvent(QFocusEvent *event)
+{
+    QHeaderView::focusInEvent(event);
+    choose(isSectionHidden(m_column) ? logicalIndex(shownBeside(0, 1)) : m_column);
+}
+
+void Header::focusOutEvent(QFocusEvent *event)
+{
+    QHeaderView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void Header::paintSection(QPainter *painter, const QRect &rect, int column) const
+{
+    QHeaderView::paintSection(painter, rect, column);
+    if (!hasFocus() || column != m_column)
+        return;
+    painter->save();
+    painter->setPen(palette().color(QPalette::WindowText));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rect.adjusted(1, 1, -2, -2));
+    painter->restore();
+}
+
+} // namespace PackageTable
