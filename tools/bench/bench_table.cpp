@@ -93,6 +93,7 @@ int main(int argc, char *argv[])
     settle();
     std::printf("start %.3f s, peak %d KiB, %d rows\n", secondsSinceStart(), peakKiB(),
                 proxy->rowCount());
+    std::fflush(stdout);
     if (application.arguments().contains(QStringLiteral("start")))
         _exit(0);
 
