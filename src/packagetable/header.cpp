@@ -116,7 +116,9 @@ void Header::focusOutEvent(QFocusEvent *event)
 
 void Header::paintSection(QPainter *painter, const QRect &rect, int column) const
 {
+    painter->save();
     QHeaderView::paintSection(painter, rect, column);
+    painter->restore(); // styles leave everything clipped
     if (!hasFocus() || column != m_column)
         return;
     painter->save();
