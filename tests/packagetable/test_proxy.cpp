@@ -71,6 +71,22 @@ private Q_SLOTS:
         QCOMPARE(m_case.listed(), names);
     }
 
+    void namesWhatHidesMost_data()
+    {
+        columns<StateFilter, QString, Hides>("state", "expression", "most");
+        row("rows of another state", StateFilter::Updatable, "nothing", Hides::State);
+        row("rows that do not match", StateFilter::All, "nothing", Hides::Expression);
+    }
+
+    void namesWhatHidesMost()
+    {
+        QFETCH(StateFilter, state);
+        QFETCH(QString, expression);
+        m_case.proxy->setStateFilter(state);
+        m_case.proxy->setFilterRegExp(expression);
+        QTEST(m_case.proxy->hidesMost(), "most");
+    }
+
     // Of two packages of one name the one of the base architecture is shown.
     void keepsTheBetterDuplicate()
     {

@@ -53,6 +53,31 @@ private Q_SLOTS:
         QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
     }
 
+    // What the keys do in the header is what the mouse does: sort, move, hide.
+    void headerKeys()
+    {
+        QHeaderView *header = m_view->horizontalHeader();
+        const QVariantMap columns = m_view->columns();
+        header->setFocus();
+        const auto press = [&](int key, Qt::KeyboardModifiers modifiers = {}) {
+            QTest::keyClick(header, Qt::Key(key), modifiers);
+        };
+        header->hideSection(StateColumn);
+        press(Qt::Key_Home);
+        press(Qt::Key_Right);
+        press(Qt::Key_Right, Qt::ControlModifier);
+        QCOMPARE(header->visualIndex(KindColumn), int(NameColumn)); // over the hidden one
+        press(Qt::Key_Return);
+        press(Qt::Key_Return);
+        QCOMPARE(header->sortIndicatorSection(), int(KindColumn));
+        press(Qt::Key_End);
+        press(Qt::Key_Space);
+        QCOMPARE(header->sortIndicatorSection(), int(BuildTimeColumn));
+        header->showSection(StateColumn);
+        m_view->setColumns(columns);
+        m_view->sortByColumn(KindColumn, Qt::AscendingOrder);
+    }
+
     void clicksAndSpaceToggle()
     {
         QSignalSpy changed(m_view.get(), &View::stateChanged);
