@@ -127,6 +127,15 @@ int main(int argc, char *argv[])
         entry->state = Package::State::Updatable;
     }
     tell("marking all rows as updates", measure([&] { window.setUpdateListed(); }, clear), 100);
+    const auto marked = [&] {
+        return std::count_if(engine.begin(), engine.end(), [](const Package::Entry *entry) {
+            return entry->action == Package::Action::Update;
+        });
+    };
+    if (window.setUpdateListed(); marked() != engine.count())
+        qFatal("not every row was marked");
+    if (clear(); marked() != 0)
+        qFatal("not every mark was cleared");
     const auto mark = [&] {
         for (Package::Entry *entry : engine)
             entry->action = Package::Action::Update;
@@ -152,6 +161,8 @@ int main(int argc, char *argv[])
              view->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
          }),
          16);
+    tell("keeping place and selection of all rows", measure([&] { view->goTo(view->place()); }),
+         250);
     std::printf("peak %d KiB\n", peakKiB());
     std::fflush(stdout);
     _exit(0); // the window's own end is not measured
