@@ -115,6 +115,12 @@ private Q_SLOTS:
         QTEST(m_case.listed(), "filtered");
         m_case.proxy->setMode(Mode::Search);
         QTEST(m_case.listed(), "found");
+        // What is known is not asked again.
+        QSignalSpy jobs(&m_case.engine, qOverload<const QString &, bool>(&YumIO::jobState));
+        m_case.proxy->setStateFilter(StateFilter::Updatable);
+        m_case.proxy->setStateFilter(StateFilter::All);
+        QTEST(m_case.listed(), "found");
+        QCOMPARE(jobs.size(), 0);
         QVERIFY(m_case.engine.collectFileLists());
         m_case.proxy->setFilterRegExp(expression);
         QTEST(m_case.listed(), "loaded");

@@ -167,11 +167,12 @@ class Collect(Case):
         (repository / "notes.txt").write_text("mine")
         outside = cache.parent / "two.rpm"
         outside.write_text("mine")
+        (cache / "base-vok.search").write_text("kept")
 
         def left(pattern):
             return bool(list(cache.rglob(pattern)))
         for method, pattern in (("cleanPackages", "*.rpm"), ("cleanMetadata", "*.xml*"),
-                                ("cleanSqlite", "*.solv*"), ("cleanHeaders", "*.hdr"),
+                                ("cleanSqlite", "*.s[oe]*"), ("cleanHeaders", "*.hdr"),
                                 ("cleanPickles", "*.pickle")):
             self.assertEqual(left(pattern), method not in ("cleanHeaders", "cleanPickles"))
             result = run(root, {"steps": [evaluate("program.make().%s()" % method)]})

@@ -1,12 +1,16 @@
 #include "rows.h"
 
 #include "yumio/envra.h"
+#include "yumio/expression.h"
 #include "yumio/formats.h"
+#include "yumio/searchtexts.h"
 #include "yumio/yumio.h"
 
 #include <QTemporaryFile>
 #include <QTest>
 
+#include <iterator>
+#include <random>
 #include <unistd.h>
 
 // What needs no interpreter: texts, designations, keys, entries.
@@ -72,9 +76,7 @@ private Q_SLOTS:
         // parts: name|epoch|version|release|arch, empty when it is none
         columns<QString, QString>("text", "parts");
 
-        const auto row = [](const char *text, const char *parts) {
-            ::row(text, text, parts);
-        };
+        const auto row = [](const char *text, const char *parts) { ::row(text, text, parts); };
         row("0:bash-5.1-3.el9.x86_64", "bash|0|5.1|3.el9|x86_64");
         row("gtk-theme-2-engine-1.0-1.noarch", "gtk-theme-2-engine||1.0|1|noarch");
         row("a:b:name-1-2.i686", "name|a:b|1|2|i686");
@@ -139,6 +141,69 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), 1);
         QVERIFY(lines[0].startsWith("Internal error: attempt to delete Package::Entry 0x"));
         QVERIFY(lines[0].contains(" with extant python obj 0x"));
+    }
+
+    // However an expression is rewritten, it finds what the C library finds with it as it stands.
+    void expressions()
+    {
+        static constexpr const char *parts[] = {
+            "a",           "b",   "\u00e9", ".",   "*",   "+",    "?",     "^",
+            "$",           "(",   ")",      "|",   "{2}", "{,1}", "[^]b]", "[)]",
+            "[[:alpha:]]", "\\.", "\\1",    "\\<", "\\)", "\n",   "}",     "[a-\u00e9]"};
+        static constexpr const char *texts[] = {"a", "b", "\u00e9", ".", " ", "\n", ")", "_", "ab"};
+        std::mt19937 random(1);
+        const auto some = [&](const auto &pieces, unsigned most) {
+            QByteArray text;
+            for (unsigned left = 1 + random() % most; left > 0; --left)
+                text += pieces[random() % std::size(pieces)];
+            return text;
+        };
+        int found = 0;
+        for (int i = 0; i < 20000; ++i) {
+            const QByteArray pattern = some(parts, 7), text = some(texts, 8);
+            regex_t plain;
+            const bool compiles = regcomp(&plain, pattern, REG_EXTENDED | REG_NOSUB) == 0;
+            const bool matches = !compiles || regexec(&plain, text, 0, nullptr, 0) == 0;
+            if (compiles)
+                regfree(&plain);
+            found += compiles && matches;
+            QVERIFY2(Expression(QString::fromUtf8(pattern)).matches(text.constData()) == matches,
+                     pattern + " in " + text);
+        }
+        QVERIFY(found > 1000);
+    }
+
+    // What is kept comes back whole, for the metadata that it was kept for, or not at all.
+    void searchTexts()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        SearchTexts texts;
+        const auto record = [](int i) {
+            return (QByteArray::number(i).repeated(1 + i % 300) + '\0').repeated(20);
+        };
+        constexpr int count = 1000; // several blocks
+        for (int i = 0; i < count; ++i)
+            texts.add(QByteArray::number(i), record(i));
+        texts.finish();
+        QVERIFY(texts.save(file.fileName(), "one"));
+        SearchTexts kept;
+        QVERIFY(!kept.open(file.fileName(), "another"));
+        QVERIFY(kept.open(file.fileName(), "one"));
+        for (int i = 0; i < count; ++i) {
+            const SearchTexts::Place *place = kept.find(QByteArray::number(i));
+            QVERIFY(place);
+            QCOMPARE(kept.block(place->block).mid(place->offset, place->size), record(i));
+        }
+
+        QFile damaged(file.fileName());
+        QVERIFY(damaged.open(QIODevice::ReadWrite) && damaged.seek(100) && damaged.write("xxxx"));
+        damaged.close();
+        QVERIFY(kept.open(file.fileName(), "one"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("qUncompress")));
+        QVERIFY(kept.block(0).isEmpty());
+        QVERIFY(damaged.resize(damaged.size() / 2));
+        QVERIFY(!kept.open(file.fileName(), "one"));
     }
 };
 

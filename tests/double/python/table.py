@@ -1,9 +1,9 @@
 """Packages for the table and the window.
 
-While the file named by VOK_TEST_HOLD exists, the reading of repositories or of change logs and a transaction
-wait in the state that it names ("metadata", "otherdata", "transaction") until it goes, or until the user
-cancels where that is allowed; NAME.held exists meanwhile. Where the file says "otherdata fails", that fails
-when it goes."""
+While the file named by VOK_TEST_HOLD exists, the reading of repositories, of file lists or of change logs,
+a look at a description and a transaction wait in the state that it names ("metadata", "files", "otherdata",
+"search", "transaction") until it goes, or until the user cancels where that is allowed; NAME.held exists
+meanwhile. Where the file says "otherdata fails", that fails when it goes."""
 
 import time
 
@@ -17,6 +17,8 @@ class P(Package):
                          dict(fields, group=group, summary=name + " summary"))
 
     def returnSimple(self, key):
+        if key == "description":
+            hold("search")
         return self.fields.get(key, "")
 
     def returnPrco(self, kind):
@@ -66,6 +68,8 @@ def hold(state):
     try:
         while os.path.exists(path):
             if state != "transaction" and yumIOC.cancelled():
+                if state == "search":
+                    return
                 raise RepoError("cancelled by the user")
             time.sleep(0.01)
     finally:
@@ -78,6 +82,11 @@ def hold(state):
 
 def setupRepos(io):
     hold("metadata")
+
+
+def collectFileLists(io):
+    hold("files")
+    return True
 
 
 def collectOtherData(io):
