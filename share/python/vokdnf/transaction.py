@@ -52,7 +52,7 @@ class Transaction:
         report.yumIOC.dsTsCheck()
         removed = {pkg.name for pkg in self._marks.unwanted}
         grouped = {name for group, action in self._noted for name in group.members()
-                   if action != groups.REMOVE or name in removed}
+                   if (action == groups.REMOVE) == (name in removed)}
         if not resolve.Resolver(self._base, self._marks, grouped).resolve():
             return False
         errors.check_cancelled()
