@@ -21,6 +21,16 @@ Header::Header(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
     setHighlightSections(false);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setFocusPolicy(Qt::TabFocus);
+    // A column that is being hidden shrinks first.
+    connect(this, &QHeaderView::sectionResized, this, &Header::leaveHidden, Qt::QueuedConnection);
+}
+
+void Header::leaveHidden()
+{
+    if (!isSectionHidden(m_column))
+        return;
+    const int after = shownBeside(visualIndex(m_column), 1);
+    choose(logicalIndex(after >= 0 ? after : shownBeside(visualIndex(m_column), -1)));
 }
 
 // The nearest shown place from `place` on, in steps of 1 or -1; -1 when there is none.
@@ -38,7 +48,8 @@ void Header::choose(int column)
         return;
     m_column = column;
     setAccessibleName(model()->headerData(column, Qt::Horizontal).toString());
-    Q_EMIT chosen(column);
+    if (hasFocus())
+        Q_EMIT chosen(column);
     viewport()->update();
 }
 
@@ -105,7 +116,7 @@ bool Header::event(QEvent *event)
 void Header::focusInEvent(QFocusEvent *event)
 {
     QHeaderView::focusInEvent(event);
-    choose(isSectionHidden(m_column) ? logicalIndex(shownBeside(0, 1)) : m_column);
+    choose(m_column);
 }
 
 void Header::focusOutEvent(QFocusEvent *event)

@@ -26,6 +26,7 @@ protected:
 
 private:
     void choose(int column);
+    void leaveHidden();
     int shownBeside(int place, int step) const;
     void moveBy(int step);
     void sortByChosen();

@@ -75,7 +75,7 @@ class Failures(Case):
         main.write_text(main.read_text().replace("installonly_limit=3", "installonly_limit=2"))
         tool(root, "rpm", "-e", "kernel-6.1.0-1", "kernel-6.1.0-5")
         kernels = "io._session.sack.query().available().filter(name='kernel')"
-        code = "io.apply([type(program.all.available[0])(one) for one in %s], [], [])" % kernels
+        code = "io.apply([io._collected().package(one) for one in %s], [], [])" % kernels
         result = run(root, {"confirm": [0], "steps": [{"do": "collect"}, {"do": "eval", "code": code}]})
         self.assertIn([0, "  What was marked cannot be had all together: %s." % ", ".join(
             "kernel-6.1.0-%d.x86_64" % release for release in (1, 5, 9))], calls(result, "log"))
