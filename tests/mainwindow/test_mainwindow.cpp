@@ -192,6 +192,39 @@ private Q_SLOTS:
         QCOMPARE(listed(), before);
     }
 
+    void cancelsSearches_data()
+    {
+        QTest::addColumn<QByteArray>("moment");
+        for (const char *moment : {"files", "otherdata", "search"})
+            QTest::newRow(moment) << QByteArray(moment);
+    }
+
+    // Whatever it was about, a search that was cancelled leaves the rows as they were, gives the
+    // control back that started it, and can be had later.
+    void cancelsSearches()
+    {
+        QFETCH(QByteArray, moment);
+        press("refreshButton"); // what was loaded is forgotten
+        child<QCheckBox>("groupsCheck")->setChecked(false);
+        filter(u"needle|^alpha"_s);
+        child<QLineEdit>("regexpEdit")->setText(u"typed"_s);
+        auto *mode = child<QComboBox>("modeCombo");
+        holdAndThen(
+            moment.constData(), [mode] { mode->setCurrentIndex(int(Mode::Search)); },
+            [this] { press("cancelButton"); });
+        QCOMPARE(mode->currentIndex(), int(Mode::Filter));
+        QCOMPARE(child<QPushButton>("filterSearchButton")->text(), u"Filter"_s);
+        QCOMPARE(child<QLineEdit>("regexpEdit")->text(), u"typed"_s);
+        QCOMPARE(listed(), u"alpha"_s);
+        QVERIFY(m_window->statusBar()->currentMessage().contains(u"search was cancelled"_s));
+        release();
+        mode->setCurrentIndex(int(Mode::Search));
+        QCOMPARE(listed(), u"alpha beta"_s);
+        QVERIFY(!m_window->statusBar()->isVisible());
+        mode->setCurrentIndex(int(Mode::Filter));
+        showAll();
+    }
+
     // A job that is running is not doubled, and a transaction is not cut off by closing the window.
     void applies()
     {
@@ -256,10 +289,11 @@ private:
     QAction *action(const char *name) { return child<QAction>(name); }
     void press(const char *name) { QTest::mouseClick(child<QPushButton>(name), Qt::LeftButton); }
 
-    // Starts a refresh that does not come to its end, and does something once it can be cancelled.
-    void refreshAndThen(const std::function<void()> &act)
+    // Starts a job that waits in a state, and does something once it can be cancelled.
+    void holdAndThen(const char *state, const std::function<void()> &start,
+                     const std::function<void()> &act)
     {
-        hold("metadata");
+        hold(state);
         QTimer probe;
         connect(&probe, &QTimer::timeout, this, [&] {
             // The job's failure is told in a box, which nobody else closes here.
@@ -269,7 +303,12 @@ private:
                 act();
         });
         probe.start(5);
-        press("refreshButton");
+        start();
+    }
+    void refreshAndThen(const std::function<void()> &act)
+    {
+        holdAndThen(
+            "metadata", [this] { press("refreshButton"); }, act);
     }
 
     void filter(const QString &expression)
