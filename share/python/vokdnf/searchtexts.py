@@ -23,6 +23,7 @@ def read(session, pos, files, changes):
     true."""
     lists = {}
     for po in pos:
+        po = packages.Package(po.pkg)  # DNF's object once, for all of its fields
         if po.pkg._from_system:
             texts = _installed(po)
         else:
