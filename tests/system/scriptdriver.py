@@ -12,7 +12,8 @@ A scenario may hold
     key                 answer to keyQuestion (default no)
     confirmRemovals     answer to it (default no)
     cancelAt            name of a callback: from its first call on the job is cancelled
-    killAt              [callback, number]: the process is killed in that call
+    killAt              [callback, number]: the process is killed in that call; with a third item only calls with
+                        these arguments count
 The result holds `calls` (a list of [callback, arguments...]), `values` (one for each step) and `errors`
 ([exception's class, text] or null for each step).
 """
@@ -141,7 +142,7 @@ class Recorder:
         self.calls = []
         self.cancelled_now = False
         self._scenario = scenario
-        self._counts = {}
+        self._seen = 0
         self._confirm = list(scenario.get("confirm", ()))
         self.module = types.ModuleType("yumIOC")
         for name in CALLBACKS:
@@ -154,11 +155,16 @@ class Recorder:
             self.calls.append([name, *map(plain, arguments)])
             if name == self._scenario.get("cancelAt"):
                 self.cancelled_now = True
-            self._counts[name] = self._counts.get(name, 0) + 1
-            if [name, self._counts[name]] == self._scenario.get("killAt"):
-                os.kill(os.getpid(), signal.SIGKILL)
+            self._kill_in_time(name, self.calls[-1][1:])
             return self._answer(name)
         return call
+
+    def _kill_in_time(self, name, arguments):
+        callback, number, *wanted = self._scenario.get("killAt", (None, 0))
+        if name == callback and wanted in ([], [arguments]):
+            self._seen += 1
+            if self._seen == number:
+                os.kill(os.getpid(), signal.SIGKILL)
 
     def _answer(self, name):
         if name == "userconfirm":
