@@ -2,12 +2,11 @@
 
 #include "packagetable/packagetable.h"
 #include "widgets/habstracttablemodel.h"
+#include "yumio/jobrunner.h"
 #include "yumio/package.h"
 
 #include <QColor>
 #include <QIcon>
-
-#include <functional>
 
 class QWidget;
 class YumConfIO;
@@ -18,9 +17,6 @@ namespace PackageTable {
 namespace Describe {
 class Dialog;
 }
-
-// Runs a job of the engine as the window runs its own; false when it cannot now.
-using JobRunner = std::function<bool(const std::function<void()> &work)>;
 
 // The engine's entries as a table, one row for each in the engine's order, and the one place where
 // the user's choice of action is written into an entry. Owns no package data: the owner calls

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <functional>
+
+// Runs a job of the engine as the window runs its own; false when it cannot now, because another
+// job runs.
+using JobRunner = std::function<bool(const std::function<void()> &work)>;
