@@ -74,6 +74,7 @@ bool YumIO::searchReal(SearchRequest &request)
     if (!searchInBulk(request, inBulk, lock) && !m_cancelled)
         singly += inBulk;
     searchSingly(request, singly);
+    ::malloc_trim(0); // of what passed through, much; else the holes stay with the process
     m_progress->reset();
     if (m_cancelled)
         log(Log::Kind::Warning, 0, tr("The search was cancelled."));
@@ -158,7 +159,6 @@ bool YumIO::readSearchTexts(const SearchRequest &request, const QList<qsizetype>
                 !m_search.texts[repo]->save(cache->path, cache->identity))
                 log(Log::Kind::Warning, 3, tr("%1 cannot be written.").arg(cache->path));
         }
-        ::malloc_trim(0); // of what passed through, much; else the holes stay with the process
     }
 
     for (const qsizetype number : numbers) {

@@ -87,7 +87,8 @@ int main(int argc, char *argv[])
         if (first) {
             engine.collectFileLists();
             engine.collectOtherData();
-            std::printf("loaded: %lld ms\n", timer.elapsed());
+            std::printf("loaded: %lld ms, RssAnon +%d MiB\n", timer.elapsed(),
+                        anonymousMiB() - before);
             proxy.setFilterRegExp(pattern);
             proxy.setMode(Mode::Search);
         } else {
