@@ -19,6 +19,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -136,6 +137,9 @@ void MainWindow::createCentralWidget()
     layout->addWidget(m_mainArea, 1);
     layout->addLayout(createBarsRow());
     setCentralWidget(central);
+
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->hide(); // until there is something to say
 }
 
 void MainWindow::createTable()

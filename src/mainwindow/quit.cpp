@@ -48,6 +48,7 @@ MainWindow::Job::Job(MainWindow *window) : m_window(window->m_busy ? nullptr : w
         return;
     m_window->m_busy = true;
     m_window->m_rpmBegan = false;
+    m_window->statusBar()->clearMessage(); // of the job before
     m_window->setReady(false);
 }
 
@@ -230,7 +231,6 @@ void MainWindow::tell(const QString &text)
 {
     if (m_finished)
         return;
-    statusBar()->setSizeGripEnabled(false);
     statusBar()->showMessage(text);
     statusBar()->setVisible(!text.isEmpty());
 }
