@@ -1,0 +1,181 @@
+#include "configdialog.h"
+
+#include "configform.h"
+#include "widgets/hframelabel.h"
+#include "widgets/hscrollarea.h"
+#include "widgets/messagebox.h"
+#include "yumconfio.h"
+#include "yumio/yumio.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+#include <QVBoxLayout>
+
+namespace RepoEditor {
+
+namespace {
+
+const QString geometryKey = QStringLiteral("repoForm/geometry");
+
+QSettings settings()
+{
+    return QSettings(QStringLiteral("VOK"), QStringLiteral("vok"));
+}
+
+} // namespace
+
+ConfigDialog::ConfigDialog(YumConfIO *yumConfIO, QWidget *parent)
+    : HDialog(parent), m_yumConfIO(yumConfIO)
+{
+    setObjectName(QStringLiteral("repoForm"));
+    setWindowTitle(tr("VOK Repository Configuration"));
+    setSizeGripEnabled(true);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(createForm(), 1);
+    layout->addLayout(createButtons());
+    connect(m_form, &Config::changed, this, &ConfigDialog::changed);
+
+    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
+    restoreGeometry(settings().value(geometryKey).toByteArray());
+}
+
+ConfigDialog::~ConfigDialog() = default;
+
+QWidget *ConfigDialog::createForm()
+{
+    m_area = new HScrollArea(this);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *widget = new QWidget;
+    m_form = new Config(new QGridLayout(widget));
+    m_area->setWidget(widget);
+    // A field may get the focus by its letter or by a click on what is seen of it.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && m_area->widget()->isAncestorOf(now))
+            m_area->ensureWidgetVisible(now);
+    });
+    return m_area;
+}
+
+QHBoxLayout *ConfigDialog::createButtons()
+{
+    auto *row = new QHBoxLayout;
+    m_status = new HFrameLabel(this);
+    m_status->setObjectName(QStringLiteral("status"));
+    row->addWidget(m_status);
+    row->addStretch();
+    const auto add = [&](const char *name, const QString &text, const QString &toolTip,
+                         void (ConfigDialog::*slot)()) {
+        auto *button = new QPushButton(text, this);
+        button->setObjectName(QLatin1String(name));
+        button->setToolTip(toolTip);
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, slot);
+        row->addWidget(button);
+        return button;
+    };
+    m_resetButton = add("resetButton", tr("&Reset"),
+                        tr("Undo changes to this repository configuration"), &ConfigDialog::reset);
+    add("cancelButton", tr("&Cancel"),
+        tr("Undo changes to this repository configuration and close the window"),
+        &ConfigDialog::cancel);
+    add("okButton", tr("&OK"),
+        tr("Apply changes to all repository configurations, and close the window"),
+        &ConfigDialog::ok)
+        ->setDefault(true);
+    return row;
+}
+
+void ConfigDialog::setEngine(YumIO *yumIO, JobRunner runner)
+{
+    m_yumIO = yumIO;
+    m_runJob = std::move(runner);
+}
+
+void ConfigDialog::setEntry(Repo::Entry *entry)
+{
+    m_entry = entry;
+    m_form->setEntry(*entry);
+    updateStatusLabel();
+}
+
+void ConfigDialog::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        m_form->setDefaults(m_yumConfIO->mainEnabled, m_yumConfIO->mainGpgcheck);
+        setHasChanged(false);
+        m_area->ensureVisible(0, 0);
+        m_form->setFocus();
+    }
+    HDialog::setVisible(visible);
+}
+
+void ConfigDialog::updateStatusLabel()
+{
+    if (!m_form->setStatus(m_yumConfIO, m_status))
+        m_status->clear();
+}
+
+void ConfigDialog::setHasChanged(bool flag)
+{
+    m_hasChanged = flag;
+    m_resetButton->setEnabled(flag);
+    updateStatusLabel();
+}
+
+void ConfigDialog::changed()
+{
+    setHasChanged(true);
+}
+
+void ConfigDialog::reset()
+{
+    m_form->setEntry(*m_entry);
+    setHasChanged(false);
+}
+
+void ConfigDialog::cancel()
+{
+    done(QDialog::Rejected);
+}
+
+// Escape or the window's X: they are hit by accident where the button is not.
+void ConfigDialog::reject()
+{
+    if (m_hasChanged && showMessageBox(QMessageBox::Question, this, windowTitle(),
+                                       tr("Discard the changes to this repository configuration?"),
+                                       tr("&Discard"), tr("&Keep Editing"), QString(), 1, 1) != 0)
+        return;
+    cancel();
+}
+
+void ConfigDialog::ok()
+{
+    if (!m_hasChanged) {
+        done(QDialog::Rejected);
+        return;
+    }
+    const Repo::Entry entry = m_form->toEntry();
+    m_yumConfIO->reposUsed.insert(entry.id, entry.enabled == Qt::PartiallyChecked
+                                                ? m_yumConfIO->mainEnabled
+                                                : entry.enabled == Qt::Checked);
+    *m_entry = entry;
+    accept();
+}
+
+void ConfigDialog::drop()
+{
+    done(QDialog::Rejected);
+}
+
+void ConfigDialog::done(int result)
+{
+    settings().setValue(geometryKey, saveGeometry());
+    HDialog::done(result);
+}
+
+} // namespace RepoEditor

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "repoentry.h"
+#include "widgets/hdialog.h"
+#include "yumio/jobrunner.h"
+
+class HFrameLabel;
+class HScrollArea;
+class QHBoxLayout;
+class QPushButton;
+class YumConfIO;
+class YumIO;
+
+namespace RepoEditor {
+
+class Config;
+
+// Edits one repository definition in place, once the user confirms.
+class ConfigDialog : public HDialog
+{
+    Q_OBJECT
+
+public:
+    ConfigDialog(YumConfIO *yumConfIO, QWidget *parent);
+    ~ConfigDialog() override;
+
+    // The entry must live while the dialog is shown. exec() is 1 when it was changed.
+    void setEntry(Repo::Entry *entry);
+    // For the test of a repository, the variables in URLs and the names of options; without an
+    // engine that is running there are none of these.
+    void setEngine(YumIO *yumIO, JobRunner runner);
+    // Closes now, changing and asking nothing.
+    void drop();
+
+    void setVisible(bool visible) override;
+    void done(int result) override;
+    void reject() override;
+
+public Q_SLOTS:
+    void changed();
+    void reset();
+    void cancel();
+    void ok();
+
+private:
+    QWidget *createForm();
+    QHBoxLayout *createButtons();
+    void updateStatusLabel();
+    void setHasChanged(bool flag);
+
+    YumConfIO *m_yumConfIO;
+    YumIO *m_yumIO = nullptr;
+    JobRunner m_runJob;
+    Repo::Entry *m_entry = nullptr;
+    bool m_hasChanged = false;
+    Config *m_form = nullptr;
+    HScrollArea *m_area = nullptr;
+    HFrameLabel *m_status = nullptr;
+    QPushButton *m_resetButton = nullptr;
+};
+
+} // namespace RepoEditor

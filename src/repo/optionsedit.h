@@ -1,0 +1,16 @@
+#pragma once
+
+#include "passwdtextedit.h"
+
+namespace RepoEditor {
+
+// The option lines of a repository. A password in one of them is masked until that line is edited.
+class OptionsEdit : public PasswdTextEdit
+{
+    Q_OBJECT
+
+public:
+    OptionsEdit(int rows, int columns, QWidget *parent);
+};
+
+} // namespace RepoEditor
