@@ -129,7 +129,8 @@ bool copyIdentity(const struct stat &status, const QByteArray &from, int fd, con
     if ((own.st_uid != status.st_uid || own.st_gid != status.st_gid) &&
         fchown(fd, status.st_uid, status.st_gid) != 0)
         return false;
-    return fchmod(fd, status.st_mode & 07777) == 0 && copyAttributes(from, to);
+    // The mode comes last: an access list brings one of its own.
+    return copyAttributes(from, to) && fchmod(fd, status.st_mode & 07777) == 0;
 }
 
 // Writes a complete new file `path`. `like`, where given, is the file whose identity it gets.
@@ -204,7 +205,8 @@ bool WholeFile::keep(const QByteArray &path)
     return false;
 }
 
-bool WholeFile::replace(const QByteArray &path, const QByteArray &content, mode_t newMode)
+bool WholeFile::replace(const QByteArray &path, const QByteArray &content, mode_t newMode,
+                        mode_t taken)
 {
     struct stat status;
     const bool exists = lstat(path.constData(), &status) == 0;
@@ -215,6 +217,7 @@ bool WholeFile::replace(const QByteArray &path, const QByteArray &content, mode_
     // Renaming asks the directory only; whoever took the right to write from the file meant it.
     if (exists && faccessat(AT_FDCWD, path.constData(), W_OK, AT_EACCESS) != 0)
         return false;
+    status.st_mode &= ~taken;
 
     const QByteArray fresh = path + ".vok-new";
     if (!create(fresh, content, exists ? &status : nullptr, path, newMode))

@@ -9,9 +9,10 @@
 namespace WholeFile {
 
 // Writes `content` beside `path` and renames it over it once it is on the disk, with the mode,
-// owner, access list, extended attributes and security label of the file that was there; a new
-// file gets `newMode`. The file that was there is kept once, as with keep().
-bool replace(const QByteArray &path, const QByteArray &content, mode_t newMode);
+// owner, access list, extended attributes and security label of the file that was there, without
+// the rights in `taken`; a new file gets `newMode`. The file that was there is kept once, as with
+// keep().
+bool replace(const QByteArray &path, const QByteArray &content, mode_t newMode, mode_t taken = 0);
 
 // Removes a file or a link. The content of a file is kept once, as with keep().
 bool remove(const QByteArray &path);

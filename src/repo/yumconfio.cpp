@@ -1,8 +1,11 @@
 #include "yumconfio.h"
 
+#include "kivvet/kivvet.h"
 #include "rootpath.h"
 #include "widgets/messagebox.h"
 #include "yumio/passwordsintext.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -71,6 +74,36 @@ QStringList YumConfIO::repoFiles(const QString &directory)
     }
     closedir(dir);
     return files;
+}
+
+bool YumConfIO::carriesPassword(const QString &text)
+{
+    static const QRegularExpression others(
+        QStringLiteral("://[^/\\s:@]*:[^/\\s@]+@|^(?:proxy_)?password[ \t]*[:=][ \t]*[^\\s]"),
+        QRegularExpression::MultilineOption);
+
+    if (others.match(text).hasMatch())
+        return true;
+    for (const QString &line : text.split(u'\n')) {
+        QString nameKey, name, passwordKey, password;
+        if (Repo::Kivvet::getAuth(line, nameKey, name, passwordKey, password) &&
+            !password.isEmpty())
+            return true;
+    }
+    return false;
+}
+
+bool YumConfIO::carriesPassword(const Repo::Entry &entry)
+{
+    return carriesPassword(entry.baseurl) || carriesPassword(entry.mirrorlist) ||
+           carriesPassword(entry.otherOptions);
+}
+
+bool YumConfIO::losesReaders(const QString &path) const
+{
+    struct stat status;
+    return !m_files.value(path).secret && RootPath::status(path, status) &&
+           (status.st_mode & S_IROTH);
 }
 
 void YumConfIO::error(const QString &message)

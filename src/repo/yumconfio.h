@@ -43,6 +43,8 @@ public:
     // the user declined, and then `repos` is as it was, or when a failure was shown; what was
     // written until then stays written.
     bool write(QWidget *parent);
+    // Whether others can read the file, and cannot any more once it has its first password.
+    bool losesReaders(const QString &path) const;
 
     QString cachedir;
     QStringList reposdirs;
@@ -74,6 +76,7 @@ private:
         QByteArray digest;    // of its bytes
         bool latin1 = false;  // not UTF-8: its bytes stand for the first 256 characters
         bool bom = false;     // began with a byte order mark
+        bool secret = false;  // holds a password
         QSet<QString> idents; // the repositories in it
     };
 
@@ -106,6 +109,8 @@ private:
 
     void cleanupWrite(QList<Repo::Entry> &list) const;
     bool checkErrors(QList<Repo::Entry> &list);
+    static bool carriesPassword(const QString &text);
+    static bool carriesPassword(const Repo::Entry &entry);
     static bool hasEmptyId(const QList<Repo::Entry> &list);
     static QString getDuplicateId(const QList<Repo::Entry> &list);
     QList<FileContent> sortedContents(QList<Repo::Entry> sorted) const;

@@ -172,8 +172,11 @@ bool YumConfIO::readReposFile(const QString &path, const QByteArray &real)
 // Only a file that was read to its end is known; any other is asked about before it is overwritten.
 void YumConfIO::noteRead(const QString &path, FileState state, qsizetype firstRepo)
 {
-    for (qsizetype i = firstRepo; i < repos.size(); ++i)
+    state.secret = path == fileName() && carriesPassword(m_mainText);
+    for (qsizetype i = firstRepo; i < repos.size(); ++i) {
         state.idents.insert(repos.at(i).id);
+        state.secret = state.secret || carriesPassword(repos.at(i));
+    }
     m_files.insert(path, state);
 }
 

@@ -1,12 +1,10 @@
 #include "yumconfio.h"
 
-#include "kivvet/kivvet.h"
 #include "rootpath.h"
 #include "wholefile.h"
 #include "widgets/messagebox.h"
 
 #include <QCryptographicHash>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -23,29 +21,6 @@ bool isDirectory(const QString &path)
 {
     struct stat status;
     return RootPath::status(path, status) && S_ISDIR(status.st_mode);
-}
-
-bool carriesPassword(const QString &text)
-{
-    static const QRegularExpression others(
-        QStringLiteral("://[^/\\s:@]*:[^/\\s@]+@|^(?:proxy_)?password[ \t]*[:=][ \t]*[^\\s]"),
-        QRegularExpression::MultilineOption);
-
-    if (others.match(text).hasMatch())
-        return true;
-    for (const QString &line : text.split(u'\n')) {
-        QString nameKey, name, passwordKey, password;
-        if (Repo::Kivvet::getAuth(line, nameKey, name, passwordKey, password) &&
-            !password.isEmpty())
-            return true;
-    }
-    return false;
-}
-
-bool carriesPassword(const Repo::Entry &entry)
-{
-    return carriesPassword(entry.baseurl) || carriesPassword(entry.mirrorlist) ||
-           carriesPassword(entry.otherOptions);
 }
 
 bool fitsLatin1(const QString &text)
@@ -173,11 +148,14 @@ bool YumConfIO::writeFile(const FileContent &content)
         std::any_of(content.entries.cbegin(), content.entries.cend(),
                     [](const Repo::Entry &entry) { return carriesPassword(entry); });
     const QByteArray target = RootPath::target(content.path);
-    if (!complete || target.isEmpty() || !WholeFile::replace(target, bytes, secret ? 0600 : 0644)) {
+    const mode_t taken = secret && !state.secret ? S_IRWXO : 0;
+    if (!complete || target.isEmpty() ||
+        !WholeFile::replace(target, bytes, secret ? 0600 : 0644, taken)) {
         error(tr("Unable to write repository configuration file %1").arg(content.path));
         return false;
     }
     state.digest = digestOf(bytes);
+    state.secret = secret;
     state.idents.clear();
     for (const Repo::Entry &entry : content.entries)
         state.idents.insert(entry.id);

@@ -1,0 +1,11 @@
+#include "url.h"
+
+QString URL::getHost(const QString &url)
+{
+    const qsizetype colon = url.indexOf(u':');
+    if (colon < 0 || QStringView(url).mid(colon + 1, 2) != QLatin1String("//"))
+        return QString();
+    const qsizetype start = colon + 3;
+    const qsizetype end = url.indexOf(u'/', start);
+    return url.mid(start, end < 0 ? -1 : end - start);
+}

@@ -1,0 +1,96 @@
+#include "authchecker.h"
+
+#include "authdialog.h"
+#include "kivvet/kivvet.h"
+#include "kivvet/url.h"
+#include "rootpath.h"
+#include "yumconfio.h"
+
+#include <QHash>
+
+#include <optional>
+
+namespace RepoAuth {
+
+namespace {
+
+// Whether the URLs have room for credentials; `auth` gets what stands there.
+bool readAuth(const Repo::Entry &entry, Checker::Auth &auth)
+{
+    QString nameKey, passwordKey;
+    return Repo::Kivvet::getAuth(entry, nameKey, auth.name, passwordKey, auth.password);
+}
+
+QString hostOf(const Repo::Entry &entry)
+{
+    const QString host = URL::getHost(entry.baseurl);
+    return host.isEmpty() ? URL::getHost(entry.mirrorlist) : host;
+}
+
+} // namespace
+
+Checker::Checker(QWidget *parent, YumConfIO *yumConfIO) : m_parent(parent), m_yumConfIO(yumConfIO)
+{
+    yumConfIO->read(parent);
+    check();
+    if (m_dialog)
+        m_dialog->hide();
+    if (changed)
+        yumConfIO->write(parent);
+}
+
+Checker::~Checker()
+{
+    delete m_dialog;
+}
+
+void Checker::check()
+{
+    std::optional<Auth> forAll;
+    QHash<QString, Auth> forHost;
+    for (Repo::Entry &entry : m_yumConfIO->repos) {
+        Auth auth;
+        if (!m_yumConfIO->reposUsed.value(entry.id) || !readAuth(entry, auth) ||
+            !auth.name.isEmpty() || !auth.password.isEmpty())
+            continue;
+        const QString host = hostOf(entry);
+        if (forAll || forHost.contains(host)) {
+            replace(entry, forAll ? *forAll : forHost.value(host));
+            continue;
+        }
+        if (!m_dialog)
+            m_dialog = new Dialog(m_parent);
+        const int answer = m_dialog->exec(&entry, warning(entry));
+        quit = answer == Dialog::Quit;
+        if (quit || answer == Dialog::SkipAll)
+            return;
+        if (answer == Dialog::Disable)
+            m_yumConfIO->reposUsed.insert(entry.id, false);
+        if (answer != Dialog::OK && answer != Dialog::ApplyAll && answer != Dialog::ApplyHost)
+            continue;
+        readAuth(entry, auth);
+        changed = changed || !auth.name.isEmpty() || !auth.password.isEmpty();
+        if (answer == Dialog::ApplyAll)
+            forAll = auth;
+        else if (answer == Dialog::ApplyHost)
+            forHost.insert(host, auth);
+    }
+}
+
+// An answer for several repositories may change several files, which are not known beforehand.
+QString Checker::warning(const Repo::Entry &entry) const
+{
+    if (!m_yumConfIO->losesReaders(entry.file))
+        return QString();
+    return tr("The password will be written to %1. A file that gets its first password can no "
+              "longer be read by other users.")
+        .arg(RootPath::shown(entry.file));
+}
+
+void Checker::replace(Repo::Entry &entry, const Auth &auth)
+{
+    for (QString *urls : {&entry.baseurl, &entry.mirrorlist})
+        *urls = Repo::Kivvet::replaceAuth(*urls, auth.name, auth.password);
+}
+
+} // namespace RepoAuth

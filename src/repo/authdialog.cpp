@@ -1,0 +1,261 @@
+#include "authdialog.h"
+
+#include "app/fonts.h"
+#include "kivvet/kivvet.h"
+#include "repoentry.h"
+#include "widgets/hscrollarea.h"
+#include "widgets/hseparator.h"
+#include "widgets/hwraplabel.h"
+#include "yumio/passwordsintext.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+
+namespace RepoAuth {
+
+namespace {
+
+constexpr int wideness = 40; // in letters
+
+// A key of a URL may hold what a label would take for the mark of a shortcut.
+void showKey(QLabel *label, const QString &key, const QString &fallback)
+{
+    label->setText(key.isEmpty() ? fallback : QString(key).replace(u'&', QLatin1String("&&")));
+}
+
+} // namespace
+
+Dialog::Dialog(QWidget *parent) : HDialog(parent)
+{
+    setObjectName(QStringLiteral("authDialog"));
+    setWindowTitle(tr("VOK Authentication"));
+    auto *heading = new QLabel(tr("Some configured repositories require authentication"), this);
+    heading->setFont(Fonts::makeHeader(heading->font()));
+    heading->setWordWrap(true);
+    auto *area = new HScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(createFields());
+    m_warning = new QLabel(this);
+    m_warning->setObjectName(QStringLiteral("warningLabel"));
+    m_warning->setTextFormat(Qt::PlainText);
+    m_warning->setWordWrap(true);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(heading);
+    layout->addWidget(new HSeparator(this));
+    layout->addWidget(area, 1);
+    layout->addWidget(m_warning);
+    createButtons();
+}
+
+QWidget *Dialog::createFields()
+{
+    auto *fields = new QWidget(this);
+    auto *grid = new QGridLayout(fields);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setColumnStretch(1, 1);
+    const auto add = [&](int row, const char *name, const QString &title) {
+        auto *value = new HWrapLabel(fields);
+        value->setObjectName(QLatin1String(name));
+        auto *label = new QLabel(title, fields);
+        label->setBuddy(value);
+        grid->addWidget(label, row, 0, Qt::AlignTop);
+        grid->addWidget(value, row, 1);
+        return value;
+    };
+    m_id = add(0, "idLabel", tr("Identifier"));
+    m_repoName = add(1, "repoNameLabel", tr("Name"));
+    m_baseurl = add(2, "baseurlLabel", tr("URLs"));
+    m_mirrorlist = add(3, "mirrorlistLabel", tr("Mirror list URL"));
+    grid->addWidget(new HSeparator(fields), 4, 0, 1, 2);
+    m_name = addEdit(grid, 5, "nameEdit", m_nameLabel,
+                     tr("Authentication name for a repository using the kivvet authentication "
+                        "method"));
+    m_password = addEdit(grid, 6, "passwordEdit", m_passwordLabel,
+                         tr("Authentication password for a repository using the kivvet "
+                            "authentication method"));
+    m_password->setEchoMode(QLineEdit::Password);
+    showKey(m_nameLabel, QString(), tr("Name"));
+    showKey(m_passwordLabel, QString(), tr("Password"));
+    grid->setRowStretch(7, 1);
+    return fields;
+}
+
+QLineEdit *Dialog::addEdit(QGridLayout *grid, int row, const char *name, QLabel *&label,
+                           const QString &toolTip)
+{
+    QWidget *fields = grid->parentWidget();
+    label = new QLabel(fields);
+    auto *edit = new QLineEdit(fields);
+    label->setObjectName(QLatin1String(name) + QLatin1String("Label"));
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(edit);
+    edit->setObjectName(QLatin1String(name));
+    edit->setToolTip(toolTip);
+    connect(edit, &QLineEdit::textEdited, this, &Dialog::authChanged);
+    grid->addWidget(label, row, 0);
+    grid->addWidget(edit, row, 1);
+    return edit;
+}
+
+void Dialog::createButtons()
+{
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    const auto add = [&](const char *name, const QString &text, void (Dialog::*slot)()) {
+        auto *button = new QPushButton(text, this);
+        button->setObjectName(QLatin1String(name));
+        connect(button, &QPushButton::clicked, this, slot);
+        row->addWidget(button);
+        m_buttons.append(button);
+    };
+    add("quitButton", tr("Quit"), &Dialog::handleQuit);
+    add("disableButton", tr("Disable for Session"), &Dialog::handleDisable);
+    add("skipAllButton", tr("Skip All"), &Dialog::handleSkipAll);
+    add("applyAllButton", tr("Apply to All"), &Dialog::handleApplyAll);
+    add("applyHostButton", tr("Apply to All with this Host"), &Dialog::handleApplyHost);
+    add("okButton", tr("OK"), &Dialog::handleOK);
+    m_buttons.constLast()->setDefault(true);
+    static_cast<QVBoxLayout *>(layout())->addLayout(row);
+}
+
+int Dialog::exec(Repo::Entry *entry, const QString &warning)
+{
+    QString name, password;
+    m_entry = entry;
+    m_nameKey.clear();
+    m_passwordKey.clear();
+    Repo::Kivvet::getAuth(*entry, m_nameKey, name, m_passwordKey, password);
+    m_id->setText(entry->id);
+    m_repoName->setText(entry->name);
+    showKey(m_nameLabel, m_nameKey, tr("Name"));
+    showKey(m_passwordLabel, m_passwordKey, tr("Password"));
+    m_name->setText(name);
+    m_password->setText(password);
+    authChanged(QString());
+    m_warning->setText(warning);
+    m_warning->setVisible(!warning.isEmpty());
+    setButtonsEnabled(true);
+    m_name->setFocus();
+    show();
+    setResult(Quit); // unless something is answered before the program ends the loop
+    m_loop.exec();
+    m_entry = nullptr;
+    return result();
+}
+
+// What the labels show is no source of URLs: other passwords in them are masked too.
+void Dialog::authChanged(const QString &)
+{
+    if (!m_entry)
+        return;
+    const QChar mask(
+        style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, m_password));
+    const auto shown = [&](const QString &urls) {
+        return Repo::Kivvet::replaceAuth(maskPasswords(urls), m_nameKey, m_name->text(),
+                                         m_passwordKey, QString(m_password->text().size(), mask));
+    };
+    m_baseurl->setText(shown(m_entry->baseurl));
+    m_mirrorlist->setText(shown(m_entry->mirrorlist));
+}
+
+void Dialog::setUrls()
+{
+    if (!m_entry)
+        return;
+    for (QString *urls : {&m_entry->baseurl, &m_entry->mirrorlist})
+        *urls = Repo::Kivvet::replaceAuth(*urls, m_nameKey, m_name->text(), m_passwordKey,
+                                          m_password->text());
+}
+
+void Dialog::answer(Answer answer)
+{
+    if (answer == OK || answer == ApplyAll || answer == ApplyHost)
+        setUrls();
+    m_entry = nullptr;
+    done(answer);
+}
+
+void Dialog::handleQuit()
+{
+    answer(Quit);
+}
+
+void Dialog::handleDisable()
+{
+    answer(Disable);
+}
+
+void Dialog::handleSkipAll()
+{
+    answer(SkipAll);
+}
+
+void Dialog::handleApplyAll()
+{
+    answer(ApplyAll);
+}
+
+void Dialog::handleApplyHost()
+{
+    answer(ApplyHost);
+}
+
+void Dialog::handleOK()
+{
+    answer(OK);
+}
+
+void Dialog::done(int result)
+{
+    m_entry = nullptr;
+    setButtonsEnabled(false);
+    setResult(result);
+    m_loop.exit();
+    Q_EMIT finished(result);
+    if (result == OK)
+        Q_EMIT accepted();
+    else if (result == SkipAll)
+        Q_EMIT rejected();
+}
+
+void Dialog::setButtonsEnabled(bool enabled)
+{
+    for (QPushButton *button : std::as_const(m_buttons))
+        button->setEnabled(enabled);
+}
+
+void Dialog::setVisible(bool visible)
+{
+    if (visible == isHidden()) {
+        if (visible)
+            QApplication::restoreOverrideCursor();
+        else
+            QApplication::setOverrideCursor(Qt::BusyCursor);
+    }
+    HDialog::setVisible(visible);
+}
+
+// A window that refuses to close would keep the session from ending.
+void Dialog::closeEvent(QCloseEvent *event)
+{
+    reject();
+    event->accept();
+}
+
+QSize Dialog::sizeHint() const
+{
+    const QSize natural = HDialog::sizeHint();
+    return QSize(natural.width() + wideness * fontMetrics().horizontalAdvance(u'n'),
+                 natural.height())
+        .boundedTo(screen()->availableSize() * 9 / 10);
+}
+
+} // namespace RepoAuth
