@@ -9,6 +9,7 @@
 #include "repo/yumconfio.h"
 #include "widgets/hmenu.h"
 #include "widgets/messagebox.h"
+#include "widgets/onscreen.h"
 #include "yumio/yumio.h"
 
 #include <QAction>
@@ -79,6 +80,7 @@ void MainWindow::setVisible(bool visible)
     QMainWindow::setVisible(visible);
     if (visible && !m_initializeScheduled) {
         m_initializeScheduled = true;
+        keepOnScreen(this); // which may be another than the one on which its place was kept
         QTimer::singleShot(0, this, &MainWindow::initialize);
     }
 }

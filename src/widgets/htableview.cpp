@@ -2,6 +2,7 @@
 
 #include "widgets/cellmeter.h"
 #include "widgets/hitemdelegate.h"
+#include "widgets/onscreen.h"
 
 #include <QHeaderView>
 #include <QScreen>
@@ -104,16 +105,7 @@ void HTableView::resizeColumnsToContents()
     const QRect whole = screen()->geometry();
     const QSize limit(whole.width() * 9 / 10, whole.height() * 9 / 10);
     top->resize(top->sizeHint().boundedTo(limit).expandedTo(top->size()));
-
-    // What has grown over the edge of the screen goes back onto it.
-    const QRect available = screen()->availableGeometry();
-    const QRect frame = top->frameGeometry();
-    const int x =
-        std::max(available.left(), std::min(frame.x(), available.right() + 1 - frame.width()));
-    const int y =
-        std::max(available.top(), std::min(frame.y(), available.bottom() + 1 - frame.height()));
-    if (top->isVisible() && frame.topLeft() != QPoint(x, y))
-        top->move(x, y);
+    keepOnScreen(top);
 }
 
 QModelIndexList HTableView::selectedRows() const
