@@ -1,10 +1,10 @@
 #include "packagetable/view.h"
 
 #include "packagetable/emptytext.h"
-#include "packagetable/header.h"
 #include "packagetable/menus.h"
 #include "packagetable/model.h"
 #include "packagetable/sortfilterproxymodel.h"
+#include "widgets/hheaderview.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -31,7 +31,7 @@ View::View(Model *model, SortFilterProxyModel *proxy, QWidget *parent)
     setTabKeyNavigation(false); // Tab leaves the table
 
     verticalHeader()->hide();
-    auto *header = new Header(this);
+    auto *header = new HHeaderView(this);
     setHorizontalHeader(header);
     header->setSortIndicatorShown(true); // which setting the header has taken away
     header->setAccessibleDescription(
@@ -44,7 +44,7 @@ View::View(Model *model, SortFilterProxyModel *proxy, QWidget *parent)
 
     connect(header, &QWidget::customContextMenuRequested, this, &View::showColumnMenu);
     connect(header, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
-    connect(header, &Header::chosen, this, [this](int column) {
+    connect(header, &HHeaderView::chosen, this, [this](int column) {
         scrollTo(m_proxy->index(std::max(rowAt(0), 0), column)); // sideways
     });
     connect(this, &QAbstractItemView::clicked, this, &View::handleActivated);

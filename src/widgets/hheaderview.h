@@ -2,17 +2,15 @@
 
 #include <QHeaderView>
 
-namespace PackageTable {
-
-// The table's header, which the keyboard reaches too: Left, Right, Home and End choose a column,
+// A table's header, which the keyboard reaches too: Left, Right, Home and End choose a column,
 // Return and Space sort by it as a click does, Ctrl+Left and Ctrl+Right move it, Plus and Minus
 // change its width, the menu key asks for the context menu, and Down goes to the rows.
-class Header : public QHeaderView
+class HHeaderView : public QHeaderView
 {
     Q_OBJECT
 
 public:
-    explicit Header(QWidget *parent);
+    explicit HHeaderView(QWidget *parent);
 
 Q_SIGNALS:
     void chosen(int column);
@@ -33,5 +31,3 @@ private:
 
     int m_column = 0;
 };
-
-} // namespace PackageTable

@@ -1,4 +1,4 @@
-#include "packagetable/header.h"
+#include "widgets/hheaderview.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -6,15 +6,13 @@
 
 #include <algorithm>
 
-namespace PackageTable {
-
 namespace {
 
 constexpr int widthStep = 10; // pixels
 
 } // namespace
 
-Header::Header(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
+HHeaderView::HHeaderView(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
 {
     setSectionsMovable(true);
     setSectionsClickable(true);
@@ -22,10 +20,11 @@ Header::Header(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
     setContextMenuPolicy(Qt::CustomContextMenu);
     setFocusPolicy(Qt::TabFocus);
     // A column that is being hidden shrinks first.
-    connect(this, &QHeaderView::sectionResized, this, &Header::leaveHidden, Qt::QueuedConnection);
+    connect(this, &QHeaderView::sectionResized, this, &HHeaderView::leaveHidden,
+            Qt::QueuedConnection);
 }
 
-void Header::leaveHidden()
+void HHeaderView::leaveHidden()
 {
     if (!isSectionHidden(m_column))
         return;
@@ -34,7 +33,7 @@ void Header::leaveHidden()
 }
 
 // The nearest shown place from `place` on, in steps of 1 or -1; -1 when there is none.
-int Header::shownBeside(int place, int step) const
+int HHeaderView::shownBeside(int place, int step) const
 {
     while (place >= 0 && place < count() && isSectionHidden(logicalIndex(place)))
         place += step;
@@ -42,7 +41,7 @@ int Header::shownBeside(int place, int step) const
 }
 
 // What the user hears of it is the header's name.
-void Header::choose(int column)
+void HHeaderView::choose(int column)
 {
     if (column < 0)
         return;
@@ -53,7 +52,7 @@ void Header::choose(int column)
     viewport()->update();
 }
 
-void Header::moveBy(int step)
+void HHeaderView::moveBy(int step)
 {
     const int from = visualIndex(m_column);
     const int to = shownBeside(from + step, step);
@@ -62,7 +61,7 @@ void Header::moveBy(int step)
     choose(m_column);
 }
 
-void Header::sortByChosen()
+void HHeaderView::sortByChosen()
 {
     const bool descend =
         sortIndicatorSection() == m_column && sortIndicatorOrder() == Qt::AscendingOrder;
@@ -70,7 +69,7 @@ void Header::sortByChosen()
     Q_EMIT sectionClicked(m_column);
 }
 
-void Header::keyPressEvent(QKeyEvent *event)
+void HHeaderView::keyPressEvent(QKeyEvent *event)
 {
     const int place = visualIndex(m_column);
     const bool moves = event->modifiers() & Qt::ControlModifier;
@@ -102,7 +101,7 @@ void Header::keyPressEvent(QKeyEvent *event)
     }
 }
 
-bool Header::event(QEvent *event)
+bool HHeaderView::event(QEvent *event)
 {
     // Where the pointer is does not matter to who presses a key.
     if (event->type() == QEvent::ContextMenu &&
@@ -113,19 +112,19 @@ bool Header::event(QEvent *event)
     return QHeaderView::event(event);
 }
 
-void Header::focusInEvent(QFocusEvent *event)
+void HHeaderView::focusInEvent(QFocusEvent *event)
 {
     QHeaderView::focusInEvent(event);
     choose(m_column);
 }
 
-void Header::focusOutEvent(QFocusEvent *event)
+void HHeaderView::focusOutEvent(QFocusEvent *event)
 {
     QHeaderView::focusOutEvent(event);
     viewport()->update();
 }
 
-void Header::paintSection(QPainter *painter, const QRect &rect, int column) const
+void HHeaderView::paintSection(QPainter *painter, const QRect &rect, int column) const
 {
     painter->save();
     QHeaderView::paintSection(painter, rect, column);
@@ -138,5 +137,3 @@ void Header::paintSection(QPainter *painter, const QRect &rect, int column) cons
     painter->drawRect(rect.adjusted(1, 1, -2, -2));
     painter->restore();
 }
-
-} // namespace PackageTable

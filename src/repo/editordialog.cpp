@@ -1,0 +1,460 @@
+#include "editordialog.h"
+
+#include "app/colors.h"
+#include "configdialog.h"
+#include "editormenu.h"
+#include "editormodel.h"
+#include "editorproxy.h"
+#include "editorview.h"
+#include "repobrowse.h"
+#include "widgets/hframelabel.h"
+#include "widgets/messagebox.h"
+#include "yumconfio.h"
+#include "yumio/yumio.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSet>
+#include <QSettings>
+#include <QShortcut>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace RepoEditor {
+
+namespace {
+
+const QString geometryKey = QStringLiteral("repoEditor/geometry");
+
+QSettings settings()
+{
+    return QSettings(QStringLiteral("VOK"), QStringLiteral("vok"));
+}
+
+int intReverseCompare(const void *first, const void *second)
+{
+    return *static_cast<const int *>(second) - *static_cast<const int *>(first);
+}
+
+} // namespace
+
+Dialog::Dialog(YumIO *yumIO, YumConfIO *yumConfIO, QWidget *parent)
+    : HDialog(parent), m_yumIO(yumIO), m_yumConfIO(yumConfIO),
+      m_model(new Model(yumIO, yumConfIO, this)), m_proxy(new SortFilterProxyModel(m_model, this)),
+      m_view(new View(m_model, m_proxy, this)), m_configDialog(new ConfigDialog(yumConfIO, this))
+{
+    setObjectName(QStringLiteral("repoEditor"));
+    setWindowTitle(tr("VOK Repository Configuration Editor"));
+    m_view->setObjectName(QStringLiteral("repoView"));
+    m_model->setViewFont(font());
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(createFilter());
+    layout->addWidget(m_view);
+    layout->addLayout(createUpperRow());
+    layout->addLayout(createLowerRow());
+    m_view->setFocus();
+
+    connect(m_model, &Model::useChanged, this, &Dialog::useChanged);
+    connect(m_model, &Model::configChanged, this, &Dialog::configChanged);
+    connect(m_view, qOverload<int, int>(&View::currentChanged), this, &Dialog::currentChanged);
+    connect(m_view, &View::activated, this, qOverload<const QModelIndex &>(&Dialog::edit));
+    connect(m_view->getContextMenu(), qOverload<const QModelIndex &>(&ContextMenu::edit), this,
+            qOverload<const QModelIndex &>(&Dialog::edit));
+    connect(m_view, &View::addAsked, this, &Dialog::add);
+    connect(m_view, &View::removeAsked, this, &Dialog::remove);
+    recallGeometry();
+}
+
+Dialog::~Dialog() = default;
+
+void Dialog::recallGeometry()
+{
+    m_hasGeometry = restoreGeometry(settings().value(geometryKey).toByteArray());
+}
+
+QHBoxLayout *Dialog::createFilter()
+{
+    auto *row = new QHBoxLayout;
+    auto *label = new QLabel(tr("&Filter:"), this);
+    m_filter = new QLineEdit(this);
+    m_filter->setObjectName(QStringLiteral("filter"));
+    m_filter->setAccessibleName(tr("Filter"));
+    m_filter->setPlaceholderText(tr("Identifier, name or URL"));
+    m_filter->setToolTip(
+        tr("Shows only the repositories whose identifier, name or URLs contain this text"));
+    m_filter->setClearButtonEnabled(true);
+    label->setBuddy(m_filter);
+    row->addWidget(label);
+    row->addWidget(m_filter);
+    connect(m_filter, &QLineEdit::textChanged, m_proxy, &SortFilterProxyModel::setFilterText);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_filter,
+            qOverload<>(&QWidget::setFocus));
+    return row;
+}
+
+template <typename Slot>
+QPushButton *Dialog::addButton(QHBoxLayout *row, const char *name, const QString &text,
+                               const QString &toolTip, Slot slot)
+{
+    auto *button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(toolTip);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, slot);
+    row->addWidget(button);
+    return button;
+}
+
+QHBoxLayout *Dialog::createUpperRow()
+{
+    auto *row = new QHBoxLayout;
+    m_browseButton = addButton(row, "browseButton", tr("&Browse Repository"),
+                               tr("Browse the first URL specified for the selected repository "
+                                  "using an external web browser"),
+                               &Dialog::browse);
+    row->addStretch();
+    m_editButton =
+        addButton(row, "editButton", tr("&Edit"), tr("Edit the selected repository configuration"),
+                  qOverload<>(&Dialog::edit));
+    addButton(row, "addButton", tr("A&dd"),
+              tr("Create a new repository configuration from scratch"), &Dialog::add)
+        ->setDefault(false);
+    m_copyButton =
+        addButton(row, "copyButton", tr("C&opy"),
+                  tr("Create a new repository configuration based on the selected repository"),
+                  &Dialog::copy);
+    m_removeButton = addButton(row, "removeButton", tr("Re&move"),
+                               tr("Remove the selected repository configuration"), &Dialog::remove);
+    return row;
+}
+
+QHBoxLayout *Dialog::createLowerRow()
+{
+    auto *row = new QHBoxLayout;
+    m_status = new HFrameLabel(this);
+    m_status->setObjectName(QStringLiteral("status"));
+    m_status->setMinimumWidth(1); // a long identifier in it must not widen the window
+    row->addWidget(m_status);
+    row->addStretch();
+    m_previewButton = addButton(row, "previewButton", tr("Pre&view"),
+                                tr("Show what Apply would change in which file"), &Dialog::preview);
+    m_resetAllButton = addButton(row, "resetAllButton", tr("&Reset All"),
+                                 tr("Undo changes to all repository configurations since the last "
+                                    "Apply or opening of the dialog"),
+                                 &Dialog::resetAll);
+    addButton(row, "cancelButton", tr("&Cancel"),
+              tr("Undo changes to all repository configurations since the last Apply or opening of "
+                 "the dialog, and close the window"),
+              &Dialog::cancel);
+    m_applyButton = addButton(row, "applyButton", tr("&Apply"), QString(), &Dialog::apply);
+    m_okButton = addButton(row, "okButton", tr("&OK"), QString(), &Dialog::ok);
+    m_okButton->setDefault(true);
+    return row;
+}
+
+int Dialog::exec()
+{
+    // A dialog that is not shown would never end its loop.
+    m_started = start();
+    return m_started ? HDialog::exec() : int(Rejected);
+}
+
+// Reads the configuration; false when it cannot be edited.
+bool Dialog::start()
+{
+    m_dropped = false;
+    m_usedBefore = m_yumConfIO->reposUsed;
+    const bool read = m_yumConfIO->read(this);
+    m_model->reset();
+    if (!read)
+        return false;
+    m_filter->clear();
+    m_view->horizontalHeader()->setSortIndicator(NameColumn, Qt::DescendingOrder);
+    m_view->HTableView::sortByColumn(IdColumn);
+    if (std::exchange(m_hasGeometry, true))
+        m_view->sizeColumnsToContents();
+    else
+        m_view->resizeColumnsToContents();
+    m_sessionChanged = m_applied = false;
+    setConfigHasChanged(false);
+    setEntryHasChanged(false);
+    currentChanged(-1, -1);
+    return true;
+}
+
+void Dialog::setVisible(bool visible)
+{
+    if (visible == isVisible()) {
+        HDialog::setVisible(visible);
+        return;
+    }
+    if (visible) {
+        if (!std::exchange(m_started, false) && !start())
+            return;
+        HDialog::setVisible(true);
+        if (!m_editWhenShown.isEmpty())
+            QTimer::singleShot(0, this,
+                               [this] { edit(std::exchange(m_editWhenShown, QString())); });
+        return;
+    }
+    settings().setValue(geometryKey, saveGeometry());
+    HDialog::setVisible(false);
+    if (!m_dropped && (m_applied || m_sessionChanged || changed()))
+        Q_EMIT reposChanged();
+}
+
+void Dialog::setJobRunner(JobRunner runner)
+{
+    m_configDialog->setEngine(m_yumIO, std::move(runner));
+}
+
+void Dialog::drop()
+{
+    m_dropped = true;
+    m_configDialog->drop();
+    done(Rejected);
+}
+
+void Dialog::currentChanged(int current, int)
+{
+    for (QPushButton *button : {m_browseButton, m_editButton, m_copyButton, m_removeButton})
+        button->setEnabled(current != -1);
+    updateStatusLabel();
+}
+
+void Dialog::useChanged()
+{
+    m_sessionChanged = true;
+}
+
+void Dialog::configChanged()
+{
+    setConfigHasChanged(true);
+}
+
+void Dialog::setEntryHasChanged(bool flag)
+{
+    m_entryHasChanged = flag;
+    updateButtons();
+}
+
+void Dialog::setConfigHasChanged(bool flag)
+{
+    m_configHasChanged = flag;
+    updateButtons();
+}
+
+void Dialog::updateButtons()
+{
+    const QString reason =
+        m_yumConfIO->unreadable().isEmpty()
+            ? QString()
+            : tr("Nothing can be applied, because these files cannot be read:\n%1")
+                  .arg(m_yumConfIO->unreadable().join(u'\n'));
+    const bool canApply = reason.isEmpty();
+    m_resetAllButton->setEnabled(isUnapplied());
+    m_previewButton->setEnabled(isUnapplied());
+    m_applyButton->setEnabled(isUnapplied() && canApply);
+    m_applyButton->setToolTip(
+        canApply ? tr("Apply changes to all repository configurations, but do not close the window")
+                 : reason);
+    // Without changes it writes nothing.
+    m_okButton->setEnabled(canApply || !isUnapplied());
+    m_okButton->setToolTip(
+        canApply ? tr("Apply changes to all repository configurations, and close the window")
+                 : reason);
+    if (!isUnapplied())
+        m_removed = 0;
+    updateStatusLabel();
+}
+
+bool Dialog::hasEmptyId() const
+{
+    const auto &repos = std::as_const(m_yumConfIO->repos);
+    return std::any_of(repos.begin(), repos.end(),
+                       [](const Repo::Entry &entry) { return entry.id.isEmpty(); });
+}
+
+// The first identifier that a later repository has too.
+QString Dialog::getDuplicateId() const
+{
+    const auto &repos = std::as_const(m_yumConfIO->repos);
+    QHash<QString, int> count;
+    for (const Repo::Entry &entry : repos)
+        ++count[entry.id];
+    const auto found = std::find_if(repos.begin(), repos.end(), [&](const Repo::Entry &entry) {
+        return count.value(entry.id) > 1;
+    });
+    return found == repos.end() ? QString() : found->id;
+}
+
+void Dialog::updateStatusLabel()
+{
+    QString text;
+    if (hasEmptyId()) {
+        m_status->setPalette(Colors::makeError(m_status->palette()));
+        text = tr("A repository has no Identifier");
+    } else if (const QString id = getDuplicateId(); !id.isEmpty()) {
+        m_status->setPalette(Colors::makeError(m_status->palette()));
+        text = tr("Two or more repositories have the Identifier, %1").arg(id);
+    } else if (isUnapplied()) {
+        m_status->setPalette(Colors::makeOK(m_status->palette()));
+        text = tr("Unapplied Configuration Changes");
+        if (m_removed > 0)
+            text = tr("%1: %n removed", nullptr, m_removed).arg(text);
+    } else if (!m_yumConfIO->unreadable().isEmpty()) {
+        m_status->setPalette(Colors::makeWarning(m_status->palette()));
+        text = tr("Some files cannot be read, so nothing can be applied");
+    }
+    m_status->setText(text);
+    m_status->setToolTip(text);
+}
+
+void Dialog::browse()
+{
+    const int row = m_view->currentRow();
+    if (row != -1)
+        RepoBrowse::browse(this, m_model->entry(row), m_yumIO);
+}
+
+void Dialog::edit()
+{
+    edit(m_model->createIndex(m_view->currentRow()));
+}
+
+void Dialog::edit(const QModelIndex &index)
+{
+    if (!index.isValid())
+        return;
+    const int row = index.row();
+    m_configDialog->setEntry(&m_yumConfIO->repos[row]);
+    if (m_configDialog->exec() != Accepted)
+        return;
+    m_model->dataChanged(row);
+    setConfigHasChanged(true);
+}
+
+void Dialog::edit(const QString &id)
+{
+    if (!isVisible()) {
+        m_editWhenShown = id;
+        return;
+    }
+    m_filter->clear();
+    setEntryToOldId(id);
+    edit();
+}
+
+void Dialog::add()
+{
+    addEntry(Repo::Entry());
+}
+
+void Dialog::copy()
+{
+    const int row = m_view->currentRow();
+    if (row != -1)
+        addEntry(m_model->entry(row));
+}
+
+void Dialog::addEntry(Repo::Entry entry)
+{
+    m_configDialog->setEntry(&entry);
+    if (m_configDialog->exec() != Accepted)
+        return;
+    m_view->setCurrentIndex({});
+    const int row = m_model->addRow(entry);
+    if (!m_proxy->mapFromSource(m_model->createIndex(row)).isValid())
+        m_filter->clear();
+    m_view->setCurrentRow(row);
+    m_model->dataChanged(row);
+    setConfigHasChanged(true);
+}
+
+void Dialog::remove()
+{
+    QList<int> rows;
+    for (const QModelIndex &index : m_view->selectedRows())
+        rows.append(index.row());
+    if (rows.isEmpty() && m_view->currentRow() != -1)
+        rows.append(m_view->currentRow());
+    if (rows.isEmpty())
+        return;
+    m_view->setCurrentIndex({});
+    qsort(rows.data(), size_t(rows.size()), sizeof(int), intReverseCompare);
+    for (const int row : std::as_const(rows))
+        m_model->removeRow(row);
+    m_removed += int(rows.size());
+    setConfigHasChanged(true);
+}
+
+void Dialog::reset() {}
+
+void Dialog::resetAll()
+{
+    const int row = m_view->currentRow();
+    const QString id = row == -1 ? QString() : m_model->entry(row).id;
+    m_yumConfIO->reposUsed = m_usedBefore;
+    m_yumConfIO->read(this);
+    m_model->reset();
+    if (row != -1)
+        setEntryToOldId(id);
+    m_sessionChanged = false;
+    setConfigHasChanged(false);
+    setEntryHasChanged(false);
+}
+
+void Dialog::cancel()
+{
+    resetAll();
+    setChanged(false);
+    done(Rejected);
+}
+
+void Dialog::reject()
+{
+    if (!isUnapplied() ||
+        showMessageBox(QMessageBox::Question, this, windowTitle(),
+                       tr("Discard the changes to the repository configurations?"), tr("&Discard"),
+                       tr("&Keep Editing"), QString(), 1, 1) == 0)
+        cancel();
+}
+
+bool Dialog::apply()
+{
+    const bool hadCurrent = m_view->currentRow() != -1;
+    if (!m_yumConfIO->write(this))
+        return false;
+    m_model->reset();
+    if (hadCurrent)
+        setEntryToOldId(QString());
+    setConfigHasChanged(false);
+    setEntryHasChanged(false);
+    m_applied = true;
+    return true;
+}
+
+void Dialog::ok()
+{
+    if (!isUnapplied() || apply())
+        accept();
+}
+
+void Dialog::preview() {}
+
+void Dialog::setEntryToOldId(const QString &id)
+{
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        if (m_model->entry(row).id == id)
+            m_view->setCurrentRow(row);
+    }
+}
+
+} // namespace RepoEditor

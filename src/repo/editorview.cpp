@@ -1,0 +1,244 @@
+#include "editorview.h"
+
+#include "editormenu.h"
+#include "editormodel.h"
+#include "widgets/hheaderview.h"
+#include "widgets/hitemdelegate.h"
+
+#include <QAccessible>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QSortFilterProxyModel>
+
+#include <utility>
+
+namespace RepoEditor {
+
+namespace {
+
+constexpr int minRows = 8;
+constexpr int maxRows = 24;
+
+// Paints what the model has. The proxy has a check state besides, for screen readers, which would
+// put the toolkit's own box beside the mark.
+class Delegate : public HItemDelegate
+{
+public:
+    Delegate(QSortFilterProxyModel *proxy, QObject *parent) : HItemDelegate(parent), m_proxy(proxy)
+    {
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        HItemDelegate::paint(painter, option, m_proxy->mapToSource(index));
+    }
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return HItemDelegate::sizeHint(option, m_proxy->mapToSource(index));
+    }
+
+protected:
+    bool editorEvent(QEvent *, QAbstractItemModel *, const QStyleOptionViewItem &,
+                     const QModelIndex &) override
+    {
+        return false; // the view toggles
+    }
+
+private:
+    QSortFilterProxyModel *m_proxy;
+};
+
+} // namespace
+
+View::View(Model *model, QSortFilterProxyModel *proxy, QWidget *parent)
+    : HTableView(QStyleOptionViewItem::Left, minRows, maxRows, parent), m_model(model),
+      m_proxy(proxy)
+{
+    setModel(proxy);
+    setItemDelegate(new Delegate(proxy, this));
+    setShowGrid(false);
+    setGridStyle(Qt::NoPen);
+    setSelectionBehavior(SelectRows);
+    setAlternatingRowColors(true);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setTabKeyNavigation(false); // Tab leaves the table
+
+    verticalHeader()->hide();
+    auto *header = new HHeaderView(this);
+    setHorizontalHeader(header);
+    header->setContextMenuPolicy(Qt::NoContextMenu);
+    header->setSortIndicatorShown(true); // which setting the header has taken away
+    header->setStretchLastSection(true);
+    header->setAccessibleDescription(
+        tr("Left and Right choose a column, Return sorts by it, Ctrl+Left and Ctrl+Right move it, "
+           "Plus and Minus change its width."));
+    setAccessibleName(tr("Repositories"));
+    setAccessibleDescription(tr("Space toggles the check mark of the current cell, Return edits "
+                                "the repository, Delete removes, Insert adds."));
+    setTabOrder(header, this);
+
+    connect(header, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
+    connect(this, &QAbstractItemView::clicked, this, &View::handleClicked);
+    connect(this, &QWidget::customContextMenuRequested, this,
+            &View::handleCustomContextMenuRequested);
+    connect(this, &QAbstractItemView::doubleClicked, this, &View::handleActivated);
+    sizeColumnsToContents();
+}
+
+int View::currentRow() const
+{
+    return m_proxy->mapToSource(currentIndex()).row();
+}
+
+void View::setCurrentRow(int row)
+{
+    setCurrentIndex(m_proxy->mapFromSource(m_model->createIndex(row)));
+}
+
+QModelIndexList View::selectedRows() const
+{
+    QModelIndexList rows = HTableView::selectedRows();
+    for (QModelIndex &row : rows)
+        row = m_proxy->mapToSource(row);
+    return rows;
+}
+
+ContextMenu *View::getContextMenu()
+{
+    if (!m_contextMenu)
+        m_contextMenu = new ContextMenu(m_model, this);
+    return m_contextMenu;
+}
+
+void View::handleHorizontalHeaderClicked(int column)
+{
+    HTableView::sortByColumn(column);
+    m_proxy->setFilterKeyColumn(column);
+}
+
+void View::handleClicked(const QModelIndex &index)
+{
+    // With these the click chooses rows.
+    if (!(QGuiApplication::keyboardModifiers() & (Qt::ShiftModifier | Qt::ControlModifier)))
+        toggle(index);
+}
+
+void View::toggle(const QModelIndex &index)
+{
+    if (index.column() > PermColumn || !index.isValid())
+        return;
+    const QModelIndex source = m_proxy->mapToSource(index);
+    if (source.column() == SessColumn)
+        m_model->toggleUse(source);
+    else
+        m_model->toggleEnabled(source);
+
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleInterface *table = QAccessible::queryAccessibleInterface(this);
+    QAccessibleInterface *cell =
+        table->tableInterface()->cellAt(index.row(), index.column()); // the table's
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(cell, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+// All selected repositories get the state that the current one gets.
+void View::toggleSelected()
+{
+    const QModelIndex current = currentIndex();
+    toggle(current);
+    const bool marked = m_model->isMarked(m_proxy->mapToSource(current));
+    for (const QModelIndex &row : HTableView::selectedRows()) {
+        const QModelIndex cell = row.siblingAtColumn(current.column());
+        if (m_model->isMarked(m_proxy->mapToSource(cell)) != marked)
+            toggle(cell);
+    }
+}
+
+void View::handleCustomContextMenuRequested(const QPoint &pos)
+{
+    const QModelIndex source = m_proxy->mapToSource(indexAt(pos));
+    if (!source.isValid() || source.column() > PermColumn)
+        getContextMenu()->exec(source, viewport()->mapToGlobal(pos));
+}
+
+void View::handleActivated(const QModelIndex &index)
+{
+    Q_EMIT activated(m_proxy->mapToSource(index));
+}
+
+bool View::event(QEvent *event)
+{
+    // The menu key opens the menu at the current cell, wherever the pointer is.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard &&
+        currentIndex().isValid()) {
+        scrollTo(currentIndex());
+        getContextMenu()->exec(m_proxy->mapToSource(currentIndex()),
+                               viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+        return true;
+    }
+    return HTableView::event(event);
+}
+
+void View::keyPressEvent(QKeyEvent *event)
+{
+    const QModelIndex current = currentIndex();
+    switch (event->modifiers() & ~Qt::KeypadModifier ? 0 : event->key()) {
+    case Qt::Key_Space:
+        if (current.isValid() && current.column() <= PermColumn)
+            return toggleSelected();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (current.isValid())
+            return handleActivated(current);
+        break;
+    case Qt::Key_Delete:
+        Q_EMIT removeAsked();
+        return;
+    case Qt::Key_Insert:
+        Q_EMIT addAsked();
+        return;
+    }
+    HTableView::keyPressEvent(event);
+}
+
+void View::keyboardSearch(const QString &search)
+{
+    const int column = currentIndex().column();
+    const auto goToColumn = [this](int wanted) {
+        if (currentIndex().isValid() && wanted >= 0)
+            selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(wanted),
+                                              QItemSelectionModel::NoUpdate);
+    };
+    goToColumn(IdColumn);
+    HTableView::keyboardSearch(search);
+    goToColumn(column);
+}
+
+// A reset drops the current row without telling.
+void View::reset()
+{
+    HTableView::reset();
+    tellCurrent(currentRow());
+}
+
+void View::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    HTableView::currentChanged(current, previous);
+    tellCurrent(m_proxy->mapToSource(current).row());
+}
+
+void View::tellCurrent(int row)
+{
+    const int previous = std::exchange(m_currentRow, row);
+    if (row != previous)
+        Q_EMIT currentChanged(row, previous);
+}
+
+} // namespace RepoEditor

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "widgets/htableview.h"
+
+class QSortFilterProxyModel;
+
+namespace RepoEditor {
+
+class ContextMenu;
+class Model;
+
+// The table of the repository editor. Rows in its signals and in selectedRows() are the model's,
+// not the proxy's.
+class View : public HTableView
+{
+    Q_OBJECT
+
+public:
+    // Neither is owned.
+    View(Model *model, QSortFilterProxyModel *proxy, QWidget *parent);
+
+    // -1 for none.
+    int currentRow() const;
+    void setCurrentRow(int row);
+    QModelIndexList selectedRows() const override;
+    ContextMenu *getContextMenu();
+    void reset() override;
+    // Looks through the identifiers, whatever the current column.
+    void keyboardSearch(const QString &search) override;
+
+Q_SIGNALS:
+    // Row -1 is none.
+    void currentChanged(int currentRow, int previousRow);
+    // A repository is to be edited; the index is the model's and may be invalid.
+    void activated(const QModelIndex &index);
+    void addAsked();
+    void removeAsked();
+
+public Q_SLOTS:
+    void handleHorizontalHeaderClicked(int column);
+    void handleClicked(const QModelIndex &index);
+    void handleCustomContextMenuRequested(const QPoint &pos);
+    void handleActivated(const QModelIndex &index);
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+protected Q_SLOTS:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+
+private:
+    void toggle(const QModelIndex &index);
+    void toggleSelected();
+    void tellCurrent(int row);
+
+    Model *m_model;
+    QSortFilterProxyModel *m_proxy;
+    ContextMenu *m_contextMenu = nullptr;
+    int m_currentRow = -1; // the model's
+};
+
+} // namespace RepoEditor

@@ -1,0 +1,7 @@
+#pragma once
+
+class QStringView;
+
+// Whether `left` comes before `right` when runs of digits count as numbers: "a2" before "a10".
+// Everything else goes by code unit; leading zeros do not count.
+bool naturalLessThan(QStringView left, QStringView right);
