@@ -19,8 +19,8 @@ import yum  # noqa: F401,E402
 import yum.Errors  # noqa: F401,E402
 
 from vokdnf import base, clean, collection, errors, groups, interrupted, locks  # noqa: E402
-from vokdnf import otherdata, packages, relations, report, searchtexts, transaction  # noqa: E402
-from vokdnf import tsinfo  # noqa: E402
+from vokdnf import otherdata, packages, relations, report, repotest, searchtexts  # noqa: E402
+from vokdnf import transaction, tsinfo  # noqa: E402
 
 import dnf.drpm  # noqa: E402
 
@@ -155,6 +155,19 @@ class YumIO:
         """Optional: {repository: (path of a file in the cache, identity)} of the repositories whose texts of
         searchTexts may be kept in that file as long as the identity (bytes) is the same."""
         return self._session.search_caches()
+
+    def testRepo(self, text):
+        """Optional: whether the repository whose section in a file `text` (bytes) is can be reached; see
+        vokdnf.repotest.run for what the result yields. Writes nothing."""
+        return repotest.run(self._session.conf, text)
+
+    def repoOptions(self):
+        """Optional: the names of the options that a repository's section may set, as a list."""
+        return repotest.option_names(self._session.conf)
+
+    def expanded(self, text):
+        """Optional: `text` with the variables in it replaced by their values."""
+        return report.clean(self._session.expanded(text))
 
     def requiredPkgs(self, name):
         """List of package names that marking the group member `name` stands for."""

@@ -34,6 +34,11 @@ bool SearchThread::work()
     return m_engine->searchReal(m_request);
 }
 
+bool RepoTestThread::work()
+{
+    return m_engine->testRepositoryReal(m_test);
+}
+
 bool ApplyThread::work()
 {
     return m_engine->applyReal();

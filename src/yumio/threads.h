@@ -6,6 +6,7 @@
 #include <QThread>
 
 class YumIO;
+struct RepoTest;
 struct SearchRequest;
 
 // The worker of one job: runs it and ends the event loop in which the GUI thread waits.
@@ -81,6 +82,21 @@ protected:
 
 private:
     SearchRequest &m_request;
+};
+
+class RepoTestThread : public WorkThread
+{
+public:
+    RepoTestThread(YumIO *engine, QEventLoop &loop, RepoTest &test)
+        : WorkThread(engine, loop), m_test(test)
+    {
+    }
+
+protected:
+    bool work() override;
+
+private:
+    RepoTest &m_test;
 };
 
 class ApplyThread : public WorkThread

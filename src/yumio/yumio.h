@@ -29,6 +29,8 @@ class QEventLoop;
 class QThread;
 class QWidget;
 class YumIODialogs;
+struct RepoAnswer;
+struct RepoTest;
 struct SearchSubject;
 struct TransactionLists;
 
@@ -113,6 +115,9 @@ public:
     // holds it. Nothing when the search was cancelled.
     std::optional<QList<bool>> search(const QString &pattern,
                                       const QList<const Package::Entry *> &entries);
+    // Tries to reach the repository whose section of a configuration file this is, with the options
+    // of the session's main section, and writes to no file. Nothing when the test was cancelled.
+    std::optional<QList<RepoAnswer>> testRepository(const QString &section);
     void clearEntries();
     void clear();
     // As clear, but rows that are still true stay at hand, unseen: a collection that is cancelled
@@ -176,6 +181,13 @@ public:
     bool hasFileLists() const { return m_session.fileLists; }
     bool hasOtherData() const { return m_session.otherData; }
 
+    // For the repository form, to be asked between jobs: whether the script tests repositories, the
+    // options that one may set, empty when that is not known, and a text with the variables in it
+    // replaced.
+    bool canTestRepositories();
+    QStringList repositoryOptions();
+    QString expandVariables(const QString &text);
+
     // Library version and what it can do; the script probes are asked once and cached.
     QString yumVersionStr();
     long yumVersion();
@@ -226,7 +238,7 @@ Q_SIGNALS:
     // File lists or other data were loaded, or forgotten by a collection.
     void collectedExtraData();
     // The running job's state ("lock", "metadata", "resolve", "download", "transaction",
-    // "search", "done") and whether it can be cancelled now.
+    // "search", "test", "done") and whether it can be cancelled now.
     void jobState(const QString &state, bool canCancel);
 
 private:
@@ -236,6 +248,7 @@ private:
     friend class CollectFileListsThread;
     friend class CollectOtherDataThread;
     friend class ApplyThread;
+    friend class RepoTestThread;
     friend class SearchThread;
     friend class YumIOCapturers;
     friend class YumIOCapturersMinion;
@@ -342,6 +355,10 @@ private:
     SearchCaches searchCaches();
     void searchSingly(SearchRequest &request, const QList<qsizetype> &numbers);
     bool anyField(const Package::Entry &entry, const Expression &expression);
+
+    // repotest.cpp
+    bool testRepositoryReal(RepoTest &test);
+    bool takeRepoAnswer(PyObject *item, RepoTest &test);
 
     // apply.cpp
     bool applyReal();

@@ -6,6 +6,7 @@ import weakref
 import dnf
 import dnf.exceptions
 import hawkey
+import libdnf.conf
 
 from yum import Errors
 
@@ -175,6 +176,10 @@ class Session:
         if not any(told):  # a key came or went
             self._cookie = current
         return told
+
+    def expanded(self, text):
+        """`text` with the variables in it replaced, as in the configuration."""
+        return libdnf.conf.ConfigParser.substitute(text, self.conf.substitutions)
 
     @property
     def sack(self):

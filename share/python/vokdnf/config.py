@@ -44,7 +44,7 @@ def read_main():
                          % (path, error.strerror)) from error
     except (dnf.exceptions.Error, RuntimeError) as error:
         raise SystemExit("The main configuration file %s is malformed: %s"
-                         % (path, _reason(error))) from error
+                         % (path, reason(error))) from error
     _settings(conf)
     database.check(conf)
     _substitutions(conf, opened)
@@ -158,7 +158,7 @@ def read_repositories(conf, repositories):
                 name = path if report.clean(path) == path else "/proc/self/fd/%d" % stream.fileno()
                 for repo in reader._get_repos(name):
                     repo.repofile = report.clean(path)
-                    _place_inside(repo)
+                    place_inside(repo)
                     repositories.add(repo)
         except OSError as error:
             if not os.path.isdir(path):
@@ -167,17 +167,17 @@ def read_repositories(conf, repositories):
             _left_out(path, error)
 
 
-def _left_out(path, reason):
-    report.errorlog(0, "The repository file %s is left out: %s" % (root.shown(path), _reason(reason)))
+def _left_out(path, cause):
+    report.errorlog(0, "The repository file %s is left out: %s" % (root.shown(path), reason(cause)))
 
 
-def _reason(error):
+def reason(error):
     """The parser's own words, without the sentence that DNF puts around them."""
     words = getattr(error, "__context__", None)
     return report.clean(words if isinstance(words, RuntimeError) else error).rsplit(" failed: ", 1)[-1]
 
 
-def _place_inside(repo):
+def place_inside(repo):
     """Makes the files that a repository names those of the system."""
     if not root.prefix():
         return
