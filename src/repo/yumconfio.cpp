@@ -1,11 +1,8 @@
 #include "yumconfio.h"
 
-#include "kivvet/kivvet.h"
 #include "rootpath.h"
 #include "widgets/messagebox.h"
 #include "yumio/passwordsintext.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -76,27 +73,10 @@ QStringList YumConfIO::repoFiles(const QString &directory)
     return files;
 }
 
-bool YumConfIO::carriesPassword(const QString &text)
-{
-    static const QRegularExpression others(
-        QStringLiteral("://[^/\\s:@]*:[^/\\s@]+@|^(?:proxy_)?password[ \t]*[:=][ \t]*[^\\s]"),
-        QRegularExpression::MultilineOption);
-
-    if (others.match(text).hasMatch())
-        return true;
-    for (const QString &line : text.split(u'\n')) {
-        QString nameKey, name, passwordKey, password;
-        if (Repo::Kivvet::getAuth(line, nameKey, name, passwordKey, password) &&
-            !password.isEmpty())
-            return true;
-    }
-    return false;
-}
-
 bool YumConfIO::carriesPassword(const Repo::Entry &entry)
 {
-    return carriesPassword(entry.baseurl) || carriesPassword(entry.mirrorlist) ||
-           carriesPassword(entry.otherOptions);
+    return hasOptionPasswords(entry.baseurl) || hasOptionPasswords(entry.mirrorlist) ||
+           hasOptionPasswords(entry.otherOptions);
 }
 
 bool YumConfIO::losesReaders(const QString &path) const

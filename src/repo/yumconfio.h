@@ -43,6 +43,8 @@ public:
     // the user declined, and then `repos` is as it was, or when a failure was shown; what was
     // written until then stays written.
     bool write(QWidget *parent);
+    // Whether a password stands in one of its fields.
+    static bool carriesPassword(const Repo::Entry &entry);
     // Whether others can read the file, and cannot any more once it has its first password.
     bool losesReaders(const QString &path) const;
 
@@ -109,8 +111,6 @@ private:
 
     void cleanupWrite(QList<Repo::Entry> &list) const;
     bool checkErrors(QList<Repo::Entry> &list);
-    static bool carriesPassword(const QString &text);
-    static bool carriesPassword(const Repo::Entry &entry);
     static bool hasEmptyId(const QList<Repo::Entry> &list);
     static QString getDuplicateId(const QList<Repo::Entry> &list);
     QList<FileContent> sortedContents(QList<Repo::Entry> sorted) const;

@@ -1,6 +1,7 @@
 #include "yumconfio.h"
 
 #include "rootpath.h"
+#include "yumio/passwordsintext.h"
 
 #include <QCryptographicHash>
 #include <QRegularExpression>
@@ -172,7 +173,7 @@ bool YumConfIO::readReposFile(const QString &path, const QByteArray &real)
 // Only a file that was read to its end is known; any other is asked about before it is overwritten.
 void YumConfIO::noteRead(const QString &path, FileState state, qsizetype firstRepo)
 {
-    state.secret = path == fileName() && carriesPassword(m_mainText);
+    state.secret = path == fileName() && hasOptionPasswords(m_mainText);
     for (qsizetype i = firstRepo; i < repos.size(); ++i) {
         state.idents.insert(repos.at(i).id);
         state.secret = state.secret || carriesPassword(repos.at(i));

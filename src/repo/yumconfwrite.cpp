@@ -3,6 +3,7 @@
 #include "rootpath.h"
 #include "wholefile.h"
 #include "widgets/messagebox.h"
+#include "yumio/passwordsintext.h"
 
 #include <QCryptographicHash>
 
@@ -144,7 +145,7 @@ bool YumConfIO::writeFile(const FileContent &content)
     free(buffer);
 
     const bool secret =
-        (isMain && carriesPassword(m_mainText)) ||
+        (isMain && hasOptionPasswords(m_mainText)) ||
         std::any_of(content.entries.cbegin(), content.entries.cend(),
                     [](const Repo::Entry &entry) { return carriesPassword(entry); });
     const QByteArray target = RootPath::target(content.path);

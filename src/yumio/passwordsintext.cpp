@@ -23,11 +23,21 @@ const QRegularExpression &userInfo()
     return expression;
 }
 
+const QRegularExpression &passwordOptions()
+{
+    // What is commented out may still be in use elsewhere.
+    static const QRegularExpression expression(
+        QStringLiteral("^[#; \\t]*(?:proxy_)?password[ \\t]*[:=][ \\t]*(\\S.*)$"),
+        QRegularExpression::MultilineOption);
+    return expression;
+}
+
 enum class Passwords { Masked, Removed };
 
 // Treats the last capture of every match, which is a password; a colon captured before it goes with
 // it.
-QString treated(const QString &text, const QRegularExpression &expression, Passwords what)
+QString treated(const QString &text, const QRegularExpression &expression, Passwords what,
+                QChar mask)
 {
     QString result;
     qsizetype from = 0;
@@ -40,13 +50,13 @@ QString treated(const QString &text, const QRegularExpression &expression, Passw
         const qsizetype kept = start - (what == Passwords::Removed && hasColon);
         result.append(QStringView(text).mid(from, kept - from));
         if (what == Passwords::Masked)
-            result.append(QString(length, u'*'));
+            result.append(QString(length, mask));
         from = start + length;
     }
     return result.append(QStringView(text).mid(from));
 }
 
-QString treated(const QString &text, Passwords what)
+QString treated(const QString &text, Passwords what, QChar mask = QChar())
 {
     static const QRegularExpression kivvet = kivvetCredentials();
     // Most texts hold no URL; an output of many megabytes must not pay for the few that do.
@@ -54,17 +64,27 @@ QString treated(const QString &text, Passwords what)
         return text;
     QString result = text;
     if (result.contains(QLatin1String("/kivvet?")) || result.contains(QLatin1String("/rhel/")))
-        result = treated(result, kivvet, what);
+        result = treated(result, kivvet, what, mask);
     if (result.contains(QLatin1String("://")))
-        result = treated(result, userInfo(), what);
+        result = treated(result, userInfo(), what, mask);
     return result;
 }
 
 } // namespace
 
-QString maskPasswords(const QString &text)
+QString maskPasswords(const QString &text, QChar mask)
 {
-    return treated(text, Passwords::Masked);
+    return treated(text, Passwords::Masked, mask);
+}
+
+QString maskOptionPasswords(const QString &lines, QChar mask)
+{
+    return treated(maskPasswords(lines, mask), passwordOptions(), Passwords::Masked, mask);
+}
+
+bool hasOptionPasswords(const QString &lines)
+{
+    return maskOptionPasswords(lines, QChar(QChar::Null)) != lines;
 }
 
 QString withoutPasswords(const QString &text)
