@@ -25,9 +25,8 @@ const QRegularExpression &userInfo()
 
 const QRegularExpression &passwordOptions()
 {
-    // What is commented out may still be in use elsewhere.
     static const QRegularExpression expression(
-        QStringLiteral("^[#; \\t]*(?:proxy_)?password[ \\t]*[:=][ \\t]*(\\S.*)$"),
+        QStringLiteral("^(?:proxy_)?password[ \\t]*[:=][ \\t]*(\\S.*)$"),
         QRegularExpression::MultilineOption);
     return expression;
 }

@@ -7,7 +7,7 @@
 QString maskPasswords(const QString &text, QChar mask = u'*');
 
 // The same for lines of a configuration file, where the values of password and proxy_password are
-// passwords too, in comments as well.
+// passwords too.
 QString maskOptionPasswords(const QString &lines, QChar mask = u'*');
 bool hasOptionPasswords(const QString &lines);
 
