@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// What the library would make of a repository definition beyond what a file can hold.
+namespace EntryCheck {
+
+// Why the library leaves out a repository of that identifier; empty when it does not.
+QString identifierWarning(const QString &id);
+// Which of the other identifiers differs from it in case only, in words; empty for none.
+QString twinWarning(const QString &id, const QStringList &others);
+// A line for each option in the lines that is not among the known ones, with the most similar of
+// these where one is similar. Nothing without known ones.
+QStringList optionHints(const QString &otherOptions, const QStringList &known);
+
+} // namespace EntryCheck
