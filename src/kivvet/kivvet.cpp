@@ -103,3 +103,11 @@ QRegularExpression Repo::Kivvet::urlsRegExp()
                        "/rhel/[^/\\s]*=[^/\\s]*/[^/\\s]*=([^/\\s]*)/)[\\s]*\\b"),
         options);
 }
+
+QRegularExpression Repo::Kivvet::credentialsRegExp()
+{
+    return QRegularExpression(
+        QStringLiteral("/kivvet(?:/[^?\\s]*)?\\?[^&\\s]*=[^&\\s]*&[^&\\s]*=([^&\\s]*)&path=|"
+                       "/rhel/[^/\\s]*=[^/\\s]*/[^/\\s]*=([^/\\s]*)/"),
+        options);
+}

@@ -33,6 +33,9 @@ QRegularExpression oneUrlRegExp();
 // For a text with several URLs: each match is one URL's credentials, the password in capture 1
 // or 2.
 QRegularExpression urlsRegExp();
+// For any text: the same with whatever follows the credentials, and in messages of the library that
+// downloads, which puts the path of a file before the query.
+QRegularExpression credentialsRegExp();
 
 } // namespace Kivvet
 

@@ -72,11 +72,11 @@ Config::Config(QGridLayout *layout) : QObject(layout->parentWidget())
     QWidget *parent = layout->parentWidget();
     m_id = named(new QLineEdit(parent), "identifier", tr("Unique identifier for the repository"));
     m_name = named(new QLineEdit(parent), "repoName", tr("Description of the repository"));
-    m_urls = textField(
-        named(new PasswdTextEdit(Repo::Kivvet::urlsRegExp(), urlRows, columns, parent), "urls",
-              tr("List of URLs to the repository.\nIf more than one is specified, they all should "
-                 "be identical mirrors,\nand will provide redundancy if some URLs are "
-                 "unreachable.")));
+    m_urls = textField(named(
+        new PasswdTextEdit(Repo::Kivvet::credentialsRegExp(), urlRows, columns, parent), "urls",
+        tr("List of URLs to the repository.\nIf more than one is specified, they all should "
+           "be identical mirrors,\nand will provide redundancy if some URLs are "
+           "unreachable.")));
     m_mirrorList = named(new PasswdLineEdit(Repo::Kivvet::oneUrlRegExp(), parent), "mirrorList",
                          tr("URL to a file containing a list of URLs to the repository."));
 

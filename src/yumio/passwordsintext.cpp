@@ -6,17 +6,6 @@
 
 namespace {
 
-QRegularExpression kivvetCredentials()
-{
-    // In a message a URL may end with its credentials or be followed by anything, so the demand for
-    // a word behind them, which serves the editing of URLs, is dropped.
-    QString pattern = Repo::Kivvet::urlsRegExp().pattern();
-    const QString behind = QStringLiteral("[\\s]*\\b");
-    if (pattern.endsWith(behind))
-        pattern.chop(behind.size());
-    return QRegularExpression(pattern);
-}
-
 const QRegularExpression &userInfo()
 {
     static const QRegularExpression expression(QStringLiteral("://[^/\\s:@]*(:)([^/\\s]*)@"));
@@ -57,12 +46,12 @@ QString treated(const QString &text, const QRegularExpression &expression, Passw
 
 QString treated(const QString &text, Passwords what, QChar mask = QChar())
 {
-    static const QRegularExpression kivvet = kivvetCredentials();
+    static const QRegularExpression kivvet = Repo::Kivvet::credentialsRegExp();
     // Most texts hold no URL; an output of many megabytes must not pay for the few that do.
     if (!text.contains(u'/'))
         return text;
     QString result = text;
-    if (result.contains(QLatin1String("/kivvet?")) || result.contains(QLatin1String("/rhel/")))
+    if (result.contains(QLatin1String("/kivvet")) || result.contains(QLatin1String("/rhel/")))
         result = treated(result, kivvet, what, mask);
     if (result.contains(QLatin1String("://")))
         result = treated(result, userInfo(), what, mask);
