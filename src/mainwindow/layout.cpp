@@ -64,11 +64,10 @@ void MainWindow::createMenuBar()
     logAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+L")));
 
     m_repositoriesMenu = addMenu("repositoriesMenu", tr("&Repositories"));
-    m_editConfigurationAction = m_repositoriesMenu->addAction(tr("&Edit Configuration"));
+    m_editConfigurationAction = m_repositoriesMenu->addAction(tr("&Edit Configuration"), this,
+                                                              [this] { editRepositories(); });
     m_editConfigurationAction->setObjectName(QStringLiteral("editConfigurationAction"));
     m_editConfigurationAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
-    m_editConfigurationAction->setEnabled(false);
-    m_editConfigurationAction->setToolTip(tr("Not available yet"));
 
     m_cacheMenu = addMenu("cacheMenu", tr("&Cache"));
     createCacheMenu();
@@ -119,13 +118,7 @@ void MainWindow::createCentralWidget()
 {
     auto *central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
-    m_placeholder = new QLabel(tr("Reading the packages..."), central);
-    m_placeholder->setObjectName(QStringLiteral("placeholder"));
-    m_placeholder->setAlignment(Qt::AlignCenter);
-    m_placeholder->setWordWrap(true);
-    m_placeholder->setForegroundRole(QPalette::PlaceholderText);
-    m_placeholder->setMinimumHeight(12 * fontMetrics().height());
-
+    createPlaceholder(central);
     createTable();
     m_mainArea = new QWidget(central);
     m_mainArea->setObjectName(QStringLiteral("mainArea"));
@@ -133,13 +126,34 @@ void MainWindow::createCentralWidget()
     m_mainArea->hide();
 
     auto *layout = new QVBoxLayout(central);
-    layout->addWidget(m_placeholder, 1);
+    layout->addWidget(m_waiting, 1);
     layout->addWidget(m_mainArea, 1);
     layout->addLayout(createBarsRow());
     setCentralWidget(central);
 
     statusBar()->setSizeGripEnabled(false);
     statusBar()->hide(); // until there is something to say
+}
+
+void MainWindow::createPlaceholder(QWidget *parent)
+{
+    m_waiting = new QWidget(parent);
+    m_waiting->setMinimumHeight(12 * fontMetrics().height());
+    m_placeholder = new QLabel(m_waiting);
+    m_placeholder->setObjectName(QStringLiteral("placeholder"));
+    m_placeholder->setAlignment(Qt::AlignCenter);
+    m_placeholder->setWordWrap(true);
+    m_placeholder->setForegroundRole(QPalette::PlaceholderText);
+    m_readButton = new QPushButton(tr("R&ead the Packages"), m_waiting);
+    describeControl(m_readButton, "readButton",
+                    tr("Collects the packages of the system and of the repositories"));
+    connect(m_readButton, &QPushButton::clicked, this, &MainWindow::reposChanged);
+    auto *layout = new QVBoxLayout(m_waiting);
+    layout->addStretch();
+    layout->addWidget(m_placeholder);
+    layout->addWidget(m_readButton, 0, Qt::AlignHCenter);
+    layout->addStretch();
+    showPlaceholder(false);
 }
 
 void MainWindow::createTable()
@@ -272,7 +286,7 @@ QLayout *MainWindow::createButtonRow()
 // disabled, and what enables the bars is the progress of the job.
 QLayout *MainWindow::createBarsRow()
 {
-    QWidget *parent = m_placeholder->parentWidget();
+    QWidget *parent = m_waiting->parentWidget();
     m_totalBar = new HProgressBar(parent);
     m_totalBar->setObjectName(QStringLiteral("totalBar"));
     m_totalBar->setAccessibleName(tr("Total progress"));

@@ -92,9 +92,16 @@ QSize MainWindow::sizeHint() const
 
 void MainWindow::initialize()
 {
+    if (start() && m_startInEditor)
+        editRepositories(true);
+}
+
+// A job of its own, since the editor may want to start some. False when the program ends.
+bool MainWindow::start()
+{
     const Job job(this);
     if (!job)
-        return;
+        return false;
     m_yumConfIO = new YumConfIO(m_repoRequests, m_reposUsed);
     connect(m_yumConfIO, &YumConfIO::changed, this, &MainWindow::yumConfIOChanged);
     m_model->setYumConfIO(m_yumConfIO);
@@ -103,57 +110,53 @@ void MainWindow::initialize()
     if (!m_yumIO->initialize()) {
         m_quitAsked = true;
         m_exitCode = 1;
-        return;
+        return false;
     }
     m_engineReady = true;
     showKeptReport();
-    checkCredentials();
-    if (m_quitAsked)
-        return;
-    m_proxy->setFilterRegExp(m_regexpEdit->text());
-    collect();
-    if (m_quitAsked)
-        return;
-    showMainArea();
+    if (m_startInEditor)
+        showPlaceholder(true);
+    else
+        collectFirst();
+    m_initialized = !m_quitAsked;
+    return m_initialized;
+}
+
+void MainWindow::collectFirst()
+{
+    if (checkCredentials())
+        recollect();
+    else if (!m_quitAsked)
+        collect();
+}
+
+// With the table of the first collection, however that came.
+void MainWindow::showMainArea()
+{
+    m_waiting->hide();
+    m_mainArea->show();
+    m_focusBeforeJob = m_view;
     if (m_geometryKept)
         m_view->sizeColumnsToContents();
     else
         m_view->resizeColumnsToContents();
     anyFilterChanged();
-    m_initialized = true;
-    if (m_startInEditor)
-        note(tr("The repository editor is not available yet."));
-}
-
-// What a repository still needs to be told before it can be used is asked for here.
-void MainWindow::checkCredentials()
-{
-    if (m_quitAsked)
-        return;
-    m_yumConfIO->read(this);
-    noteUnreadable();
-}
-
-void MainWindow::noteUnreadable()
-{
-    const QStringList unreadable = m_yumConfIO->unreadable();
-    if (unreadable.isEmpty() || unreadable == m_unreadable)
-        return;
-    m_unreadable = unreadable;
-    const QString text =
-        tr("Left out for lack of the right to read: %1").arg(unreadable.join(QStringLiteral(", ")));
-    m_yumIO->log(Log::Kind::Warning, 0, text);
-    note(text);
-}
-
-void MainWindow::showMainArea()
-{
-    m_placeholder->hide();
-    m_mainArea->show();
-    m_focusBeforeJob = m_view;
 }
 
 void MainWindow::collect(Refresh why)
+{
+    const bool first = m_mainArea->isHidden();
+    if (first) {
+        showPlaceholder(false);
+        m_proxy->setFilterRegExp(m_regexpEdit->text());
+    }
+    gather(why);
+    tellRefused();
+    if (first && !m_quitAsked)
+        showMainArea();
+}
+
+void MainWindow::gather(Refresh why)
 {
     const bool collected = m_yumIO->collect(m_reposUsed);
     giveMarksBack(why);
@@ -214,10 +217,10 @@ void MainWindow::recollect(Refresh why)
 
 void MainWindow::setReady(bool ready)
 {
-    for (QMenu *menu : {m_programMenu, m_cacheMenu})
+    for (QMenu *menu : {m_programMenu, m_repositoriesMenu, m_cacheMenu})
         menu->setEnabled(ready);
-    for (QAction *action : {m_quitAction, m_cleanHeadersAction, m_cleanPackagesAction,
-                            m_cleanXmlMetadataAction, m_cleanAllAction})
+    for (QAction *action : {m_quitAction, m_editConfigurationAction, m_cleanHeadersAction,
+                            m_cleanPackagesAction, m_cleanXmlMetadataAction, m_cleanAllAction})
         action->setEnabled(ready);
     // What the library can do is asked of the interpreter, so only when no job runs.
     m_cleanPickledCacheAction->setEnabled(ready && m_yumIO->hasPickledCache());
@@ -280,6 +283,8 @@ void MainWindow::cleanAndCollect(bool (YumIO::*operation)())
     if (!job)
         return;
     (m_yumIO->*operation)();
+    if (m_mainArea->isHidden())
+        checkCredentials();
     recollect();
 }
 

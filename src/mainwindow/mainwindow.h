@@ -28,6 +28,10 @@ namespace Log {
 class Window;
 }
 
+namespace RepoEditor {
+class Dialog;
+}
+
 namespace PackageTable {
 class Model;
 class SortFilterProxyModel;
@@ -80,6 +84,11 @@ public Q_SLOTS:
     void setUpdateListed();
     void clearActions();
     void apply();
+    // Opens the repository editor; `initial` says that the packages have not been collected yet, so
+    // that its OK collects them even when nothing was changed.
+    void editRepositories(bool initial = false);
+    // After a change: asks for credentials that are missing, and collects again.
+    void reposChanged();
     void cancel();
     void about();
     void yumConfIOChanged();
@@ -109,6 +118,7 @@ private:
     void createCacheMenu();
     void createHelpMenu();
     void createCentralWidget();
+    void createPlaceholder(QWidget *parent);
     void createTable();
     void createMainArea();
     QLayout *createFilterRow();
@@ -137,12 +147,20 @@ private:
     void tell(const QString &text);
 
     void note(const QString &text) { m_notes.append(text); }
+    // repositories.cpp
+    bool checkCredentials();
+    void noteUnreadable();
+    void tellRefused();
+    RepoEditor::Dialog *repoEditor();
+    void showPlaceholder(bool withButton);
+
+    bool start();
     void setReady(bool ready);
     bool runJob(const std::function<void()> &work);
-    void checkCredentials();
-    void noteUnreadable();
     enum class Refresh { Asked, AfterApply };
+    void collectFirst();
     void collect(Refresh why = Refresh::Asked);
+    void gather(Refresh why);
     void recollect(Refresh why = Refresh::Asked);
     void giveMarksBack(Refresh why);
     bool askToRefresh();
@@ -170,6 +188,8 @@ private:
     bool m_unattended = false;    // nobody is there to read
     bool m_finished = false;      // the engine is gone
     bool m_dialogRuns = false;    // a dialog that uses the engine is open
+    bool m_reposChanged = false;  // the editor, which is closing, has changed something
+    QString m_repoToEdit;         // whose form is to be opened when the job has ended
     int m_exitCode = 0;
     Marks m_marks;               // between two collections
     QStringList m_unreadable;    // configuration files that were named
@@ -188,7 +208,9 @@ private:
     QAction *m_cleanSqliteCacheAction = nullptr;
     QAction *m_cleanAllAction = nullptr;
 
+    QWidget *m_waiting = nullptr; // in place of the main area
     QLabel *m_placeholder = nullptr;
+    QPushButton *m_readButton = nullptr;
     QWidget *m_mainArea = nullptr;
     QComboBox *m_modeCombo = nullptr;
     QLineEdit *m_regexpEdit = nullptr;
@@ -210,5 +232,6 @@ private:
     HProgressBar *m_totalBar = nullptr;
     HProgressBar *m_itemBar = nullptr;
     QPushButton *m_cancelButton = nullptr;
+    RepoEditor::Dialog *m_repoEditor = nullptr;
     Log::Window *m_logWindow = nullptr;
 };

@@ -5,6 +5,9 @@
 #include "mainwindow/keptreport.h"
 #include "packagetable/sortfilterproxymodel.h"
 #include "packagetable/view.h"
+#include "repo/authdialog.h"
+#include "repo/configdialog.h"
+#include "repo/editordialog.h"
 #include "widgets/scrollabledialogs.h"
 #include "yumio/yumio.h"
 
@@ -66,6 +69,8 @@ MainWindow::Job::~Job()
     }
     m_window->tell(std::exchange(m_window->m_notes, {}).join(QStringLiteral("  ")));
     m_window->setReady(m_window->m_initialized);
+    if (!m_window->m_repoToEdit.isEmpty())
+        QTimer::singleShot(0, m_window, [window = m_window] { window->editRepositories(); });
 }
 
 void MainWindow::jobState(const QString &state, bool canCancel)
@@ -132,15 +137,23 @@ void MainWindow::decline()
     if (QWidget *menu = QApplication::activePopupWidget())
         menu->close(); // which would keep the dialog below it from ending
     QWidget *shown = QApplication::activeModalWidget();
-    if (!shown)
+    if (!shown) {
+        // This one is not modal.
+        if (auto *question = findChild<RepoAuth::Dialog *>())
+            question->handleQuit();
         return;
+    }
     const QString report = m_rpmBegan ? reportIn(shown) : QString();
     if (!report.isEmpty()) {
         if (!m_unattended)
             return;
         KeptReport::add(report);
     }
-    if (auto *dialog = qobject_cast<QDialog *>(shown))
+    if (auto *form = qobject_cast<RepoEditor::ConfigDialog *>(shown))
+        form->drop();
+    else if (auto *editor = qobject_cast<RepoEditor::Dialog *>(shown))
+        editor->drop();
+    else if (auto *dialog = qobject_cast<QDialog *>(shown))
         dialog->reject();
     else
         shown->close();

@@ -14,7 +14,7 @@ constexpr int wantedColumns = 60;
 HWrapLabel::HWrapLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

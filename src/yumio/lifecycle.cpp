@@ -204,6 +204,7 @@ bool YumIO::collect(const QHash<QString, bool> &reposUsed)
     m_session.fileLists = false;
     m_session.otherData = false;
     m_search = {};
+    m_refused.clear();
     QEventLoop loop;
     CollectThread thread(this, loop, reposUsed);
     execWorkThread(loop, thread);

@@ -47,4 +47,11 @@ struct Session
     QStringList changes;    // of another program to what was read, in words
 };
 
+// A repository whose server refused the credentials, and what is to be told of it.
+struct RefusedRepo
+{
+    QString id;
+    QString text;
+};
+
 } // namespace Engine

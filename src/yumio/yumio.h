@@ -103,6 +103,9 @@ public:
 
     // Jobs: each runs on a worker thread while a local event loop serves the GUI thread.
     bool collect(const QHash<QString, bool> &reposUsed);
+    // The repositories whose servers refused, in the last collection, the user name and the password
+    // that they were given. The engine shows no box of these: that is the caller's.
+    const QList<Engine::RefusedRepo> &refusedRepos() const { return m_refused; }
     bool collectFileLists();
     bool collectOtherData();
     bool apply();
@@ -292,6 +295,7 @@ private:
                               const QString &family);
     bool useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed);
     QStringList collectRepos(PyObject *reposDict);
+    void failSetup();
     bool collectField(EntryHash &hash, PyObject *all, const char *field, Package::State state);
     bool collectSet(EntryHash &hash, PyObject *iterable, Package::State state);
     bool collectPkg(Package::Entry *&slot, Package::State state, PyObject *po);
@@ -518,6 +522,7 @@ private:
     PyObject *lockWait(PyObject *self, PyObject *args);
     PyObject *keyQuestion(PyObject *self, PyObject *args);
     PyObject *confirmRemovals(PyObject *self, PyObject *args);
+    PyObject *credentialsRefused(PyObject *self, PyObject *args);
     PyObject *transactionReport(PyObject *self, PyObject *args);
 
     Surface m_surface;
@@ -537,6 +542,7 @@ private:
     Engine::Session m_former; // of the rows that are kept unseen while new ones are gathered
     Engine::Store m_store;
     Engine::Search m_search;
+    QList<Engine::RefusedRepo> m_refused;
     std::atomic<bool> m_clearing = false; // no row is seen
     const Package::EntryList m_noEntries = {};
 

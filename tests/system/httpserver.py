@@ -20,6 +20,9 @@ semicolons (a comma in a base URL separates two of them):
     rate=N         at most N bytes a second
     only=PATTERN   the others apply to paths that match this file name pattern
 
+Behind /kivvet?USERKEY=USER&PASSWORDKEY=PASSWORD&path=PATH/ and /rhel/USERKEY=USER/PASSWORDKEY=PASSWORD/
+the directory lies for one user only: others get status 401, or 403 from the second.
+
 The same texts can be set for all URLs, without changing one, through the control file: the server
 reads it at each request when it exists. `Server` is the side of the tests.
 """
@@ -30,6 +33,7 @@ import http.server
 import json
 import os
 import pathlib
+import re
 import socket
 import ssl
 import subprocess
@@ -41,6 +45,10 @@ import urllib.parse
 
 PAGE = b"<!DOCTYPE html><html><head><title>Sign in</title></head><body>Please sign in.</body></html>\n"
 CHUNK = 4096
+USER, PASSWORD = "joe", "S3cr&t/word"
+# What is appended to a URL comes before its query.
+KIVVET = re.compile(r"/kivvet(?P<rest>[^?]*)\?[^=]*=(?P<user>[^&]*)&[^=]*=(?P<password>[^&]*)&path=(?P<path>.*)")
+RHEL = re.compile(r"/rhel/[^=/]*=(?P<user>[^/]*)/[^=/]*=(?P<password>[^/]*)(?P<path>)(?P<rest>/.*)")
 
 
 class Server:
@@ -102,7 +110,16 @@ class Handler(http.server.BaseHTTPRequestHandler):
     protocol_version = "HTTP/1.1"
 
     def do_GET(self):
-        path = urllib.parse.unquote(self.path.partition("?")[0])
+        asked, status = self.path, 0
+        for shape, refusal in ((KIVVET, 401), (RHEL, 403)):
+            if found := shape.fullmatch(asked):
+                asked = found["path"].rstrip("/") + found["rest"]
+                given = urllib.parse.unquote(found["user"]), urllib.parse.unquote(found["password"])
+                status = refusal if given != (USER, PASSWORD) else 0
+        if status:
+            self.answer(status, b"not you\n")
+            return
+        path = urllib.parse.unquote(asked.partition("?")[0])
         first, _, rest = path[1:].partition("/")
         text = first[1:] if first.startswith("~") else self.server.control()
         wanted = rest if first.startswith("~") else path[1:]

@@ -113,11 +113,12 @@ class Downloads(Case):
             self.serve(url())
             with Recorder(self.root) as window:
                 rows = window.do("wait")["rows"]
+                window.do("answer", rules=[{"title": "VOK Yum Error", "button": "Close"}])
                 for name, (urls, options, reason) in cases.items():
                     with self.subTest(name):
                         self.serve(*urls, **options)
                         answer = window.job("refreshButton")
-                        self.one(answer["dialogs"], "^Repository web: ", reason)
+                        self.one(answer["dialogs"], "(?m)^Repository web: ", reason)
                         self.assertNotIn(PASSWORD, answer["dialogs"][0]["text"])
                         self.assertEqual(answer["rows"], rows)
                 # What is shown can be used; after that it has to be read anew.

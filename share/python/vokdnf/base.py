@@ -10,7 +10,7 @@ import libdnf.conf
 
 from yum import Errors
 
-from . import certificates, config, database, errors, keys, locks, meters, plugins, report, root
+from . import certificates, config, credentials, database, errors, keys, locks, meters, plugins, report, root
 from . import solvcache
 
 _SOURCES = ["src", "nosrc"]
@@ -78,6 +78,8 @@ def _load(repo):
                          + ["  " + certificates.explain(failure, repo) for failure in callbacks.failures
                             or [root.shown(address) for address in repo.baseurl]])
         text += full_cache(repo.basecachedir)
+        if credentials.refused(repo, text):
+            report.credentials_refused(repo.id, text)
         if not repo.skip_if_unavailable:
             raise Errors.RepoError(text) from error
         report.errorlog(0, "%s\nThe repository is left out." % text)

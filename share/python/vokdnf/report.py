@@ -65,6 +65,12 @@ def job_state(state, can_cancel):
         yumIOC.jobState(state, 1 if can_cancel else 0)
 
 
+def credentials_refused(repo_id, text):
+    """A server refused what a repository gives it; `text` is what RepoError tells if it comes to that."""
+    if offers("credentialsRefused"):
+        yumIOC.credentialsRefused(clean(repo_id), clean(text))
+
+
 def import_key(key_id, user_id, fingerprint, source):
     """Asks whether a signing key may be imported. Without the callback for it the lines of the log
     make up the question."""
