@@ -9,8 +9,11 @@ namespace {
 
 QPalette withBase(QPalette palette, const QColor &color)
 {
-    palette.setColor(QPalette::Active, QPalette::Base, color);
-    palette.setColor(QPalette::Inactive, QPalette::Base, color);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor text = palette.color(group, QPalette::Text);
+        palette.setColor(group, QPalette::Base, color);
+        palette.setColor(group, QPalette::Text, Colors::readable(text, color));
+    }
     return palette;
 }
 

@@ -26,7 +26,8 @@ public:
     // As light as the backgrounds that the colours of status texts are made for.
     static bool isPale(const QColor &background);
 
-    // Copies with the background of fields coloured, for the active and the inactive group.
+    // Copies with the background of fields coloured, and the text readable on it, for the active and
+    // the inactive group.
     static QPalette makeRequired(const QPalette &palette);
     static QPalette makeError(const QPalette &palette);
     static QPalette makeWarning(const QPalette &palette);

@@ -1,6 +1,9 @@
 #include "configdialog.h"
 
+#include "app/colors.h"
 #include "configform.h"
+#include "entrycheck.h"
+#include "testrow.h"
 #include "widgets/hframelabel.h"
 #include "widgets/hscrollarea.h"
 #include "widgets/messagebox.h"
@@ -14,6 +17,8 @@
 #include <QScreen>
 #include <QSettings>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace RepoEditor {
 
@@ -36,7 +41,10 @@ ConfigDialog::ConfigDialog(YumConfIO *yumConfIO, QWidget *parent)
     setSizeGripEnabled(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(createForm(), 1);
+    m_test = new TestRow(this);
+    layout->addWidget(m_test);
     layout->addLayout(createButtons());
+    connect(m_test, &TestRow::testAsked, this, &ConfigDialog::test);
     connect(m_form, &Config::changed, this, &ConfigDialog::changed);
 
     resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
@@ -93,7 +101,11 @@ QHBoxLayout *ConfigDialog::createButtons()
 void ConfigDialog::setEngine(YumIO *yumIO, JobRunner runner)
 {
     m_yumIO = yumIO;
-    m_runJob = std::move(runner);
+    m_test->setEngine(yumIO, std::move(runner));
+    // While a test runs the interpreter is not to be had.
+    m_form->setExpander([this](const QString &text) {
+        return m_yumIO && !m_test->isTesting() ? m_yumIO->expandVariables(text) : text;
+    });
 }
 
 void ConfigDialog::setEntry(Repo::Entry *entry)
@@ -107,6 +119,7 @@ void ConfigDialog::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
         m_form->setDefaults(m_yumConfIO->mainEnabled, m_yumConfIO->mainGpgcheck);
+        askEngine();
         setHasChanged(false);
         m_area->ensureVisible(0, 0);
         m_form->setFocus();
@@ -114,10 +127,50 @@ void ConfigDialog::setVisible(bool visible)
     HDialog::setVisible(visible);
 }
 
+void ConfigDialog::askEngine()
+{
+    m_closeAsked.reset();
+    m_test->clear();
+    if (!m_knowsOptions && m_yumIO) {
+        const QStringList options = m_yumIO->repositoryOptions();
+        m_form->setKnownOptions(options);
+        m_knowsOptions = !options.isEmpty();
+    }
+    m_form->showExpanded();
+}
+
+void ConfigDialog::test()
+{
+    m_test->test(YumConfIO::sectionText(m_form->toEntry()));
+    m_form->showExpanded();
+    if (m_closeAsked)
+        done(*std::exchange(m_closeAsked, std::nullopt));
+}
+
+// Why the library would leave out the repository; empty when it would not.
+QString ConfigDialog::identifierProblem() const
+{
+    const QString id = m_form->toEntry().id;
+    const QString warning = EntryCheck::identifierWarning(id);
+    if (!warning.isEmpty())
+        return warning;
+    QStringList others;
+    for (const Repo::Entry &entry : std::as_const(m_yumConfIO->repos)) {
+        if (&entry != m_entry)
+            others += entry.id;
+    }
+    return EntryCheck::twinWarning(id, others);
+}
+
 void ConfigDialog::updateStatusLabel()
 {
-    if (!m_form->setStatus(m_yumConfIO, m_status))
-        m_status->clear();
+    m_form->showHints(*m_yumConfIO);
+    if (m_form->setStatus(m_yumConfIO, m_status))
+        return;
+    const QString problem = identifierProblem();
+    if (!problem.isEmpty())
+        m_status->setPalette(Colors::makeWarning(m_status->palette()));
+    m_status->setText(problem);
 }
 
 void ConfigDialog::setHasChanged(bool flag)
@@ -129,11 +182,13 @@ void ConfigDialog::setHasChanged(bool flag)
 
 void ConfigDialog::changed()
 {
+    m_test->outdate();
     setHasChanged(true);
 }
 
 void ConfigDialog::reset()
 {
+    m_test->outdate();
     m_form->setEntry(*m_entry);
     setHasChanged(false);
 }
@@ -172,8 +227,14 @@ void ConfigDialog::drop()
     done(QDialog::Rejected);
 }
 
+// A test that runs ends first.
 void ConfigDialog::done(int result)
 {
+    if (m_test->isTesting()) {
+        m_closeAsked = result;
+        m_test->cancel();
+        return;
+    }
     settings().setValue(geometryKey, saveGeometry());
     HDialog::done(result);
 }

@@ -4,6 +4,8 @@
 #include "widgets/hdialog.h"
 #include "yumio/jobrunner.h"
 
+#include <optional>
+
 class HFrameLabel;
 class HScrollArea;
 class QHBoxLayout;
@@ -14,6 +16,7 @@ class YumIO;
 namespace RepoEditor {
 
 class Config;
+class TestRow;
 
 // Edits one repository definition in place, once the user confirms.
 class ConfigDialog : public HDialog
@@ -45,16 +48,21 @@ public Q_SLOTS:
 private:
     QWidget *createForm();
     QHBoxLayout *createButtons();
+    void askEngine();
+    void test();
+    QString identifierProblem() const;
     void updateStatusLabel();
     void setHasChanged(bool flag);
 
     YumConfIO *m_yumConfIO;
     YumIO *m_yumIO = nullptr;
-    JobRunner m_runJob;
+    bool m_knowsOptions = false;
     Repo::Entry *m_entry = nullptr;
     bool m_hasChanged = false;
+    std::optional<int> m_closeAsked; // while a test ran, with this result
     Config *m_form = nullptr;
     HScrollArea *m_area = nullptr;
+    TestRow *m_test = nullptr;
     HFrameLabel *m_status = nullptr;
     QPushButton *m_resetButton = nullptr;
 };

@@ -1,12 +1,15 @@
 #include "configform.h"
 
 #include "app/colors.h"
+#include "app/harmless.h"
+#include "entrycheck.h"
 #include "kivvet/kivvet.h"
 #include "optionsedit.h"
 #include "passwdlineedit.h"
 #include "passwdtextedit.h"
 #include "widgets/hframelabel.h"
 #include "yumconfio.h"
+#include "yumio/passwordsintext.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -27,6 +30,8 @@ constexpr int urlRows = 3;
 constexpr int optionRows = 4;
 constexpr int columns = 64;
 constexpr int longestKey = 24; // characters of a credential's name that its label shows
+constexpr int tipColumns = 90;
+constexpr int tipLines = 20;
 
 template <typename Field> Field *named(Field *field, const char *name, const QString &toolTip)
 {
@@ -57,6 +62,36 @@ void showKey(QLabel *label, const QString &key, const QString &otherwise)
     if (text.size() > longestKey)
         text = text.left(longestKey) + QChar(0x2026);
     label->setText(text.replace(u'&', QLatin1String("&&")));
+}
+
+// What a tip says beside `tip` of a text with variables; it has no line breaks of its own.
+QString expandedTip(const QString &tip, const QString &heading, const QString &expanded)
+{
+    QString text = tip + QStringLiteral("\n\n") + heading;
+    int lines = 0;
+    for (QString line : harmless(maskPasswords(expanded)).split(u'\n', Qt::SkipEmptyParts)) {
+        for (; !line.isEmpty() && lines < tipLines; ++lines) {
+            text += u'\n' + line.left(tipColumns);
+            line.remove(0, tipColumns);
+        }
+    }
+    return lines < tipLines ? text : text + QStringLiteral("\n...");
+}
+
+QLabel *newHints(const char *name, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->hide();
+    return label;
+}
+
+void showHint(QLabel *label, const QString &text)
+{
+    label->setText(harmless(text));
+    label->setVisible(!text.isEmpty());
 }
 
 void setTextOf(QLineEdit *edit, const QString &text)
@@ -91,6 +126,9 @@ Config::Config(QGridLayout *layout) : QObject(layout->parentWidget())
     layout->addWidget(createAuth(parent), 4, 0, 1, 2);
     layout->addWidget(createOptions(parent), 5, 0, 1, 2);
     layout->addWidget(createFileInfo(parent), 6, 0, 1, 2);
+
+    m_urlsTip = m_urls->toolTip();
+    m_mirrorListTip = m_mirrorList->toolTip();
 
     const auto onText = qOverload<const QString &>(&Config::valueChanged);
     connect(m_id, &QLineEdit::textChanged, this, onText);
@@ -140,6 +178,8 @@ QWidget *Config::createOptions(QWidget *parent)
     layout->addWidget(simple);
     layout->addWidget(newLabel(tr("Ot&her Options:"), m_otherOptions, group));
     layout->addWidget(m_otherOptions, 1);
+    m_optionHints = newHints("optionHints", group);
+    layout->addWidget(m_optionHints);
     return group;
 }
 
@@ -188,6 +228,8 @@ QWidget *Config::createFileInfo(QWidget *parent)
     grid->addWidget(newLabel(tr("Sort &Position"), m_position, group), 1, 0);
     grid->addWidget(m_position, 1, 1);
     grid->setColumnStretch(2, 1);
+    m_fileNotice = newHints("fileNotice", group);
+    grid->addWidget(m_fileNotice, 2, 0, 1, 3);
     return group;
 }
 
@@ -219,6 +261,7 @@ void Config::setEntry(const Repo::Entry &entry)
     // Of a text that is longer than its field, the beginning says what it is.
     for (QLineEdit *edit : {m_id, m_name, static_cast<QLineEdit *>(m_mirrorList), m_file})
         edit->home(false);
+    showExpanded();
     m_entry = entry;
     m_asShown = shown();
 }
@@ -326,11 +369,41 @@ bool Config::setStatus(YumConfIO *yumConfIO, HFrameLabel *label) const
     return false;
 }
 
+void Config::setExpander(std::function<QString(const QString &)> expander)
+{
+    m_expander = std::move(expander);
+    showExpanded();
+}
+
+void Config::showExpanded()
+{
+    const auto show = [this](QWidget *field, const QString &tip, const QString &text) {
+        const QString expanded = m_expander && text.contains(u'$') ? m_expander(text) : text;
+        field->setToolTip(expanded == text
+                              ? tip
+                              : expandedTip(tip, tr("With the variables replaced:"), expanded));
+    };
+    show(m_urls, m_urlsTip, m_urls->realPlainText());
+    show(m_mirrorList, m_mirrorListTip, m_mirrorList->realText());
+}
+
+void Config::showHints(const YumConfIO &yumConfIO)
+{
+    const Repo::Entry entry = toEntry();
+    showHint(m_optionHints,
+             EntryCheck::optionHints(entry.otherOptions, m_knownOptions).join(u'\n'));
+    const bool loses = YumConfIO::carriesPassword(entry) && yumConfIO.losesReaders(entry.file);
+    showHint(m_fileNotice, loses ? tr("Other users can read the file.  Once it holds this "
+                                      "password, they cannot any more.")
+                                 : QString());
+}
+
 void Config::urlChanged()
 {
     if (m_updating)
         return;
     showAuth(toEntry());
+    showExpanded();
     Q_EMIT changed();
 }
 

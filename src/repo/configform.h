@@ -3,6 +3,9 @@
 #include "repoentry.h"
 
 #include <QObject>
+#include <QStringList>
+
+#include <functional>
 
 class HFrameLabel;
 class PasswdLineEdit;
@@ -40,10 +43,13 @@ public:
     // none.
     bool setStatus(YumConfIO *yumConfIO, HFrameLabel *label) const;
     void setFocus();
-
-    PasswdTextEdit *urls() const { return m_urls; }
-    PasswdLineEdit *mirrorList() const { return m_mirrorList; }
-    OptionsEdit *otherOptions() const { return m_otherOptions; }
+    // The options that are known, for hints; none, and no option gets one.
+    void setKnownOptions(const QStringList &options) { m_knownOptions = options; }
+    // Replaces the variables in a text, for the tips of the URLs.
+    void setExpander(std::function<QString(const QString &)> expander);
+    // Shows what else there is to say of what the fields say, beside the fields.
+    void showHints(const YumConfIO &yumConfIO);
+    void showExpanded();
 
 public Q_SLOTS:
     void urlChanged();
@@ -81,6 +87,11 @@ private:
     Repo::Entry m_entry;   // the fields were filled from this
     Repo::Entry m_asShown; // and gave this right after
     bool m_updating = false;
+    QLabel *m_optionHints = nullptr;
+    QLabel *m_fileNotice = nullptr;
+    QStringList m_knownOptions;
+    std::function<QString(const QString &)> m_expander;
+    QString m_urlsTip, m_mirrorListTip; // without what the variables stand for
 };
 
 } // namespace RepoEditor

@@ -1,5 +1,7 @@
 #include "entrycheck.h"
 
+#include "yumio/passwordsintext.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -16,6 +18,7 @@ class EntryCheckTexts
 };
 
 constexpr qsizetype mostHints = 10;
+constexpr qsizetype longestShown = 40;
 
 QString shownCharacter(const QString &character)
 {
@@ -69,8 +72,7 @@ QString mostSimilar(const QString &name, const QStringList &known)
 QString EntryCheck::identifierWarning(const QString &id)
 {
     static const QRegularExpression variable(QStringLiteral("\\$(?:\\w+|\\{\\w+\\})"));
-    static const QRegularExpression refused(QStringLiteral("[^-A-Za-z0-9_.:]"),
-                                            QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression refused(QStringLiteral("[^-A-Za-z0-9_.:]"));
     if (id == QLatin1String("main"))
         return EntryCheckTexts::tr("DNF takes no repository named main");
     const auto match = refused.match(QString(id).remove(variable));
@@ -91,22 +93,29 @@ QString EntryCheck::twinWarning(const QString &id, const QStringList &others)
 
 QStringList EntryCheck::optionHints(const QString &otherOptions, const QStringList &known)
 {
-    static const QRegularExpression option(QStringLiteral("^([^\\s#;\\[:=][^:=\\n]*?)[ \\t]*[:=]"),
-                                           QRegularExpression::MultilineOption);
     QStringList hints;
-    if (known.isEmpty())
-        return hints;
-    auto matches = option.globalMatch(otherOptions);
-    while (matches.hasNext() && hints.size() < mostHints) {
-        const QString name = matches.next().captured(1);
-        if (known.contains(name))
+    for (const QString &line : otherOptions.split(u'\n')) {
+        // Comments, and lines that go on with the one above them.
+        if (line.trimmed().isEmpty() || line.startsWith(u'#') || line.startsWith(u';') ||
+            line.at(0).isSpace())
             continue;
-        const QString similar = mostSimilar(name, known);
-        const QString shown = name.left(40);
-        hints += similar.isEmpty()
-                     ? EntryCheckTexts::tr("DNF does not know the option %1.").arg(shown)
-                     : EntryCheckTexts::tr("DNF does not know the option %1.  Is %2 meant?")
-                           .arg(shown, similar);
+        const qsizetype end = line.indexOf(u'=');
+        const QString name = line.left(end).trimmed();
+        if (known.contains(name) && end >= 0)
+            continue;
+        if (hints.size() == mostHints)
+            break;
+        if (end < 0) {
+            hints +=
+                EntryCheckTexts::tr("DNF leaves out the whole file for a line without \"=\": %1")
+                    .arg(maskOptionPasswords(line).left(longestShown));
+        } else if (!known.isEmpty()) {
+            const QString similar = mostSimilar(name, known);
+            const QString hint = EntryCheckTexts::tr("DNF does not know the option %1.")
+                                     .arg(name.left(longestShown));
+            hints += similar.isEmpty() ? hint
+                                       : EntryCheckTexts::tr("%1  Is %2 meant?").arg(hint, similar);
+        }
     }
     return hints;
 }

@@ -10,8 +10,9 @@ namespace EntryCheck {
 QString identifierWarning(const QString &id);
 // Which of the other identifiers differs from it in case only, in words; empty for none.
 QString twinWarning(const QString &id, const QStringList &others);
-// A line for each option in the lines that is not among the known ones, with the most similar of
-// these where one is similar. Nothing without known ones.
+// A text for each of the lines that the library does not read, and for each option that is not among
+// the known ones, with the most similar of these where one is similar. Without known ones no option
+// is unknown.
 QStringList optionHints(const QString &otherOptions, const QStringList &known);
 
 } // namespace EntryCheck

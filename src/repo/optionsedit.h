@@ -11,6 +11,17 @@ class OptionsEdit : public PasswdTextEdit
 
 public:
     OptionsEdit(int rows, int columns, QWidget *parent);
+
+    void setRealPlainText(const QString &text);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    QString masked(const QString &real) const override;
+
+private:
+    void noteEdit(int position, int removed, int added);
+
+    bool m_filling = false;
 };
 
 } // namespace RepoEditor

@@ -110,6 +110,11 @@ QString PasswdTextEdit::realPlainText() const
     return plainText(*m_real);
 }
 
+QTextDocument *PasswdTextEdit::realDocument() const
+{
+    return m_real->document();
+}
+
 QString PasswdTextEdit::masked(const QString &real) const
 {
     const int character = style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, this);

@@ -40,13 +40,15 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void insertFromMimeData(const QMimeData *source) override;
+    // What is seen of a text, of the same length and with its lines.
+    virtual QString masked(const QString &real) const;
+    QTextDocument *realDocument() const;
 
 private Q_SLOTS:
     void textChanged();
 
 private:
     void construct();
-    QString masked(const QString &real) const;
     void showMasked();
     void carryToReal();
     void carryToVisible();

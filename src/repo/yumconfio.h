@@ -43,6 +43,8 @@ public:
     // the user declined, and then `repos` is as it was, or when a failure was shown; what was
     // written until then stays written.
     bool write(QWidget *parent);
+    // What a file holds of a repository.
+    static QString sectionText(const Repo::Entry &entry);
     // Whether a password stands in one of its fields.
     static bool carriesPassword(const Repo::Entry &entry);
     // Whether others can read the file, and cannot any more once it has its first password.

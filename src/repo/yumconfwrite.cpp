@@ -172,9 +172,16 @@ void YumConfIO::put(FILE *file, const QString &text) const
 
 bool YumConfIO::writeRepo(FILE *file, const Repo::Entry &entry) const
 {
-    const auto option = [&](QLatin1String name, const QString &value) {
+    put(file, sectionText(entry));
+    return true;
+}
+
+QString YumConfIO::sectionText(const Repo::Entry &entry)
+{
+    QString text = QLatin1Char('[') + entry.id + QLatin1String("]\n");
+    const auto option = [&text](QLatin1String name, const QString &value) {
         if (!value.isEmpty())
-            put(file, name + value + QLatin1Char('\n'));
+            text += name + value + QLatin1Char('\n');
     };
     const auto onOff = [](Qt::CheckState state) {
         if (state == Qt::PartiallyChecked)
@@ -182,15 +189,13 @@ bool YumConfIO::writeRepo(FILE *file, const Repo::Entry &entry) const
         return state == Qt::Checked ? QStringLiteral("1") : QStringLiteral("0");
     };
 
-    put(file, QLatin1Char('[') + entry.id + QLatin1String("]\n"));
     option(QLatin1String("name="), entry.name);
     QString urls = entry.baseurl;
     option(QLatin1String("baseurl="), urls.replace(u'\n', QLatin1String("\n        ")));
     option(QLatin1String("mirrorlist="), entry.mirrorlist);
     option(QLatin1String("enabled="), onOff(entry.enabled));
     option(QLatin1String("gpgcheck="), onOff(entry.gpgcheck));
-    put(file, entry.otherOptions);
-    return true;
+    return text + entry.otherOptions;
 }
 
 bool YumConfIO::removeUnusedFiles(const QSet<QString> &usedFiles)

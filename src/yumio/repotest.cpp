@@ -16,9 +16,9 @@
 
 namespace {
 
-constexpr std::array<const char *, 12> kinds = {"good",    "password",    "host",    "refused",
-                                                "timeout", "certificate", "missing", "proxy",
-                                                "nothing", "empty",       "other",   "definition"};
+constexpr std::array<const char *, 13> kinds = {
+    "good",   "password", "host",    "refused", "timeout", "certificate", "missing",
+    "nolist", "proxy",    "nothing", "empty",   "other",   "definition"};
 
 RepoAnswer::Kind kindOf(const char *name)
 {

@@ -14,6 +14,7 @@ struct RepoAnswer
         Timeout,
         Certificate, // it was not accepted
         Missing,     // 404 or the like
+        NoList,      // the same, of a list of mirrors
         Proxy,       // it does not let through, or cannot be reached
         Nothing,     // something that is no repository metadata
         Empty,       // a list of mirrors that names none

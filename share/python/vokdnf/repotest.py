@@ -39,6 +39,7 @@ def run(conf, text):
         good         repository metadata is there
         password, host, refused, timeout, certificate, missing, proxy
                      why it is not; the detail is the library's own reason
+        nolist       the same as missing, of a list of mirrors
         nothing      something is there that is no repository metadata
         empty        a list of mirrors names none
         other        any other reason
@@ -66,7 +67,7 @@ def _mirrors(conf, text, listed):
         return
     failure, content = _fetch(_repo_at(conf, text, _DUMMY), listed if "://" in listed else "file://" + listed)
     if failure:
-        yield failure[0], report.told(listed), failure[1]
+        yield "nolist" if failure[0] == "missing" else failure[0], report.told(listed), failure[1]
         return
     mirrors = _listed(content)
     if not mirrors:

@@ -1,0 +1,215 @@
+#include "testrow.h"
+
+#include "app/colors.h"
+#include "app/harmless.h"
+#include "progress/hprogressbar.h"
+#include "widgets/htextedit.h"
+#include "yumio/passwordsintext.h"
+#include "yumio/repotest.h"
+#include "yumio/yumio.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <optional>
+
+namespace RepoEditor {
+
+namespace {
+
+constexpr int resultRows = 4;
+constexpr int resultColumns = 40;
+
+bool isGood(const RepoAnswer &answer)
+{
+    return answer.kind == RepoAnswer::Kind::Good;
+}
+
+} // namespace
+
+TestRow::TestRow(QWidget *parent) : QWidget(parent)
+{
+    m_button = new QPushButton(tr("&Test"), this);
+    m_button->setObjectName(QStringLiteral("testButton"));
+    m_button->setToolTip(tr("Try to reach the repository as it is described here.  Nothing is "
+                            "saved"));
+    m_button->setAutoDefault(false);
+    connect(m_button, &QPushButton::clicked, this, &TestRow::testAsked);
+    m_result = new HTextEdit(resultRows, resultColumns, this);
+    m_result->setObjectName(QStringLiteral("testResult"));
+    m_result->setAccessibleName(tr("Result of the test"));
+    m_result->setReadOnly(true);
+    m_result->setTabChangesFocus(true);
+    m_result->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_result->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_result->setFixedHeight(m_result->sizeHint().height());
+    m_result->hide();
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_button, 0, Qt::AlignTop);
+    row->addWidget(createProgress(), 1);
+    row->addWidget(m_result, 1);
+    row->addStretch();
+    hide();
+}
+
+QWidget *TestRow::createProgress()
+{
+    m_progress = new QWidget(this);
+    m_totalBar = new HProgressBar(m_progress);
+    m_totalBar->setObjectName(QStringLiteral("testTotalBar"));
+    m_totalBar->setAccessibleName(tr("Total progress"));
+    m_itemBar = new HProgressBar(m_progress);
+    m_itemBar->setObjectName(QStringLiteral("testItemBar"));
+    m_itemBar->setAccessibleName(tr("Progress of the current step"));
+    // A URL of any length is its text.
+    for (HProgressBar *bar : {m_totalBar, m_itemBar})
+        bar->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_cancelButton = new QPushButton(tr("C&ancel Test"), m_progress);
+    m_cancelButton->setObjectName(QStringLiteral("cancelTestButton"));
+    m_cancelButton->setToolTip(tr("Stops the test; the dialog stays open"));
+    m_cancelButton->setAutoDefault(false);
+    connect(m_cancelButton, &QPushButton::clicked, this, &TestRow::cancel);
+    auto *bars = new QVBoxLayout;
+    bars->addWidget(m_totalBar);
+    bars->addWidget(m_itemBar);
+    auto *row = new QHBoxLayout(m_progress);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addLayout(bars, 1);
+    row->addWidget(m_cancelButton);
+    m_progress->hide();
+    return m_progress;
+}
+
+void TestRow::setEngine(YumIO *yumIO, JobRunner runner)
+{
+    m_yumIO = yumIO;
+    m_runJob = std::move(runner);
+}
+
+void TestRow::test(const QString &section)
+{
+    if (m_testing || !m_yumIO || !m_runJob)
+        return;
+    setTesting(true);
+    std::optional<QList<RepoAnswer>> answers;
+    QString said;
+    const YumIO::Surface surface = m_yumIO->exchangeSurface({window(), m_totalBar, m_itemBar});
+    const bool ran = m_runJob(
+        [&] { said = m_yumIO->withoutBoxes([&] { answers = m_yumIO->testRepository(section); }); });
+    m_yumIO->exchangeSurface(surface);
+    setTesting(false);
+    if (answers)
+        showAnswers(*answers, hasOptionPasswords(section));
+    else if (!ran)
+        show(tr("Another operation is running."), Colors::makeWarning(palette()));
+    else if (m_yumIO->wasCancelled())
+        show(tr("The test was cancelled."), Colors::makeWarning(palette()));
+    else
+        show(maskPasswords(said), Colors::makeError(palette()));
+}
+
+void TestRow::setTesting(bool testing)
+{
+    m_testing = testing;
+    m_outdated = false;
+    m_cancelButton->setEnabled(testing);
+    m_progress->setVisible(testing);
+    if (testing) {
+        m_result->hide();
+        if (m_button->hasFocus())
+            m_cancelButton->setFocus();
+    } else if (m_cancelButton->hasFocus() || !window()->focusWidget()) {
+        m_button->setEnabled(true);
+        m_button->setFocus();
+    }
+    m_button->setEnabled(!testing);
+}
+
+void TestRow::cancel()
+{
+    m_cancelButton->setEnabled(false);
+    m_yumIO->cancel();
+}
+
+void TestRow::outdate()
+{
+    m_outdated = true;
+    if (!m_testing)
+        m_result->hide();
+}
+
+void TestRow::clear()
+{
+    setVisible(m_yumIO && m_runJob && m_yumIO->canTestRepositories());
+    m_result->hide();
+}
+
+void TestRow::showAnswers(const QList<RepoAnswer> &answers, bool hasPassword)
+{
+    const bool reached = std::any_of(answers.begin(), answers.end(), isGood);
+    const bool complete = reached && std::all_of(answers.begin(), answers.end(), isGood);
+    QStringList lines;
+    if (m_outdated)
+        lines += tr("This is of the repository before the last changes.");
+    if (answers.isEmpty())
+        lines += tr("There is no URL to test.");
+    else
+        lines += reached ? tr("The repository can be reached.")
+                         : tr("The repository cannot be reached.");
+    for (const RepoAnswer &answer : answers) {
+        lines += textOf(answer, hasPassword);
+        if (!answer.detail.isEmpty() && answer.kind != RepoAnswer::Kind::Definition)
+            lines += QStringLiteral("    ") + answer.detail;
+    }
+    show(lines.join(u'\n'), complete  ? Colors::makeOK(palette())
+                            : reached ? Colors::makeWarning(palette())
+                                      : Colors::makeError(palette()));
+}
+
+void TestRow::show(const QString &text, const QPalette &palette)
+{
+    m_result->setPalette(palette);
+    m_result->setPlainText(harmless(text));
+    m_result->setVisible(!text.isEmpty());
+}
+
+QString TestRow::textOf(const RepoAnswer &answer, bool hasPassword)
+{
+    using enum RepoAnswer::Kind;
+    switch (answer.kind) {
+    case Good:
+        return tr("%1 has repository metadata.").arg(answer.url);
+    case Password:
+        return (hasPassword ? tr("%1 refuses the user name or the password.")
+                            : tr("%1 wants a user name and a password, or lets nobody in."))
+            .arg(answer.url);
+    case Host:
+        return tr("The host of %1 is unknown.").arg(answer.url);
+    case Refused:
+        return tr("The host of %1 refuses the connection.").arg(answer.url);
+    case Timeout:
+        return tr("%1 does not answer in time.").arg(answer.url);
+    case Certificate:
+        return tr("The certificate of %1 is not accepted.").arg(answer.url);
+    case Missing:
+        return tr("%1 has no repodata/repomd.xml.").arg(answer.url);
+    case NoList:
+        return tr("There is no list of mirrors at %1.").arg(answer.url);
+    case Proxy:
+        return tr("The proxy on the way to %1 cannot be reached or used.").arg(answer.url);
+    case Nothing:
+        return tr("What %1 has as repodata/repomd.xml is no repository metadata.").arg(answer.url);
+    case Empty:
+        return tr("The list of mirrors at %1 names none.").arg(answer.url);
+    case Definition:
+        return tr("DNF does not take it as it is: %1").arg(answer.detail);
+    case Other:
+        break;
+    }
+    return tr("%1 cannot be read.").arg(answer.url);
+}
+
+} // namespace RepoEditor
