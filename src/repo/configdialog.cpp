@@ -46,9 +46,6 @@ ConfigDialog::ConfigDialog(YumConfIO *yumConfIO, QWidget *parent)
     layout->addLayout(createButtons());
     connect(m_test, &TestRow::testAsked, this, &ConfigDialog::test);
     connect(m_form, &Config::changed, this, &ConfigDialog::changed);
-
-    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
-    restoreGeometry(settings().value(geometryKey).toByteArray());
 }
 
 ConfigDialog::~ConfigDialog() = default;
@@ -123,6 +120,8 @@ void ConfigDialog::setVisible(bool visible)
         setHasChanged(false);
         m_area->ensureVisible(0, 0);
         m_form->setFocus();
+        if (!restoreGeometry(settings().value(geometryKey).toByteArray()))
+            resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
     }
     HDialog::setVisible(visible);
 }

@@ -28,7 +28,7 @@ namespace {
 
 constexpr int urlRows = 3;
 constexpr int optionRows = 4;
-constexpr int columns = 64;
+constexpr int columns = 80;
 constexpr int longestKey = 24; // characters of a credential's name that its label shows
 constexpr int tipColumns = 90;
 constexpr int tipLines = 20;

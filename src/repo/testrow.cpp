@@ -22,6 +22,11 @@ namespace {
 constexpr int resultRows = 4;
 constexpr int resultColumns = 40;
 
+bool isDefinition(const RepoAnswer &answer)
+{
+    return answer.kind == RepoAnswer::Kind::Definition;
+}
+
 bool isGood(const RepoAnswer &answer)
 {
     return answer.kind == RepoAnswer::Kind::Good;
@@ -156,12 +161,13 @@ void TestRow::showAnswers(const QList<RepoAnswer> &answers, bool hasPassword)
         lines += tr("This is of the repository before the last changes.");
     if (answers.isEmpty())
         lines += tr("There is no URL to test.");
-    else
-        lines += reached ? tr("The repository can be reached.")
-                         : tr("The repository cannot be reached.");
+    else if (reached)
+        lines += tr("The repository can be reached.");
+    else if (!isDefinition(answers.last())) // of that, what follows is all there is to say
+        lines += tr("The repository cannot be reached.");
     for (const RepoAnswer &answer : answers) {
         lines += textOf(answer, hasPassword);
-        if (!answer.detail.isEmpty() && answer.kind != RepoAnswer::Kind::Definition)
+        if (!answer.detail.isEmpty() && !isDefinition(answer))
             lines += QStringLiteral("    ") + answer.detail;
     }
     show(lines.join(u'\n'), complete  ? Colors::makeOK(palette())
