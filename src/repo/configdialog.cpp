@@ -7,6 +7,7 @@
 #include "widgets/hframelabel.h"
 #include "widgets/hscrollarea.h"
 #include "widgets/messagebox.h"
+#include "widgets/onscreen.h"
 #include "yumconfio.h"
 #include "yumio/yumio.h"
 
@@ -120,8 +121,13 @@ void ConfigDialog::setVisible(bool visible)
         setHasChanged(false);
         m_area->ensureVisible(0, 0);
         m_form->setFocus();
+        // By which the groups of the form tell their sizes.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         if (!restoreGeometry(settings().value(geometryKey).toByteArray()))
             resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
+        HDialog::setVisible(true);
+        keepOnScreen(this);
+        return;
     }
     HDialog::setVisible(visible);
 }
