@@ -44,6 +44,26 @@ HALF_WAY = {
          "doubles old": ("failed", "%preun"), "fail-preun": ("failed", "%preun")}, {"doubles"}, {"clock"}),
 }
 
+# Lines of a repository's section, the names of URLs standing for them; what a test answers, in order.
+REPO_TESTS = {
+    "every URL": ("baseurl={gone} {good}", "missing good"),
+    "names and passwords": ("baseurl={wrong} {shut}", "password password"),
+    "a sign-in page, an unknown host": ("baseurl={page} http://nobody.invalid/x", "nothing host"),
+    "nobody listens": ("baseurl={closed} ftp://127.0.0.1:{port}/x", "refused refused"),
+    "an authority of its own": ("baseurl={https}\nsslcacert={ca}", "good"),
+    "certificates": ("baseurl={https} {stranger}", "certificate certificate"),
+    "whoever it is": ("baseurl={https}\nsslverify=0", "good"),
+    "a proxy that is not there": ("baseurl={good}\nproxy={closed}", "proxy"),
+    "files, and a variable": ("baseurl=file://{files}/$basearch/extras file:///gone", "good missing"),
+    "the first good mirror": ("mirrorlist={mirrors}", "refused good"),
+    "a metalink": ("metalink={metalink}", "good"),
+    "a list without mirrors": ("mirrorlist={page}", "empty"),
+    "a list that is not there": ("mirrorlist={gone}\nbaseurl={good}", "good nolist"),
+    "an option that DNF does not take": ("baseurl={good}\nsslverify=maybe", "definition good"),
+    "no section at all": ("baseurl={good}\nno option", "definition"),
+    "no URL": ("enabled=1", ""),
+}
+
 
 def name_of(package):
     return package.rpartition(":")[2].rsplit("-", 2)[0]
@@ -163,6 +183,35 @@ class Failures(Case):
                 self.assertEqual(self.packages(root), before)
                 opened = calls(result, "applyGrabMultiMeterStart")
                 self.assertEqual(len(opened), len(calls(result, "applyGrabMultiMeterEnd")))
+
+    def test_repo_tests(self):
+        """What keeps a repository from being reached is told apart, and no file is written."""
+        root = self.root()
+        top = pathlib.Path(root, "srv/repos/9/x86_64/extras")
+        with httpserver.Server(top, tls=True) as server:
+            good = server.url()
+            (top / "mirrors").write_text("# mirrors\n%s\n%s\n" % (server.url(kind="closed"), good))
+            (top / "metalink").write_text("<metalink><file name='repomd.xml'><url>%srepodata/repomd.xml"
+                                          "</url></file></metalink>" % good)
+            names = {"good": good, "gone": server.url("gone/"), "page": server.url("", "html"),
+                     "wrong": server.url("", "status=401"), "shut": server.url("", "status=403"),
+                     "mirrors": server.url("mirrors"), "metalink": server.url("metalink"),
+                     "ca": server.authority, "port": server.ports["closed"], "files": "/srv/repos/9",
+                     **{kind: server.url(kind=kind) for kind in ("closed", "https", "stranger")}}
+            sections = ["[one]\n" + lines.format_map(names) + "\n" for lines, _ in REPO_TESTS.values()]
+            steps = [{"do": "eval", "code": "list(program.make().testRepo(%r.encode()))" % text} for text in sections]
+            run(root, {"steps": steps[-1:]})
+            files = set(pathlib.Path(root).rglob("*"))
+            result = run(root, {"steps": steps})
+            later = "setattr(__import__('yumIOC'), 'cancelled', iter([0] + 99 * [1]).__next__)"
+            hung = "[%s, *program.make().testRepo(b'[a]\\nbaseurl=%s')]" % (later, server.url("", "hang"))
+            cancelled = run(root, {"steps": [{"do": "eval", "code": hung}]}, timeout=20)
+        for (name, (_, kinds)), answers in zip(REPO_TESTS.items(), result["values"]):
+            with self.subTest(name):
+                told = [answer[0] for answer in answers[1:] if answer[0] != "trying"]
+                self.assertEqual(told, kinds.split(), answers)
+        self.assertIn("Callback aborted", str(cancelled["values"]))
+        self.assertEqual(files, set(pathlib.Path(root).rglob("*")))
 
 
 if __name__ == "__main__":
