@@ -9,6 +9,7 @@ import dnf.exceptions
 import dnf.repo
 import dnf.rpm
 import libdnf.conf
+import libdnf.error
 
 from . import database, language, report, root
 
@@ -17,6 +18,8 @@ REPO_DIRECTORIES = ("/etc/yum.repos.d", "/etc/yum/repos.d")
 CACHE_DIRECTORY = "/var/cache/yum"
 # Without these the system cannot mend itself; a protected_packages option takes their place.
 FOUNDATIONS = ("dnf", "filesystem", "glibc", "rpm", "setup", "systemd", "yum")
+# What reading a repository raises; the last is the binding's word for text that is not UTF-8.
+READING_ERRORS = (dnf.exceptions.Error, libdnf.error.Error, RuntimeError, TypeError)
 _SET_BY_FILE = dnf.conf.PRIO_MAINCONFIG
 
 
@@ -163,7 +166,7 @@ def read_repositories(conf, repositories):
         except OSError as error:
             if not os.path.isdir(path):
                 _left_out(path, error.strerror)
-        except (dnf.exceptions.Error, RuntimeError) as error:
+        except READING_ERRORS as error:
             _left_out(path, error)
 
 
@@ -173,6 +176,8 @@ def _left_out(path, cause):
 
 def reason(error):
     """The parser's own words, without the sentence that DNF puts around them."""
+    if isinstance(error, TypeError):
+        return "a value is not UTF-8"
     words = getattr(error, "__context__", None)
     return report.clean(words if isinstance(words, RuntimeError) else error).rsplit(" failed: ", 1)[-1]
 

@@ -9,7 +9,6 @@ import re
 import xml.etree.ElementTree
 
 import dnf.conf.read
-import dnf.exceptions
 import libdnf.error
 import libdnf.repo
 
@@ -131,10 +130,8 @@ def _read(conf, text):
         os.write(descriptor, text)
         with language.english():
             repos = list(dnf.conf.read.RepoReader(conf, None)._get_repos(path))
-    except (dnf.exceptions.Error, libdnf.error.Error, RuntimeError) as error:
+    except config.READING_ERRORS as error:
         return None, [config.reason(error)]
-    except TypeError:  # the binding's word for text that is not UTF-8
-        return None, ["A value is not UTF-8."]
     finally:
         logger.handlers = handlers
         os.close(descriptor)
