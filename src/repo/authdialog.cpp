@@ -21,6 +21,7 @@ namespace RepoAuth {
 namespace {
 
 constexpr int wideness = 40; // in letters
+constexpr int urlsRow = 2;
 
 // A key of a URL may hold what a label would take for the mark of a shortcut.
 void showKey(QLabel *label, const QString &key, const QString &fallback)
@@ -37,11 +38,6 @@ Dialog::Dialog(QWidget *parent) : HDialog(parent)
     auto *heading = new QLabel(tr("Some configured repositories require authentication"), this);
     heading->setFont(Fonts::makeHeader(heading->font()));
     heading->setWordWrap(true);
-    auto *area = new HScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(createFields());
     m_warning = new QLabel(this);
     m_warning->setObjectName(QStringLiteral("warningLabel"));
     m_warning->setTextFormat(Qt::PlainText);
@@ -50,31 +46,41 @@ Dialog::Dialog(QWidget *parent) : HDialog(parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(heading);
     layout->addWidget(new HSeparator(this));
-    layout->addWidget(area, 1);
+    layout->addLayout(createFields(), 1);
     layout->addWidget(m_warning);
     createButtons();
 }
 
-QWidget *Dialog::createFields()
+QLayout *Dialog::createFields()
 {
-    auto *fields = new QWidget(this);
-    auto *grid = new QGridLayout(fields);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto *grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
     const auto add = [&](int row, const char *name, const QString &title) {
-        auto *value = new HWrapLabel(fields);
+        auto *value = new HWrapLabel(this);
         value->setObjectName(QLatin1String(name));
-        auto *label = new QLabel(title, fields);
+        value->installEventFilter(this);
+        auto *label = new QLabel(title, this);
         label->setBuddy(value);
         grid->addWidget(label, row, 0, Qt::AlignTop);
-        grid->addWidget(value, row, 1);
+        if (row != urlsRow) {
+            grid->addWidget(value, row, 1);
+            return value;
+        }
+        // Of these there may be many.
+        m_urls = new HScrollArea(this);
+        m_urls->setFrameShape(QFrame::NoFrame);
+        m_urls->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        m_urls->setFocusPolicy(Qt::NoFocus);
+        m_urls->setMinimumHeight(fontMetrics().height());
+        m_urls->setWidget(value);
+        grid->addWidget(m_urls, row, 1);
         return value;
     };
     m_id = add(0, "idLabel", tr("Identifier"));
     m_repoName = add(1, "repoNameLabel", tr("Name"));
-    m_baseurl = add(2, "baseurlLabel", tr("URLs"));
+    m_baseurl = add(urlsRow, "baseurlLabel", tr("URLs"));
     m_mirrorlist = add(3, "mirrorlistLabel", tr("Mirror list URL"));
-    grid->addWidget(new HSeparator(fields), 4, 0, 1, 2);
+    grid->addWidget(new HSeparator(this), 4, 0, 1, 2);
     m_name = addEdit(grid, 5, "nameEdit", m_nameLabel,
                      tr("Authentication name for a repository using the kivvet authentication "
                         "method"));
@@ -85,15 +91,14 @@ QWidget *Dialog::createFields()
     showKey(m_nameLabel, QString(), tr("Name"));
     showKey(m_passwordLabel, QString(), tr("Password"));
     grid->setRowStretch(7, 1);
-    return fields;
+    return grid;
 }
 
 QLineEdit *Dialog::addEdit(QGridLayout *grid, int row, const char *name, QLabel *&label,
                            const QString &toolTip)
 {
-    QWidget *fields = grid->parentWidget();
-    label = new QLabel(fields);
-    auto *edit = new QLineEdit(fields);
+    label = new QLabel(this);
+    auto *edit = new QLineEdit(this);
     label->setObjectName(QLatin1String(name) + QLatin1String("Label"));
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(edit);
@@ -144,6 +149,8 @@ int Dialog::exec(Repo::Entry *entry, const QString &warning)
     m_warning->setVisible(!warning.isEmpty());
     setButtonsEnabled(true);
     m_name->setFocus();
+    if (isHidden())
+        resize(sizeHint()); // by itself it would take two thirds of the screen at most
     show();
     setResult(Quit); // unless something is answered before the program ends the loop
     m_loop.exec();
@@ -164,6 +171,27 @@ void Dialog::authChanged(const QString &)
     };
     m_baseurl->setText(shown(m_entry->baseurl));
     m_mirrorlist->setText(shown(m_entry->mirrorlist));
+    if (isVisible()) { // else they have no width yet
+        for (HWrapLabel *label : {m_id, m_repoName, m_baseurl, m_mirrorlist})
+            fit(label);
+    }
+}
+
+// Shown whole; only of the URLs there may be more than the screen has room for, and they get no more
+// than they need.
+void Dialog::fit(HWrapLabel *label)
+{
+    const int height = label->heightForWidth(label->width());
+    label->setMinimumHeight(height);
+    if (label == m_baseurl)
+        m_urls->setMaximumHeight(height);
+}
+
+bool Dialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize)
+        fit(static_cast<HWrapLabel *>(watched));
+    return HDialog::eventFilter(watched, event);
 }
 
 void Dialog::setUrls()

@@ -4,6 +4,7 @@
 
 #include <QEventLoop>
 
+class HScrollArea;
 class HWrapLabel;
 class QGridLayout;
 class QLabel;
@@ -48,6 +49,7 @@ public Q_SLOTS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private Q_SLOTS:
     void authChanged(const QString &text);
@@ -56,15 +58,17 @@ private Q_SLOTS:
 private:
     using HDialog::exec;
 
-    QWidget *createFields();
+    QLayout *createFields();
     QLineEdit *addEdit(QGridLayout *grid, int row, const char *name, QLabel *&label,
                        const QString &toolTip);
     void createButtons();
     void setButtonsEnabled(bool enabled);
     void answer(Answer answer);
+    void fit(HWrapLabel *label);
 
     HWrapLabel *m_id = nullptr;
     HWrapLabel *m_repoName = nullptr;
+    HScrollArea *m_urls = nullptr;
     HWrapLabel *m_baseurl = nullptr;
     HWrapLabel *m_mirrorlist = nullptr;
     QLabel *m_nameLabel = nullptr;

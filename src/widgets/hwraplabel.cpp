@@ -7,7 +7,7 @@ namespace {
 
 constexpr int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere;
 constexpr int fewestColumns = 16;
-constexpr int wantedColumns = 60;
+constexpr int wantedColumns = 80;
 
 } // namespace
 
