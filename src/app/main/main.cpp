@@ -1,3 +1,4 @@
+#include "application.h"
 #include "commandline.h"
 #include "defaultstyle.h"
 #include "terminator.h"
@@ -6,13 +7,12 @@
 #include "app/share.h"
 #include "mainwindow/mainwindow.h"
 
-#include <QApplication>
 #include <QIcon>
 
 int main(int argc, char **argv)
 {
     DefaultStyle style(argc, const_cast<const char **>(argv));
-    QApplication app(argc, argv);
+    Application app(argc, argv);
     style.set(app, QStringLiteral("plastique"));
     app.setWindowIcon(QIcon(Share::absolute(QStringLiteral("pixmaps/vok.icon.png"))));
     setProgramName(argv[0]);
@@ -22,6 +22,7 @@ int main(int argc, char **argv)
 
     Terminator terminator;
     QObject::connect(&terminator, &Terminator::terminated, &window, &MainWindow::terminate);
+    QObject::connect(&app, &Application::quitAsked, &window, &MainWindow::terminate);
     window.show();
     return app.exec();
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QApplication>
+
+// The application object. When it is told to quit, as by the end of the session, it asks no window
+// whether it may close, which could put questions to somebody who has gone: it only says so.
+class Application : public QApplication
+{
+    Q_OBJECT
+
+public:
+    using QApplication::QApplication;
+
+Q_SIGNALS:
+    void quitAsked();
+
+protected:
+    bool event(QEvent *event) override;
+};
