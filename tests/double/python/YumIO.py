@@ -142,7 +142,7 @@ DEFAULTS = dict(
     requiredPkgs=lambda io, name: [name],
     pkgTree=lambda io, name: [name])
 OPTIONAL = ("collectRows", "noteGroups", "outdated", "apply", "applyFailCleanup", "cleanHeaders", "cleanPackages",
-            "cleanMetadata", "cleanPickles", "cleanSqlite")
+            "cleanMetadata", "cleanPickles", "cleanSqlite", "testRepo", "repoOptions", "expanded")
 
 
 class YumIO:
