@@ -75,8 +75,7 @@ void MainWindow::editRepositories(bool initial)
         return;
     RepoEditor::Dialog *editor = repoEditor();
     editor->setChanged(initial);
-    if (!m_repoToEdit.isEmpty())
-        editor->edit(std::exchange(m_repoToEdit, QString())); // when it is shown
+    editor->edit(std::exchange(m_repoToEdit, QString())); // when it is shown
     dialogRuns(true);
     editor->exec();
     dialogRuns(false);

@@ -147,6 +147,7 @@ int Dialog::exec(Repo::Entry *entry, const QString &warning)
     authChanged(QString());
     m_warning->setText(warning);
     m_warning->setVisible(!warning.isEmpty());
+    m_password->setAccessibleDescription(warning);
     setButtonsEnabled(true);
     m_name->setFocus();
     if (isHidden())

@@ -46,9 +46,12 @@ class Credentials(scriptdriver.Case):
             self.assertNotIn(password, "\n".join(seen))
 
     def test_asked_once(self):
-        """One answer for the host is written, and serves to collect from both and to install."""
+        """One answer for the host is written, and serves to collect from both and to install; after a start in
+        the editor that ends with Cancel."""
         self.configure()
-        self.program = start_program(self, self.root, "-s", "installable", "-e", "^bulk-001 ")
+        self.program = start_program(self, self.root, "-r", "-s", "installable", "-e", "^bulk-001 ")
+        self.press("Cancel", self.program.find("dialog", "VOK Repository Configuration Editor"))
+        self.press("Read the Packages")
         self.program.find("push button", "Quit")
         type_text(USER)
         key("Tab")
