@@ -1,11 +1,14 @@
 #include "configdialog.h"
 
 #include "app/colors.h"
+#include "app/harmless.h"
 #include "configform.h"
 #include "entrycheck.h"
+#include "rootpath.h"
 #include "testrow.h"
 #include "widgets/hframelabel.h"
 #include "widgets/hscrollarea.h"
+#include "widgets/hwraplabel.h"
 #include "widgets/messagebox.h"
 #include "widgets/onscreen.h"
 #include "yumconfio.h"
@@ -42,6 +45,9 @@ ConfigDialog::ConfigDialog(YumConfIO *yumConfIO, QWidget *parent)
     setSizeGripEnabled(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(createForm(), 1);
+    m_fileNotice = new HWrapLabel(this);
+    m_fileNotice->setObjectName(QStringLiteral("fileNotice"));
+    layout->addWidget(m_fileNotice);
     m_test = new TestRow(this);
     layout->addWidget(m_test);
     layout->addLayout(createButtons());
@@ -167,9 +173,20 @@ QString ConfigDialog::identifierProblem() const
     return EntryCheck::twinWarning(id, others);
 }
 
+void ConfigDialog::showFileNotice()
+{
+    const Repo::Entry entry = m_form->toEntry();
+    const bool loses = YumConfIO::carriesPassword(entry) && m_yumConfIO->losesReaders(entry.file);
+    m_fileNotice->setText(
+        tr("Other users can read %1 now.  They cannot any more once it holds this password.")
+            .arg(harmless(RootPath::shown(entry.file))));
+    m_fileNotice->setVisible(loses);
+}
+
 void ConfigDialog::updateStatusLabel()
 {
-    m_form->showHints(*m_yumConfIO);
+    m_form->showHints();
+    showFileNotice();
     if (m_form->setStatus(m_yumConfIO, m_status))
         return;
     const QString problem = identifierProblem();

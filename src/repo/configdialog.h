@@ -8,6 +8,7 @@
 
 class HFrameLabel;
 class HScrollArea;
+class HWrapLabel;
 class QHBoxLayout;
 class QPushButton;
 class YumConfIO;
@@ -51,6 +52,7 @@ private:
     void askEngine();
     void test();
     QString identifierProblem() const;
+    void showFileNotice();
     void updateStatusLabel();
     void setHasChanged(bool flag);
 
@@ -63,6 +65,7 @@ private:
     Config *m_form = nullptr;
     HScrollArea *m_area = nullptr;
     TestRow *m_test = nullptr;
+    HWrapLabel *m_fileNotice = nullptr;
     HFrameLabel *m_status = nullptr;
     QPushButton *m_resetButton = nullptr;
 };

@@ -78,22 +78,6 @@ QString expandedTip(const QString &tip, const QString &heading, const QString &e
     return lines < tipLines ? text : text + QStringLiteral("\n...");
 }
 
-QLabel *newHints(const char *name, QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->hide();
-    return label;
-}
-
-void showHint(QLabel *label, const QString &text)
-{
-    label->setText(harmless(text));
-    label->setVisible(!text.isEmpty());
-}
-
 void setTextOf(QLineEdit *edit, const QString &text)
 {
     if (edit->text() != text) // or the cursor would leave where the user types
@@ -178,7 +162,10 @@ QWidget *Config::createOptions(QWidget *parent)
     layout->addWidget(simple);
     layout->addWidget(newLabel(tr("Ot&her Options:"), m_otherOptions, group));
     layout->addWidget(m_otherOptions, 1);
-    m_optionHints = newHints("optionHints", group);
+    m_optionHints = new QLabel(group);
+    m_optionHints->setObjectName(QStringLiteral("optionHints"));
+    m_optionHints->setTextFormat(Qt::PlainText);
+    m_optionHints->setWordWrap(true);
     layout->addWidget(m_optionHints);
     return group;
 }
@@ -228,8 +215,6 @@ QWidget *Config::createFileInfo(QWidget *parent)
     grid->addWidget(newLabel(tr("Sort &Position"), m_position, group), 1, 0);
     grid->addWidget(m_position, 1, 1);
     grid->setColumnStretch(2, 1);
-    m_fileNotice = newHints("fileNotice", group);
-    grid->addWidget(m_fileNotice, 2, 0, 1, 3);
     return group;
 }
 
@@ -387,15 +372,11 @@ void Config::showExpanded()
     show(m_mirrorList, m_mirrorListTip, m_mirrorList->realText());
 }
 
-void Config::showHints(const YumConfIO &yumConfIO)
+void Config::showHints()
 {
-    const Repo::Entry entry = toEntry();
-    showHint(m_optionHints,
-             EntryCheck::optionHints(entry.otherOptions, m_knownOptions).join(u'\n'));
-    const bool loses = YumConfIO::carriesPassword(entry) && yumConfIO.losesReaders(entry.file);
-    showHint(m_fileNotice, loses ? tr("Other users can read the file.  Once it holds this "
-                                      "password, they cannot any more.")
-                                 : QString());
+    const QString options = toEntry().otherOptions;
+    m_optionHints->setText(harmless(EntryCheck::optionHints(options, m_knownOptions).join(u'\n')));
+    m_optionHints->setVisible(!m_optionHints->text().isEmpty());
 }
 
 void Config::urlChanged()

@@ -47,8 +47,8 @@ public:
     void setKnownOptions(const QStringList &options) { m_knownOptions = options; }
     // Replaces the variables in a text, for the tips of the URLs.
     void setExpander(std::function<QString(const QString &)> expander);
-    // Shows what else there is to say of what the fields say, beside the fields.
-    void showHints(const YumConfIO &yumConfIO);
+    // Shows what there is to say of the options, beside them.
+    void showHints();
     void showExpanded();
 
 public Q_SLOTS:
@@ -88,7 +88,6 @@ private:
     Repo::Entry m_asShown; // and gave this right after
     bool m_updating = false;
     QLabel *m_optionHints = nullptr;
-    QLabel *m_fileNotice = nullptr;
     QStringList m_knownOptions;
     std::function<QString(const QString &)> m_expander;
     QString m_urlsTip, m_mirrorListTip; // without what the variables stand for

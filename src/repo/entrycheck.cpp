@@ -86,7 +86,8 @@ QString EntryCheck::twinWarning(const QString &id, const QStringList &others)
 {
     for (const QString &other : others) {
         if (other != id && other.compare(id, Qt::CaseInsensitive) == 0)
-            return EntryCheckTexts::tr("The Identifier %1 differs in case only").arg(other);
+            return EntryCheckTexts::tr("The Identifier %1 differs in case only")
+                .arg(other.left(longestShown));
     }
     return QString();
 }

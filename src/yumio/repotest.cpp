@@ -33,8 +33,10 @@ RepoAnswer::Kind kindOf(const char *name)
 
 bool YumIO::canTestRepositories()
 {
+    if (!m_session.yumIO)
+        return false;
     const PyGILStateWrapper lock(true);
-    return m_session.yumIO && PyObject_HasAttrString(m_session.yumIO, "testRepo");
+    return PyObject_HasAttrString(m_session.yumIO, "testRepo");
 }
 
 std::optional<QList<RepoAnswer>> YumIO::testRepository(const QString &section)
@@ -99,8 +101,10 @@ bool YumIO::takeRepoAnswer(PyObject *item, RepoTest &test)
 
 QStringList YumIO::repositoryOptions()
 {
+    if (!m_session.yumIO)
+        return {};
     const PyGILStateWrapper lock(true);
-    if (!m_session.yumIO || !PyObject_HasAttrString(m_session.yumIO, "repoOptions"))
+    if (!PyObject_HasAttrString(m_session.yumIO, "repoOptions"))
         return {};
     const PyRef names(pyMethodCall(m_session.yumIO, "repoOptions", "()"));
     return names ? textsOf(names.get()) : QStringList();
@@ -108,8 +112,10 @@ QStringList YumIO::repositoryOptions()
 
 QString YumIO::expandVariables(const QString &text)
 {
+    if (!m_session.yumIO)
+        return text;
     const PyGILStateWrapper lock(true);
-    if (!m_session.yumIO || !PyObject_HasAttrString(m_session.yumIO, "expanded"))
+    if (!PyObject_HasAttrString(m_session.yumIO, "expanded"))
         return text;
     const PyRef expanded(
         pyMethodCall(m_session.yumIO, "expanded", "(s)", text.toUtf8().constData()));

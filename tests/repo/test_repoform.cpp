@@ -44,7 +44,8 @@ struct Form
     {
         root.put(root.mainFile(), "[main]\n");
         root.put(root.repo(u"one"_s), "[one]\nname=One\nbaseurl=http://h/x\nsecret=1\n"
-                                      "password=hush\n[two]\nbaseurl=http://h/y\n");
+                                      "password=hush\n");
+        root.put(root.repo(u"two"_s), "[two]\nbaseurl=http://h/y\n");
         root.io.read(nullptr);
     }
     void open(Repo::Entry *entry)
@@ -164,10 +165,14 @@ private Q_SLOTS:
         QCOMPARE(form.dialog.result(), 1);
         QCOMPARE(form.root.used.value(u"one"_s), true);
         QVERIFY(form.root.io.write(nullptr));
-        QCOMPARE(form.root.get(file),
-                 "[one]\nname=Uno\nbaseurl=http://h/x\nmirrorlist=" + url.toUtf8() +
-                     "\nenabled=1\nsecret=1\npassword=hush\n\n[two]\n"
-                     "baseurl=http://h/y\n");
+        QCOMPARE(form.root.get(file), "[one]\nname=Uno\nbaseurl=http://h/x\nmirrorlist=" +
+                                          url.toUtf8() + "\nenabled=1\nsecret=1\npassword=hush\n");
+
+        form.open(&form.root.entry(u"two"_s));
+        QVERIFY(!form.field<QLabel>("fileNotice")->isVisible());
+        form.type("mirrorList", url);
+        QVERIFY(form.field<QLabel>("fileNotice")->isVisible());
+        QVERIFY(form.field<QLabel>("fileNotice")->text().contains(form.root.repo(u"two"_s)));
     }
 
     // What the fields cannot show as it is stays, unless it is edited.

@@ -61,6 +61,7 @@ REPO_TESTS = {
     "a list that is not there": ("mirrorlist={gone}\nbaseurl={good}", "good nolist"),
     "an option that DNF does not take": ("baseurl={good}\nsslverify=maybe", "definition good"),
     "no section at all": ("baseurl={good}\nno option", "definition"),
+    "no repository": ("[main]\nbaseurl={good}", "definition"),
     "no URL": ("enabled=1", ""),
 }
 
@@ -198,7 +199,7 @@ class Failures(Case):
                      "mirrors": server.url("mirrors"), "metalink": server.url("metalink"),
                      "ca": server.authority, "port": server.ports["closed"], "files": "/srv/repos/9",
                      **{kind: server.url(kind=kind) for kind in ("closed", "https", "stranger")}}
-            sections = ["[one]\n" + lines.format_map(names) + "\n" for lines, _ in REPO_TESTS.values()]
+            sections = [("[one]\n" if lines[0] != "[" else "") + lines.format_map(names) + "\n" for lines, _ in REPO_TESTS.values()]
             steps = [{"do": "eval", "code": "list(program.make().testRepo(%r.encode()))" % text} for text in sections]
             run(root, {"steps": steps[-1:]})
             files = set(pathlib.Path(root).rglob("*"))

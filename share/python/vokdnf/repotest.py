@@ -136,7 +136,7 @@ def _read(conf, text):
         logger.handlers = handlers
         os.close(descriptor)
     if not repos:
-        return None, complaints.errors + complaints.warnings
+        return None, complaints.errors + complaints.warnings or ["DNF finds no repository in it."]
     config.place_inside(repos[0])
     return repos[0], complaints.errors
 
