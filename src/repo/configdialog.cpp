@@ -154,6 +154,7 @@ void ConfigDialog::test()
 {
     m_test->test(YumConfIO::sectionText(m_form->toEntry()));
     m_form->showExpanded();
+    setEnabled(true);
     if (m_closeAsked)
         done(*std::exchange(m_closeAsked, std::nullopt));
 }
@@ -223,6 +224,8 @@ void ConfigDialog::cancel()
 // Escape or the window's X: they are hit by accident where the button is not.
 void ConfigDialog::reject()
 {
+    if (m_closeAsked)
+        return;
     if (m_hasChanged && showMessageBox(QMessageBox::Question, this, windowTitle(),
                                        tr("Discard the changes to this repository configuration?"),
                                        tr("&Discard"), tr("&Keep Editing"), QString(), 1, 1) != 0)
@@ -254,6 +257,7 @@ void ConfigDialog::done(int result)
 {
     if (m_test->isTesting()) {
         m_closeAsked = result;
+        setEnabled(false);
         m_test->cancel();
         return;
     }

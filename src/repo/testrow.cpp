@@ -109,33 +109,33 @@ void TestRow::test(const QString &section)
     if (answers)
         showAnswers(*answers, hasOptionPasswords(section));
     else if (!ran)
-        show(tr("Another operation is running."), Colors::makeWarning(palette()));
+        showResult(tr("Another operation is running."), Colors::makeWarning(palette()));
     else if (m_yumIO->wasCancelled())
-        show(tr("The test was cancelled."), Colors::makeWarning(palette()));
+        showResult(tr("The test was cancelled."), Colors::makeWarning(palette()));
     else
-        show(maskPasswords(said), Colors::makeError(palette()));
+        showResult(maskPasswords(said), Colors::makeError(palette()));
 }
 
 void TestRow::setTesting(bool testing)
 {
     m_testing = testing;
-    m_outdated = false;
-    m_cancelButton->setEnabled(testing);
-    m_progress->setVisible(testing);
+    // The focus goes with the control before that is hidden or disabled.
+    QPushButton *former = testing ? m_button : m_cancelButton;
+    QPushButton *next = testing ? m_cancelButton : m_button;
     if (testing) {
+        m_outdated = false;
         m_result->hide();
-        if (m_button->hasFocus())
-            m_cancelButton->setFocus();
-    } else if (m_cancelButton->hasFocus() || !window()->focusWidget()) {
-        m_button->setEnabled(true);
-        m_button->setFocus();
+        m_progress->show();
     }
-    m_button->setEnabled(!testing);
+    next->setEnabled(true);
+    if (former->hasFocus())
+        next->setFocus();
+    former->setEnabled(false);
+    m_progress->setVisible(testing);
 }
 
 void TestRow::cancel()
 {
-    m_cancelButton->setEnabled(false);
     m_yumIO->cancel();
 }
 
@@ -170,12 +170,12 @@ void TestRow::showAnswers(const QList<RepoAnswer> &answers, bool hasPassword)
         if (!answer.detail.isEmpty() && !isDefinition(answer))
             lines += QStringLiteral("    ") + answer.detail;
     }
-    show(lines.join(u'\n'), complete  ? Colors::makeOK(palette())
-                            : reached ? Colors::makeWarning(palette())
-                                      : Colors::makeError(palette()));
+    showResult(lines.join(u'\n'), complete  ? Colors::makeOK(palette())
+                                  : reached ? Colors::makeWarning(palette())
+                                            : Colors::makeError(palette()));
 }
 
-void TestRow::show(const QString &text, const QPalette &palette)
+void TestRow::showResult(const QString &text, const QPalette &palette)
 {
     m_result->setPalette(palette);
     m_result->setPlainText(harmless(text));

@@ -40,7 +40,7 @@ private:
     QWidget *createProgress();
     void setTesting(bool testing);
     void showAnswers(const QList<RepoAnswer> &answers, bool hasPassword);
-    void show(const QString &text, const QPalette &palette);
+    void showResult(const QString &text, const QPalette &palette);
     static QString textOf(const RepoAnswer &answer, bool hasPassword);
 
     YumIO *m_yumIO = nullptr;

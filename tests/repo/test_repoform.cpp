@@ -271,11 +271,18 @@ private Q_SLOTS:
                      "name or the password.\n    401\n[one]\nname=One\nbaseurl=http:$xh\n"_s),
                  qPrintable(told));
 
+        QTimer::singleShot(0, &form.dialog, [&] { form.type("repoName", u"x"_s); });
+        form.press("testButton");
+        QVERIFY(form.field<QTextEdit>("testResult")
+                    ->toPlainText()
+                    .startsWith(u"This is of the repository before the last changes."_s));
+
         form.type("urls", u"http://wait"_s);
         QVERIFY(!form.field<QWidget>("testResult")->isVisible());
         QTimer::singleShot(20, &form.dialog, [&] { form.press("cancelTestButton"); });
         form.press("testButton");
         QCOMPARE(form.field<QTextEdit>("testResult")->toPlainText(), u"The test was cancelled."_s);
+        QVERIFY(form.field<QWidget>("testButton")->hasFocus());
         QVERIFY(form.dialog.isVisible());
         bool stayed = false; // until the job ended
         QTimer::singleShot(20, &form.dialog, [&] {

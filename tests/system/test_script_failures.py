@@ -199,8 +199,10 @@ class Failures(Case):
                      "mirrors": server.url("mirrors"), "metalink": server.url("metalink"),
                      "ca": server.authority, "port": server.ports["closed"], "files": "/srv/repos/9",
                      **{kind: server.url(kind=kind) for kind in ("closed", "https", "stranger")}}
-            sections = [("[one]\n" if lines[0] != "[" else "") + lines.format_map(names) + "\n" for lines, _ in REPO_TESTS.values()]
-            steps = [{"do": "eval", "code": "list(program.make().testRepo(%r.encode()))" % text} for text in sections]
+            sections = [("[one]\n" if lines[0] != "[" else "") + lines.format_map(names) + "\n"
+                        for lines, _ in REPO_TESTS.values()]
+            steps = [{"do": "eval", "code": "list(program.make().testRepo(%r.encode()))" % text}
+                     for text in sections]
             run(root, {"steps": steps[-1:]})
             files = set(pathlib.Path(root).rglob("*"))
             result = run(root, {"steps": steps})
