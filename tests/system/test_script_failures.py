@@ -47,7 +47,8 @@ HALF_WAY = {
 # Lines of a repository's section, the names of URLs standing for them; what a test answers, in order.
 REPO_TESTS = {
     "every URL": ("baseurl={gone} {good}", "missing good"),
-    "names and passwords": ("baseurl={wrong} {shut}", "password password"),
+    "names and passwords": ("baseurl={good}kivvet?u=joe&p=S3cr%26t%2fword&path=/ {good}kivvet?u=joe&p=x&path=/"
+                            " {good}rhel/u=joe/p=x/ {wrong}", "good password password password"),
     "a sign-in page, an unknown host": ("baseurl={page} http://nobody.invalid/x", "nothing host"),
     "nobody listens": ("baseurl={closed} ftp://127.0.0.1:{port}/x", "refused refused"),
     "an authority of its own": ("baseurl={https}\nsslcacert={ca}", "good"),
@@ -195,7 +196,7 @@ class Failures(Case):
             (top / "metalink").write_text("<metalink><file name='repomd.xml'><url>%srepodata/repomd.xml"
                                           "</url></file></metalink>" % good)
             names = {"good": good, "gone": server.url("gone/"), "page": server.url("", "html"),
-                     "wrong": server.url("", "status=401"), "shut": server.url("", "status=403"),
+                     "wrong": server.url("", "status=401"),
                      "mirrors": server.url("mirrors"), "metalink": server.url("metalink"),
                      "ca": server.authority, "port": server.ports["closed"], "files": "/srv/repos/9",
                      **{kind: server.url(kind=kind) for kind in ("closed", "https", "stranger")}}
