@@ -32,6 +32,12 @@ bool isGood(const RepoAnswer &answer)
     return answer.kind == RepoAnswer::Kind::Good;
 }
 
+// The library takes what it finds first, whatever it is.
+bool isFound(const RepoAnswer &answer)
+{
+    return isGood(answer) || answer.kind == RepoAnswer::Kind::Nothing;
+}
+
 } // namespace
 
 TestRow::TestRow(QWidget *parent) : QWidget(parent)
@@ -154,7 +160,8 @@ void TestRow::clear()
 
 void TestRow::showAnswers(const QList<RepoAnswer> &answers, bool hasPassword)
 {
-    const bool reached = std::any_of(answers.begin(), answers.end(), isGood);
+    const auto found = std::find_if(answers.begin(), answers.end(), isFound);
+    const bool reached = found != answers.end() && isGood(*found);
     const bool complete = reached && std::all_of(answers.begin(), answers.end(), isGood);
     QStringList lines;
     if (m_outdated)
@@ -207,7 +214,9 @@ QString TestRow::textOf(const RepoAnswer &answer, bool hasPassword)
     case Proxy:
         return tr("The proxy on the way to %1 cannot be reached or used.").arg(answer.url);
     case Nothing:
-        return tr("What %1 has as repodata/repomd.xml is no repository metadata.").arg(answer.url);
+        return tr("What %1 has as repodata/repomd.xml is no repository metadata.  DNF takes the "
+                  "first that it finds.")
+            .arg(answer.url);
     case Empty:
         return tr("The list of mirrors at %1 names none.").arg(answer.url);
     case Definition:

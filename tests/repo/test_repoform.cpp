@@ -30,7 +30,9 @@ def testRepo(io, section):
     if b"wait" in section:
         while not yumIOC.cancelled(): time.sleep(0.01)
         return
+    if b"page" in section: yield "nothing", "http://page", ""
     yield "trying", "http://joe:hush@h/x", ""
+    if b"page" in section: yield "good", "http://h", ""
     yield "password", "http://joe:hush@h/x", "401"
     yield "other", section.decode(), ""
 )";
@@ -276,6 +278,12 @@ private Q_SLOTS:
         QVERIFY(form.field<QTextEdit>("testResult")
                     ->toPlainText()
                     .startsWith(u"This is of the repository before the last changes."_s));
+
+        form.type("urls", u"http://page"_s);
+        form.press("testButton");
+        QVERIFY(form.field<QTextEdit>("testResult")
+                    ->toPlainText()
+                    .startsWith(u"The repository cannot be reached.\nWhat http://page has"_s));
 
         form.type("urls", u"http://wait"_s);
         QVERIFY(!form.field<QWidget>("testResult")->isVisible());

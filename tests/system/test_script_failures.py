@@ -59,6 +59,7 @@ REPO_TESTS = {
     "the first good mirror": ("mirrorlist={mirrors}", "refused good"),
     "a metalink": ("metalink={metalink}", "good"),
     "a list without mirrors": ("mirrorlist={page}", "empty"),
+    "a metalink that is called a list": ("mirrorlist={good}links", "empty"),
     "a list that is not there": ("mirrorlist={gone}\nbaseurl={good}", "good nolist"),
     "an option that DNF does not take": ("baseurl={good}\nsslverify=maybe", "definition good"),
     "no section at all": ("baseurl={good}\nno option", "definition"),
@@ -195,6 +196,7 @@ class Failures(Case):
             (top / "mirrors").write_text("# mirrors\n%s\n%s\n" % (server.url(kind="closed"), good))
             (top / "metalink").write_text("<metalink><file name='repomd.xml'><url>%srepodata/repomd.xml"
                                           "</url></file></metalink>" % good)
+            (top / "links").write_text("<metalink><url>%srepodata/repomd.xml</url></metalink>" % good)
             names = {"good": good, "gone": server.url("gone/"), "page": server.url("", "html"),
                      "wrong": server.url("", "status=401"),
                      "mirrors": server.url("mirrors"), "metalink": server.url("metalink"),

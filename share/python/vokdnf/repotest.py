@@ -39,11 +39,12 @@ def run(conf, text):
         password, host, refused, timeout, certificate, missing, proxy
                      why it is not; the detail is the library's own reason
         nolist       the same as missing, of a list of mirrors
-        nothing      something is there that is no repository metadata
+        nothing      something is there that is no repository metadata; as with good, a collection
+                     would look no further
         empty        a list of mirrors names none
         other        any other reason
         definition   DNF does not take the section, or one option of it; no url
-    A step of a list of mirrors tries these until one is good."""
+    A step of a list of mirrors tries these until something is there."""
     repo, complaints = _read(conf, text)
     bases, listed = [], None
     if repo is not None:
@@ -58,17 +59,18 @@ def run(conf, text):
         yield _base(conf, text, base)
     if listed:
         yield "trying", report.told(listed), ""
-        yield from _mirrors(conf, text, listed)
+        # Of a mirrorlist libdnf goes by the address.
+        yield from _mirrors(conf, text, listed, bool(repo.metalink) or "metalink" in listed)
 
 
-def _mirrors(conf, text, listed):
+def _mirrors(conf, text, listed, is_metalink):
     if report.cancelled():
         return
     failure, content = _fetch(_repo_at(conf, text, _DUMMY), listed if "://" in listed else "file://" + listed)
     if failure:
         yield "nolist" if failure[0] == "missing" else failure[0], report.told(listed), failure[1]
         return
-    mirrors = _listed(content)
+    mirrors = _listed(content, is_metalink)
     if not mirrors:
         yield "empty", report.told(listed), ""
     for mirror in mirrors[:_MOST_MIRRORS]:
@@ -76,13 +78,15 @@ def _mirrors(conf, text, listed):
             return
         answer = _base(conf, text, mirror)
         yield answer
-        if answer[0] == "good":
+        if answer[0] in ("good", "nothing"):
             return
 
 
-def _listed(content):
+def _listed(content, is_metalink):
     """The base URLs of a list of mirrors, which is lines or a metalink."""
     if content.lstrip().startswith(b"<"):
+        if not is_metalink:
+            return []
         try:
             tree = xml.etree.ElementTree.parse(io.BytesIO(content))
         except xml.etree.ElementTree.ParseError:
