@@ -4,6 +4,7 @@
 #include "mainwindow/job.h"
 #include "mainwindow/mainwindow.h"
 
+#include "app/harmless.h"
 #include "repo/authchecker.h"
 #include "repo/editordialog.h"
 #include "repo/yumconfio.h"
@@ -48,7 +49,7 @@ void MainWindow::tellRefused()
         if (m_quitAsked)
             return;
         const QString text = tr("Wrong user name or password for repository %1.\n\n%2")
-                                 .arg(repo.id, maskPasswords(repo.text));
+                                 .arg(harmless(repo.id), harmless(maskPasswords(repo.text)));
         if (showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Error"), text,
                            tr("Edit Repository"), tr("Close"), QString(), 0, 1) == 0) {
             m_repoToEdit = repo.id;

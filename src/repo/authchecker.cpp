@@ -1,5 +1,6 @@
 #include "authchecker.h"
 
+#include "app/harmless.h"
 #include "authdialog.h"
 #include "kivvet/kivvet.h"
 #include "kivvet/url.h"
@@ -84,7 +85,7 @@ QString Checker::warning(const Repo::Entry &entry) const
         return QString();
     return tr("The password will be written to %1. A file that gets its first password can no "
               "longer be read by other users.")
-        .arg(RootPath::shown(entry.file));
+        .arg(harmless(RootPath::shown(entry.file)));
 }
 
 void Checker::replace(Repo::Entry &entry, const Auth &auth)

@@ -1,6 +1,7 @@
 #include "authdialog.h"
 
 #include "app/fonts.h"
+#include "app/harmless.h"
 #include "kivvet/kivvet.h"
 #include "repoentry.h"
 #include "widgets/hscrollarea.h"
@@ -26,7 +27,7 @@ constexpr int urlsRow = 2;
 // A key of a URL may hold what a label would take for the mark of a shortcut.
 void showKey(QLabel *label, const QString &key, const QString &fallback)
 {
-    label->setText(key.isEmpty() ? fallback : QString(key).replace(u'&', QLatin1String("&&")));
+    label->setText(key.isEmpty() ? fallback : harmless(key).replace(u'&', QLatin1String("&&")));
 }
 
 } // namespace
@@ -138,8 +139,8 @@ int Dialog::exec(Repo::Entry *entry, const QString &warning)
     m_nameKey.clear();
     m_passwordKey.clear();
     Repo::Kivvet::getAuth(*entry, m_nameKey, name, m_passwordKey, password);
-    m_id->setText(entry->id);
-    m_repoName->setText(entry->name);
+    m_id->setText(harmless(entry->id));
+    m_repoName->setText(harmless(entry->name));
     showKey(m_nameLabel, m_nameKey, tr("Name"));
     showKey(m_passwordLabel, m_passwordKey, tr("Password"));
     m_name->setText(name);
@@ -167,7 +168,7 @@ void Dialog::authChanged(const QString &)
     const QChar mask(
         style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, m_password));
     const auto shown = [&](const QString &urls) {
-        return Repo::Kivvet::replaceAuth(maskPasswords(urls), m_nameKey, m_name->text(),
+        return Repo::Kivvet::replaceAuth(maskPasswords(harmless(urls)), m_nameKey, m_name->text(),
                                          m_passwordKey, QString(m_password->text().size(), mask));
     };
     m_baseurl->setText(shown(m_entry->baseurl));
