@@ -4,7 +4,6 @@
 
 #include "app/colors.h"
 #include "repo/configdialog.h"
-#include "repo/entrycheck.h"
 #include "repo/optionsedit.h"
 #include "repo/passwdlineedit.h"
 
@@ -21,7 +20,7 @@ const QString url = u"http://h/kivvet?user=joe&pass=a%26b&path=os"_s;
 
 const char scenario[] = R"(
 import time
-def repoOptions(io): return ["password"]
+def repoOptions(io): return ["password", "exclude"]
 def expanded(io, text): return text.replace("$x", "//joe:hush@")
 def testRepo(io, section):
     yield 1
@@ -43,8 +42,8 @@ struct Form
     Form()
     {
         root.put(root.mainFile(), "[main]\n");
-        root.put(root.repo(u"one"_s), "[one]\nname=One\nbaseurl=http://h/x\nsecret=1\n"
-                                      "password=hush\n");
+        root.put(root.repo(u"one"_s), "[one]\nname=One\nbaseurl=http://h/x\nexlcude=1\n"
+                                      "no: x\nkeeppackages=1\npassword=hush\n");
         root.put(root.repo(u"two"_s), "[two]\nbaseurl=http://h/y\n");
         root.io.read(nullptr);
     }
@@ -119,18 +118,6 @@ private Q_SLOTS:
             QCOMPARE(status->palette().color(QPalette::Base), base);
     }
 
-    void optionHints()
-    {
-        const QStringList known{u"exclude"_s, u"proxy_password"_s, u"proxy"_s};
-        const QString lines =
-            u"proxy=x\n# prox=x\nexlcude = a\n b c\nkeeppackages=1\npassword: hush\n"_s;
-        QCOMPARE(EntryCheck::optionHints(lines, known).join(u'\n'),
-                 u"DNF does not know the option exlcude.  Is exclude meant?\n"
-                 "DNF does not know the option keeppackages.\n"
-                 "DNF leaves out the whole file for a line without \"=\": password: ****"_s);
-        QCOMPARE(EntryCheck::optionHints(u"exlcude=a"_s, {}), QStringList());
-    }
-
     // A whole edit by keys, from the file as it was to the file that is written.
     void edits()
     {
@@ -158,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(form.root.io.write(nullptr));
         QCOMPARE(form.root.get(form.root.repo(u"one"_s)),
                  "[one]\nname=Uno\nbaseurl=http://h/x\nmirrorlist=" + url.toUtf8() +
-                     "\nenabled=1\nsecret=1\npassword=hush\n");
+                     "\nenabled=1\nexlcude=1\nno: x\nkeeppackages=1\npassword=hush\n");
 
         form.open(&form.root.entry(u"two"_s));
         auto *notice = form.field<QLabel>("fileNotice");
@@ -226,7 +213,8 @@ private Q_SLOTS:
         options->moveCursor(QTextCursor::Start);
         QTest::keyClicks(options, u"a=b"_s);
         QTest::keyClick(options, Qt::Key_Return);
-        QVERIFY(hidden() && options->realPlainText() == u"a=b\nsecret=1\npassword=hush\n"_s);
+        QVERIFY(hidden() && options->realPlainText() ==
+                                u"a=b\nexlcude=1\nno: x\nkeeppackages=1\npassword=hush\n"_s);
         options->moveCursor(QTextCursor::End);
         QTest::keyClick(options, Qt::Key_Up);
         QVERIFY(hidden());
@@ -247,7 +235,9 @@ private Q_SLOTS:
         form.dialog.setEngine(&scripted.engine, [](const auto &work) { return work(), true; });
         form.open(&entry);
         QCOMPARE(form.field<QLabel>("optionHints")->text(),
-                 u"DNF does not know the option secret."_s);
+                 u"DNF does not know the option exlcude.  Is exclude meant?\n"
+                 "DNF leaves out the whole file for a line without \"=\": no: x\n"
+                 "DNF does not know the option keeppackages."_s);
         const auto test = [&](const QString &urls, const std::function<void()> &meanwhile) {
             form.type("urls", urls);
             QTimer::singleShot(0, &form.dialog, meanwhile);
