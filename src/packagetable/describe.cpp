@@ -5,10 +5,10 @@
 #include "packagetable/fieldstext.h"
 #include "packagetable/filetree.h"
 #include "packagetable/icons.h"
-#include "progress/hprogressbar.h"
 #include "repo/repobrowse.h"
 #include "repo/yumconfio.h"
 #include "widgets/messagebox.h"
+#include "yumio/jobprogress.h"
 #include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
 
@@ -82,7 +82,9 @@ Dialog::Dialog(QWidget *parent)
     layout->addLayout(createHead());
     layout->addWidget(m_tabs, 1);
     createPages();
-    layout->addWidget(createProgress());
+    m_progress = new JobProgress(QStringLiteral("describe"), tr("Ca&ncel"),
+                                 tr("Stops loading; the dialog stays open"), this);
+    layout->addWidget(m_progress);
     layout->addLayout(createButtons());
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
         m_wantedPage = m_tabs->currentWidget();
@@ -232,32 +234,6 @@ QWidget *Dialog::createMembers()
     return m_members;
 }
 
-QWidget *Dialog::createProgress()
-{
-    m_progress = new QWidget(this);
-    m_totalBar = new HProgressBar(m_progress);
-    m_totalBar->setObjectName(QStringLiteral("describeTotalBar"));
-    m_totalBar->setAccessibleName(tr("Total progress"));
-    m_itemBar = new HProgressBar(m_progress);
-    m_itemBar->setObjectName(QStringLiteral("describeItemBar"));
-    m_itemBar->setAccessibleName(tr("Progress of the current step"));
-    m_cancelButton = newButton("describeCancelButton", tr("Ca&ncel"),
-                               tr("Stops loading; the dialog stays open"), m_progress);
-    connect(m_cancelButton, &QPushButton::clicked, this, [this] {
-        m_cancelButton->setEnabled(false);
-        m_yumIO->cancel();
-    });
-    auto *bars = new QVBoxLayout;
-    bars->addWidget(m_totalBar);
-    bars->addWidget(m_itemBar);
-    auto *row = new QHBoxLayout(m_progress);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addLayout(bars, 1);
-    row->addWidget(m_cancelButton);
-    m_progress->hide();
-    return m_progress;
-}
-
 QLayout *Dialog::createButtons()
 {
     m_previousButton = newButton("previousButton", tr("&Previous"),
@@ -390,13 +366,9 @@ bool Dialog::load(PageInfo &info)
                            false);
     setLoading(true);
     bool loaded = false;
-    QString said;
-    const YumIO::Surface window = m_yumIO->exchangeSurface({this, m_totalBar, m_itemBar});
-    const bool ran = m_runJob([&] {
-        said = m_yumIO->withoutBoxes(
-            [&] { loaded = files ? m_yumIO->collectFileLists() : m_yumIO->collectOtherData(); });
+    auto [ran, said] = m_progress->run(m_yumIO, m_runJob, [&] {
+        loaded = files ? m_yumIO->collectFileLists() : m_yumIO->collectOtherData();
     });
-    m_yumIO->exchangeSurface(window);
     setLoading(false);
     if (m_closeAsked) {
         done(QDialog::Rejected);
@@ -424,8 +396,6 @@ bool Dialog::load(PageInfo &info)
 void Dialog::setLoading(bool loading)
 {
     m_loading = loading;
-    m_cancelButton->setEnabled(loading);
-    m_progress->setVisible(loading);
     updateButtons();
 }
 
@@ -444,8 +414,7 @@ void Dialog::done(int result)
     if (m_loading) {
         m_closeAsked = true;
         m_closeButton->setEnabled(false);
-        m_cancelButton->setEnabled(false);
-        m_yumIO->cancel();
+        m_progress->cancel();
         return;
     }
     m_closeButton->setEnabled(true);

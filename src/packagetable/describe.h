@@ -7,7 +7,7 @@
 
 #include <vector>
 
-class HProgressBar;
+class JobProgress;
 class QLabel;
 class QLayout;
 class QLineEdit;
@@ -75,7 +75,6 @@ private:
     void createPages();
     QWidget *createFiles();
     QWidget *createMembers();
-    QWidget *createProgress();
     QLayout *createButtons();
 
     void fillHead();
@@ -138,10 +137,7 @@ private:
     QPlainTextEdit *m_requiredBy = nullptr;
     QPlainTextEdit *m_update = nullptr;
     QTreeWidget *m_members = nullptr;
-    QWidget *m_progress = nullptr;
-    HProgressBar *m_totalBar = nullptr;
-    HProgressBar *m_itemBar = nullptr;
-    QPushButton *m_cancelButton = nullptr;
+    JobProgress *m_progress = nullptr;
     QPushButton *m_previousButton = nullptr;
     QPushButton *m_nextButton = nullptr;
     QPushButton *m_closeButton = nullptr;

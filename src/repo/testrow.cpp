@@ -2,8 +2,8 @@
 
 #include "app/colors.h"
 #include "app/harmless.h"
-#include "progress/hprogressbar.h"
 #include "widgets/htextedit.h"
+#include "yumio/jobprogress.h"
 #include "yumio/passwordsintext.h"
 #include "yumio/repotest.h"
 #include "yumio/yumio.h"
@@ -60,38 +60,12 @@ TestRow::TestRow(QWidget *parent) : QWidget(parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_button, 0, Qt::AlignTop);
-    row->addWidget(createProgress(), 1);
+    m_progress = new JobProgress(QStringLiteral("test"), tr("C&ancel Test"),
+                                 tr("Stops the test; the dialog stays open"), this);
+    row->addWidget(m_progress, 1);
     row->addWidget(m_result, 1);
     row->addStretch();
     hide();
-}
-
-QWidget *TestRow::createProgress()
-{
-    m_progress = new QWidget(this);
-    m_totalBar = new HProgressBar(m_progress);
-    m_totalBar->setObjectName(QStringLiteral("testTotalBar"));
-    m_totalBar->setAccessibleName(tr("Total progress"));
-    m_itemBar = new HProgressBar(m_progress);
-    m_itemBar->setObjectName(QStringLiteral("testItemBar"));
-    m_itemBar->setAccessibleName(tr("Progress of the current step"));
-    // A URL of any length is its text.
-    for (HProgressBar *bar : {m_totalBar, m_itemBar})
-        bar->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_cancelButton = new QPushButton(tr("C&ancel Test"), m_progress);
-    m_cancelButton->setObjectName(QStringLiteral("cancelTestButton"));
-    m_cancelButton->setToolTip(tr("Stops the test; the dialog stays open"));
-    m_cancelButton->setAutoDefault(false);
-    connect(m_cancelButton, &QPushButton::clicked, this, &TestRow::cancel);
-    auto *bars = new QVBoxLayout;
-    bars->addWidget(m_totalBar);
-    bars->addWidget(m_itemBar);
-    auto *row = new QHBoxLayout(m_progress);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addLayout(bars, 1);
-    row->addWidget(m_cancelButton);
-    m_progress->hide();
-    return m_progress;
 }
 
 void TestRow::setEngine(YumIO *yumIO, JobRunner runner)
@@ -104,14 +78,13 @@ void TestRow::test(const QString &section)
 {
     if (m_testing || !m_yumIO || !m_runJob)
         return;
-    setTesting(true);
+    m_testing = true;
+    m_outdated = false;
+    m_result->hide();
     std::optional<QList<RepoAnswer>> answers;
-    QString said;
-    const YumIO::Surface surface = m_yumIO->exchangeSurface({window(), m_totalBar, m_itemBar});
-    const bool ran = m_runJob(
-        [&] { said = m_yumIO->withoutBoxes([&] { answers = m_yumIO->testRepository(section); }); });
-    m_yumIO->exchangeSurface(surface);
-    setTesting(false);
+    const auto [ran, said] = m_progress->run(
+        m_yumIO, m_runJob, [&] { answers = m_yumIO->testRepository(section); }, m_button);
+    m_testing = false;
     if (answers)
         showAnswers(*answers, hasOptionPasswords(section));
     else if (!ran)
@@ -122,27 +95,9 @@ void TestRow::test(const QString &section)
         showResult(maskPasswords(said), Colors::makeError(palette()));
 }
 
-void TestRow::setTesting(bool testing)
-{
-    m_testing = testing;
-    // The focus goes with the control before that is hidden or disabled.
-    QPushButton *former = testing ? m_button : m_cancelButton;
-    QPushButton *next = testing ? m_cancelButton : m_button;
-    if (testing) {
-        m_outdated = false;
-        m_result->hide();
-        m_progress->show();
-    }
-    next->setEnabled(true);
-    if (former->hasFocus())
-        next->setFocus();
-    former->setEnabled(false);
-    m_progress->setVisible(testing);
-}
-
 void TestRow::cancel()
 {
-    m_yumIO->cancel();
+    m_progress->cancel();
 }
 
 void TestRow::outdate()

@@ -5,8 +5,8 @@
 #include <QList>
 #include <QWidget>
 
-class HProgressBar;
 class HTextEdit;
+class JobProgress;
 class QPalette;
 class QPushButton;
 class YumIO;
@@ -37,8 +37,6 @@ Q_SIGNALS:
     void testAsked();
 
 private:
-    QWidget *createProgress();
-    void setTesting(bool testing);
     void showAnswers(const QList<RepoAnswer> &answers, bool hasPassword);
     void showResult(const QString &text, const QPalette &palette);
     static QString textOf(const RepoAnswer &answer, bool hasPassword);
@@ -49,10 +47,7 @@ private:
     bool m_outdated = false;
     QPushButton *m_button = nullptr;
     HTextEdit *m_result = nullptr;
-    QWidget *m_progress = nullptr;
-    HProgressBar *m_totalBar = nullptr;
-    HProgressBar *m_itemBar = nullptr;
-    QPushButton *m_cancelButton = nullptr;
+    JobProgress *m_progress = nullptr;
 };
 
 } // namespace RepoEditor

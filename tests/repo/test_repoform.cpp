@@ -257,7 +257,7 @@ private Q_SLOTS:
         QVERIFY(test(u"http://page"_s, [&] { form.type("repoName", u"x"_s); })
                     .startsWith(u"This is of the repository before the last changes.\n"
                                 "The repository cannot be reached.\nWhat http://page has"_s));
-        QCOMPARE(test(u"http://wait"_s, [&] { form.press("cancelTestButton"); }),
+        QCOMPARE(test(u"http://wait"_s, [&] { form.press("testCancelButton"); }),
                  u"The test was cancelled."_s);
         QVERIFY(form.field<QWidget>("testButton")->hasFocus() && form.dialog.isVisible());
         bool stayed = false; // until the job ended
