@@ -306,11 +306,9 @@ void Config::disable()
 // All but the credentials, whose fields go by what the URLs hold.
 void Config::setEnabled(bool enabled)
 {
-    for (QWidget *field : {static_cast<QWidget *>(m_id), static_cast<QWidget *>(m_name),
-                           static_cast<QWidget *>(m_urls), static_cast<QWidget *>(m_mirrorList),
-                           static_cast<QWidget *>(m_enabled), static_cast<QWidget *>(m_gpgcheck),
-                           static_cast<QWidget *>(m_otherOptions), static_cast<QWidget *>(m_file),
-                           static_cast<QWidget *>(m_position)})
+    for (QWidget *field :
+         std::initializer_list<QWidget *>{m_id, m_name, m_urls, m_mirrorList, m_enabled, m_gpgcheck,
+                                          m_otherOptions, m_file, m_position})
         field->setEnabled(enabled);
 }
 
