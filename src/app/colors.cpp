@@ -12,7 +12,8 @@ QPalette withBase(QPalette palette, const QColor &color)
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         const QColor text = palette.color(group, QPalette::Text);
         palette.setColor(group, QPalette::Base, color);
-        palette.setColor(group, QPalette::Text, Colors::readable(text, color));
+        if (Colors::readable(text, color) != text)
+            palette.setColor(group, QPalette::Text, Colors::isDark(color) ? Qt::white : Qt::black);
     }
     return palette;
 }
