@@ -381,8 +381,10 @@ void MainWindow::apply()
     if (m_yumIO->apply()) {
         checkCredentials();
         recollect(Refresh::AfterApply);
-    } else if (askToRefresh()) {
-        recollect();
+    } else {
+        tellRefused();
+        if (askToRefresh())
+            recollect();
     }
     warnUnlistedActions();
     stateChanged(-1);

@@ -88,33 +88,13 @@ bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed)
     const PyRef result(pyMethodCall(m_session.yumIO, "setupRepos", "()"));
     if (pyExceptMatches(result.get(), m_script.exceptionTypes[RepoError]) ||
         pyExceptMatches(result.get(), m_script.exceptionTypes[BdbQuit]))
-        failSetup();
+        pythonExceptionV(tr("Unable to initialize"));
     pyExceptClear();
     if (!result)
         return false;
     m_progress->endItemActs();
     m_session.basearch = getYumVar(QStringLiteral("basearch"));
     return true;
-}
-
-// Reports the pending exception, unless it is one that the caller of collect() shows.
-void YumIO::failSetup()
-{
-    if (m_refused.isEmpty() || m_refused.constLast().text != exceptionText()) {
-        pythonExceptionV(tr("Unable to initialize"));
-        return;
-    }
-    log(Log::Kind::Error, 0, tr("Unable to initialize"));
-    log(Log::Kind::Error, 0, exceptionText());
-}
-
-PyObject *YumIO::credentialsRefused(PyObject *, PyObject *args)
-{
-    const char *id, *text;
-    if (!PyArg_ParseTuple(args, "ss", &id, &text))
-        return nullptr;
-    m_refused.append({QString::fromUtf8(id), QString::fromUtf8(text)});
-    Py_RETURN_NONE;
 }
 
 bool YumIO::useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed)

@@ -145,6 +145,12 @@ bool YumIO::isCancellation() const
     return false;
 }
 
+// True when the pending exception tells what the job's caller shows.
+bool YumIO::isRefusal()
+{
+    return m_tellsRefused && !m_refused.isEmpty() && m_refused.constLast().text == exceptionText();
+}
+
 bool YumIO::commExceptRaised(PyObject *result, const QString &what)
 {
     if (!result && isCancellation()) {
@@ -175,8 +181,12 @@ bool YumIO::commExceptRaised(PyObject *result, const QString &what)
                  "When reporting this issue, please include the contents of the\n"
                  "Log window, which should contain a walkback."));
     } else if (raised(m_script.exceptionTypes[NoMoreMirrorsRepoError])) {
-        error(tr("Unable to %1: metadata unavailable from all repo mirrors:\n%2")
-                  .arg(what, exceptionText()));
+        const QString text = tr("Unable to %1: metadata unavailable from all repo mirrors:\n%2")
+                                 .arg(what, exceptionText());
+        if (isRefusal())
+            log(Log::Kind::Error, 0, text);
+        else
+            error(text);
     } else if (raised(m_script.exceptionTypes[RepoError]) ||
                raised(m_script.exceptionTypes[SqliteOperationalError])) {
         if (exceptionText().contains(QLatin1String("database is locked"))) {
@@ -240,6 +250,13 @@ void YumIO::pythonExceptionV(const QString &text)
 {
     if (isCancellation()) {
         log(Log::Kind::Warning, 0, exceptionText());
+        return;
+    }
+    if (isRefusal()) {
+        if (m_progress)
+            m_progress->reset();
+        log(Log::Kind::Error, 0, exceptionText());
+        log(Log::Kind::Error, 0, text);
         return;
     }
     // Both lines belong to the report, so the mark is set before the first when there is none.

@@ -194,6 +194,14 @@ void YumIO::execWorkThread(QEventLoop &loop, QThread &thread)
     Q_EMIT jobState(QStringLiteral("done"), false);
 }
 
+void YumIO::execTellingRefused(QEventLoop &loop, QThread &thread)
+{
+    m_refused.clear();
+    m_tellsRefused = true;
+    execWorkThread(loop, thread);
+    m_tellsRefused = false;
+}
+
 void YumIO::blockerRelease()
 {
     m_blocker.release();
@@ -204,10 +212,9 @@ bool YumIO::collect(const QHash<QString, bool> &reposUsed)
     m_session.fileLists = false;
     m_session.otherData = false;
     m_search = {};
-    m_refused.clear();
     QEventLoop loop;
     CollectThread thread(this, loop, reposUsed);
-    execWorkThread(loop, thread);
+    execTellingRefused(loop, thread);
     if (thread.result())
         publishEntries();
     else if (m_former.yumIO)
@@ -221,7 +228,7 @@ bool YumIO::apply()
 {
     QEventLoop loop;
     ApplyThread thread(this, loop);
-    execWorkThread(loop, thread);
+    execTellingRefused(loop, thread);
     m_session.spent = m_session.spent || thread.result();
     return thread.result();
 }

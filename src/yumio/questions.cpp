@@ -47,6 +47,16 @@ PyObject *YumIO::lockWait(PyObject *, PyObject *args)
     return PyLong_FromLong(wait ? 1 : 0);
 }
 
+PyObject *YumIO::credentialsRefused(PyObject *, PyObject *args)
+{
+    const char *id, *text;
+    if (!PyArg_ParseTuple(args, "ss", &id, &text))
+        return nullptr;
+    if (m_tellsRefused)
+        m_refused.append({QString::fromUtf8(id), QString::fromUtf8(text)});
+    Py_RETURN_NONE;
+}
+
 PyObject *YumIO::keyQuestion(PyObject *, PyObject *args)
 {
     const char *id, *user, *fingerprint, *source;

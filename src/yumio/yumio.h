@@ -103,8 +103,8 @@ public:
 
     // Jobs: each runs on a worker thread while a local event loop serves the GUI thread.
     bool collect(const QHash<QString, bool> &reposUsed);
-    // The repositories whose servers refused, in the last collection, the user name and the password
-    // that they were given. The engine shows no box of these: that is the caller's.
+    // The repositories whose servers refused, in the last collection or apply, the user name and the
+    // password that they were given. The engine shows no box of these: that is the caller's.
     const QList<Engine::RefusedRepo> &refusedRepos() const { return m_refused; }
     bool collectFileLists();
     bool collectOtherData();
@@ -265,6 +265,7 @@ private:
 
     // lifecycle.cpp
     void execWorkThread(QEventLoop &loop, QThread &thread);
+    void execTellingRefused(QEventLoop &loop, QThread &thread);
     void flush();
     void clearEntriesReal();
     void dropFormer();
@@ -295,7 +296,6 @@ private:
                               const QString &family);
     bool useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed);
     QStringList collectRepos(PyObject *reposDict);
-    void failSetup();
     bool collectField(EntryHash &hash, PyObject *all, const char *field, Package::State state);
     bool collectSet(EntryHash &hash, PyObject *iterable, Package::State state);
     bool collectPkg(Package::Entry *&slot, Package::State state, PyObject *po);
@@ -459,6 +459,7 @@ private:
     void reportPending(const QString &what);
     QString exceptionText();
     bool isCancellation() const;
+    bool isRefusal();
     void walkback();
     QString errorLinesSince(qsizetype start);
     void pythonException(const QString &text);
@@ -543,6 +544,7 @@ private:
     Engine::Store m_store;
     Engine::Search m_search;
     QList<Engine::RefusedRepo> m_refused;
+    bool m_tellsRefused = false;          // the caller of the running job shows these
     std::atomic<bool> m_clearing = false; // no row is seen
     const Package::EntryList m_noEntries = {};
 

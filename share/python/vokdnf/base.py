@@ -78,8 +78,7 @@ def _load(repo):
                          + ["  " + certificates.explain(failure, repo) for failure in callbacks.failures
                             or [root.shown(address) for address in repo.baseurl]])
         text += full_cache(repo.basecachedir)
-        if credentials.refused(repo, text):
-            report.credentials_refused(repo.id, text)
+        credentials.tell_refused(repo, text, text)
         if not repo.skip_if_unavailable:
             raise Errors.RepoError(text) from error
         report.errorlog(0, "%s\nThe repository is left out." % text)

@@ -160,12 +160,13 @@ class PackagePayload(dnf.repo.RPMPayload):
 
 
 class PackageProgress(dnf.callback.DownloadProgress):
-    """DNF's reports about the packages of a transaction. `cancelled` and `failures` (texts) tell
-    afterwards what went wrong."""
+    """DNF's reports about the packages of a transaction. `cancelled`, `failures` (texts) and
+    `refusals` (texts by repository) tell afterwards what went wrong."""
 
     def __init__(self):
         self.cancelled = False
         self.failures = []
+        self.refusals = {}
         self._meters = {}   # payload: [meter id, size, bytes so far]
         self._started = False
         self._rebuilding = False
@@ -193,6 +194,7 @@ class PackageProgress(dnf.callback.DownloadProgress):
             text = report.clean(msg or "download failed")
             if not self.cancelled:
                 self.failures.append("%s: %s" % (meter[0], text))
+                self.refusals.setdefault(payload.pkg.repo, []).append(text)
                 report.yumIOC.applyGrabMeterFailure(meter[0], text)
             if status == dnf.callback.STATUS_MIRROR:
                 meter[2] = 0

@@ -12,8 +12,8 @@ import rpm
 
 from yum import Errors
 
-from . import display, elements, errors, groups, interrupted, keys, language, locks, meters, outcome
-from . import packages, report, resolve, root, unlisted, waiting
+from . import credentials, display, elements, errors, groups, interrupted, keys, language, locks, meters
+from . import outcome, packages, report, resolve, root, unlisted, waiting
 from .base import full_cache
 
 
@@ -127,8 +127,10 @@ class Transaction:
             lines = [report.told(error)] + [text for text in dict.fromkeys(progress.failures)
                                              if text not in report.clean(error)
                                              and "No more mirrors" not in text]
-            raise Errors.NoMoreMirrorsRepoError(
-                "\n".join(lines) + full_cache(base.conf.cachedir)) from error
+            text = "\n".join(lines) + full_cache(base.conf.cachedir)
+            for repo, refusals in progress.refusals.items():
+                credentials.tell_refused(repo, "\n".join(refusals), text)
+            raise Errors.NoMoreMirrorsRepoError(text) from error
         finally:
             progress.finish()
 
