@@ -8,6 +8,7 @@
 #include "repo/passwdlineedit.h"
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QSettings>
 
@@ -125,6 +126,8 @@ private Q_SLOTS:
         form.open(&form.root.entry(u"one"_s));
         QCOMPARE(form.field<QComboBox>("enabled")->itemText(1), u"Default (Yes)"_s);
         QCOMPARE(form.field<QComboBox>("gpgcheck")->itemText(1), u"Default (No)"_s);
+        QCOMPARE(form.field("file")->text(), form.root.repo(u"one"_s));
+        QCOMPARE(form.field<QDoubleSpinBox>("position")->value(), 1.0);
         QVERIFY(!form.field("authName")->isEnabled());
         QVERIFY(!form.field<QWidget>("resetButton")->isEnabled());
         form.type("mirrorList", url);
