@@ -220,6 +220,7 @@ private Q_SLOTS:
                                 u"a=b\nexlcude=1\nno: x\nkeeppackages=1\npassword=hush\n"_s);
         options->moveCursor(QTextCursor::End);
         QTest::keyClick(options, Qt::Key_Up);
+        QTest::keyClick(options, Qt::Key_End);
         QVERIFY(hidden());
         QTest::keyClicks(options, u"x"_s);
         QVERIFY(!hidden());
