@@ -44,7 +44,7 @@ struct Form
     {
         root.put(root.mainFile(), "[main]\n");
         root.put(root.repo(u"one"_s), "[one]\nname=One\nbaseurl=http://h/x\nexlcude=1\n"
-                                      "no: x\nkeeppackages=1\npassword=hush\n");
+                                      "no: x\nword=1\npassword=hush\n");
         root.put(root.repo(u"two"_s), "[two]\nbaseurl=http://h/y\n");
         root.io.read(nullptr);
     }
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(form.root.io.write(nullptr));
         QCOMPARE(form.root.get(form.root.repo(u"one"_s)),
                  "[one]\nname=Uno\nbaseurl=http://h/x\nmirrorlist=" + url.toUtf8() +
-                     "\nenabled=1\nexlcude=1\nno: x\nkeeppackages=1\npassword=hush\n");
+                     "\nenabled=1\nexlcude=1\nno: x\nword=1\npassword=hush\n");
 
         form.open(&form.root.entry(u"two"_s));
         auto *notice = form.field<QLabel>("fileNotice");
@@ -216,8 +216,8 @@ private Q_SLOTS:
         options->moveCursor(QTextCursor::Start);
         QTest::keyClicks(options, u"a=b"_s);
         QTest::keyClick(options, Qt::Key_Return);
-        QVERIFY(hidden() && options->realPlainText() ==
-                                u"a=b\nexlcude=1\nno: x\nkeeppackages=1\npassword=hush\n"_s);
+        QVERIFY(hidden() &&
+                options->realPlainText() == u"a=b\nexlcude=1\nno: x\nword=1\npassword=hush\n"_s);
         options->moveCursor(QTextCursor::End);
         QTest::keyClick(options, Qt::Key_Up);
         QTest::keyClick(options, Qt::Key_End);
@@ -241,7 +241,7 @@ private Q_SLOTS:
         QCOMPARE(form.field<QLabel>("optionHints")->text(),
                  u"DNF does not know the option exlcude.  Is exclude meant?\n"
                  "DNF leaves out the whole file for a line without \"=\": no: x\n"
-                 "DNF does not know the option keeppackages."_s);
+                 "DNF does not know the option word."_s);
         const auto test = [&](const QString &urls, const std::function<void()> &meanwhile) {
             form.type("urls", urls);
             QTimer::singleShot(0, &form.dialog, meanwhile);
