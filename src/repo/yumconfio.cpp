@@ -86,11 +86,16 @@ bool YumConfIO::losesReaders(const QString &path) const
            (status.st_mode & S_IROTH);
 }
 
-void YumConfIO::error(const QString &message)
+void YumConfIO::error(const QString &message, const QString &more) const
 {
     const int code = errno;
+    if (m_fault) {
+        *m_fault = message;
+        return;
+    }
+    const QString text = tr("%1; errno = %2 (%3).")
+                             .arg(maskPasswords(RootPath::shown(message)), QString::number(code),
+                                  QString::fromLocal8Bit(strerror(code)));
     showMessageBox(QMessageBox::Critical, m_parent, tr("VOK Repository Editor Error"),
-                   tr("%1; errno = %2 (%3).")
-                       .arg(maskPasswords(RootPath::shown(message)), QString::number(code),
-                            QString::fromLocal8Bit(strerror(code))));
+                   more.isEmpty() ? text : text + QStringLiteral("\n\n") + RootPath::shown(more));
 }

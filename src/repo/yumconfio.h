@@ -40,13 +40,30 @@ public:
     // The files that the last read() left out, to be shown. Nothing is written while there are any.
     const QStringList &unreadable() const { return m_unreadable; }
     // Checks, asks, writes all files and removes those that hold no repository any more. False when
-    // the user declined, and then `repos` is as it was, or when a failure was shown; what was
-    // written until then stays written.
+    // the user declined, or when it was shown why nothing or not everything was written; what was
+    // written until then stays written, and `repos` is as it was.
     bool write(QWidget *parent);
     // What a file holds of a repository.
     static QString sectionText(const Repo::Entry &entry);
     // Whether a password stands in one of its fields.
     static bool carriesPassword(const Repo::Entry &entry);
+
+    // What write() would make of one file, as text.
+    struct FileChange
+    {
+        QString path;
+        bool existed = false;
+        bool removed = false;
+        QString before, after;
+    };
+    struct Preview
+    {
+        QStringList refusals;      // why nothing would be written; empty when it would
+        QStringList notes;         // what is worth knowing before
+        QList<FileChange> changes; // only of files that would be other ones afterwards
+    };
+    // Asks and touches nothing.
+    Preview preview();
     // Whether others can read the file, and cannot any more once it has its first password.
     bool losesReaders(const QString &path) const;
 
@@ -88,6 +105,30 @@ private:
     {
         QString path;
         QList<Repo::Entry> entries;
+        QByteArray bytes = {};  // as it is to be
+        FileState state = {};   // once it is so
+        bool existed = false;   // as it is on the disk
+        QByteArray before = {}; // the same; not known when it cannot be read
+
+        bool isChange() const { return !existed || bytes != before; }
+    };
+
+    // A write in memory.
+    struct Plan
+    {
+        QList<Repo::Entry> list; // the repositories afterwards
+        QList<FileContent> contents;
+        QSet<QString> used; // the paths of files with repositories
+        QStringList refusals;
+        QStringList notes;
+    };
+
+    // What the reader makes of the bytes of one file.
+    struct ReadBack
+    {
+        QList<Repo::Entry> repos;
+        QString mainText;
+        QString fault;
     };
 
     using File = std::unique_ptr<FILE, int (*)(FILE *)>;
@@ -111,17 +152,34 @@ private:
     static void cleanupRead(Repo::Entry &entry);
     void applyUsedOptions(const Repo::Entry &entry);
 
+    static FileState stateOf(const QByteArray &bytes);
+    static QString toText(const QByteArray &bytes);
+    ReadBack readBack(const QByteArray &bytes, bool isMain) const;
+
+    Plan makePlan();
+    static void normalise(Repo::Entry &entry);
     void cleanupWrite(QList<Repo::Entry> &list) const;
-    bool checkErrors(QList<Repo::Entry> &list);
+    QList<FileContent> sortedContents(QList<Repo::Entry> sorted) const;
+    void render(FileContent &content);
+    QByteArray bytesOf(const FileContent &content, bool latin1, bool bom);
+    void put(FILE *file, const QString &text) const;
+    bool writeContents(const QList<FileContent> &contents);
+    bool writeFile(const FileContent &content);
+    QStringList unusedFiles(const QSet<QString> &usedFiles, bool *failed) const;
+    bool removeUnusedFiles(const QSet<QString> &usedFiles);
+
     static bool hasEmptyId(const QList<Repo::Entry> &list);
     static QString getDuplicateId(const QList<Repo::Entry> &list);
-    QList<FileContent> sortedContents(QList<Repo::Entry> sorted) const;
-    bool checkChangedOnDisk(const QList<FileContent> &contents, const QSet<QString> &used);
-    bool writeFile(const FileContent &content);
-    void put(FILE *file, const QString &text) const;
-    bool removeUnusedFiles(const QSet<QString> &usedFiles);
+    static QStringList checkErrors(QList<Repo::Entry> &list);
+    QStringList refusals(const FileContent &content);
+    QString refusal(const Repo::Entry &entry, const QString &path);
+    QStringList warnings(const QList<Repo::Entry> &list) const;
+    QStringList changedOnDisk(const Plan &plan) const;
+    static QString changedOnDiskNote(const QStringList &files);
+
     bool ask(const QString &question);
-    void error(const QString &message);
+    // `more` is shown behind the reason.
+    void error(const QString &message, const QString &more = QString()) const;
 
     QString m_mainText; // the main file up to its first repository section
     QPointer<QWidget> m_parent;
@@ -129,4 +187,6 @@ private:
     bool m_latin1 = false;      // how the file at hand is decoded and encoded
     QHash<QString, FileState> m_files;
     QStringList m_unreadable;
+    QList<Repo::Entry> m_asRead; // or as last written
+    QString *m_fault = nullptr;  // where given, failures go there and are not shown
 };

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
@@ -22,12 +23,14 @@ bool isNullDevice(const struct stat &status)
     return S_ISCHR(status.st_mode) && status.st_rdev == makedev(1, 3);
 }
 
+constexpr char byteOrderMark[] = "\xef\xbb\xbf";
+
 QString decode(const QByteArray &line, bool latin1)
 {
     if (latin1)
         return QString::fromLatin1(line);
     // Only a file can begin with a byte order mark, not a line.
-    if (line.startsWith("\xef\xbb\xbf")) {
+    if (line.startsWith(byteOrderMark)) {
         QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
         return decoder(line);
     }
@@ -67,6 +70,15 @@ YumConfIO::OpenResult YumConfIO::openForReading(const QString &path, const QByte
     return Failed;
 }
 
+YumConfIO::FileState YumConfIO::stateOf(const QByteArray &bytes)
+{
+    FileState state;
+    state.digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+    state.latin1 = !bytes.isValidUtf8();
+    state.bom = !state.latin1 && bytes.startsWith(byteOrderMark);
+    return state;
+}
+
 // Looks at the whole file before its lines are read: what it is encoded in shows nowhere else.
 YumConfIO::FileState YumConfIO::examine(FILE *file)
 {
@@ -79,12 +91,7 @@ YumConfIO::FileState YumConfIO::examine(FILE *file)
         bytes.append(block.constData(), got);
         offset += got;
     }
-    FileState state;
-    state.digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
-    state.bom = bytes.startsWith("\xef\xbb\xbf");
-    state.latin1 = !bytes.isValidUtf8();
-    if (state.latin1)
-        state.bom = false;
+    const FileState state = stateOf(bytes);
     if (state.bom)
         fseek(file, 3, SEEK_SET);
     return state;
@@ -97,6 +104,7 @@ bool YumConfIO::read(QWidget *parent)
     m_pendingLines.clear();
     m_files.clear();
     m_unreadable.clear();
+    m_asRead.clear();
     cachedir = QStringLiteral("/var/cache/yum");
     reposdirs = {QStringLiteral("/etc/yum.repos.d"), QStringLiteral("/etc/yum/repos.d")};
     mainEnabled = true;
@@ -109,6 +117,7 @@ bool YumConfIO::read(QWidget *parent)
         if (!readReposDir(directory))
             return false;
     }
+    m_asRead = repos;
     Q_EMIT changed();
     return true;
 }
@@ -179,6 +188,36 @@ void YumConfIO::noteRead(const QString &path, FileState state, qsizetype firstRe
         state.secret = state.secret || carriesPassword(repos.at(i));
     }
     m_files.insert(path, state);
+}
+
+QString YumConfIO::toText(const QByteArray &bytes)
+{
+    const FileState state = stateOf(bytes);
+    return decode(state.bom ? bytes.sliced(3) : bytes, state.latin1);
+}
+
+YumConfIO::ReadBack YumConfIO::readBack(const QByteArray &bytes, bool isMain) const
+{
+    ReadBack result;
+    const QList<YumRepoEnabled> requests;
+    QHash<QString, bool> used;
+    YumConfIO reader(requests, used);
+    reader.m_fault = &result.fault;
+    const FileState state = stateOf(bytes);
+    reader.m_latin1 = state.latin1;
+    QByteArray rest = state.bom ? bytes.sliced(3) : bytes;
+    if (!rest.isEmpty()) {
+        const File file(fmemopen(rest.data(), size_t(rest.size()), "r"), fclose);
+        if (!file)
+            result.fault = QString::fromLocal8Bit(strerror(errno));
+        else if (isMain)
+            reader.readConfFile(file.get());
+        else
+            reader.readRepoFile(file.get(), QString());
+    }
+    result.repos = reader.repos;
+    result.mainText = reader.m_mainText;
+    return result;
 }
 
 bool YumConfIO::readConfFile(FILE *file)

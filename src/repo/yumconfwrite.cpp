@@ -5,7 +5,7 @@
 #include "widgets/messagebox.h"
 #include "yumio/passwordsintext.h"
 
-#include <QCryptographicHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -14,15 +14,7 @@
 
 namespace {
 
-constexpr int shownFiles = 20;          // of the files that a question lists
-constexpr int shownIdents = 1000;       // of the identifiers that a question lists
 constexpr char mark[] = "\xef\xbb\xbf"; // the byte order mark
-
-bool isDirectory(const QString &path)
-{
-    struct stat status;
-    return RootPath::status(path, status) && S_ISDIR(status.st_mode);
-}
 
 bool fitsLatin1(const QString &text)
 {
@@ -35,12 +27,57 @@ bool fitsLatin1(const Repo::Entry &entry)
            fitsLatin1(entry.mirrorlist) && fitsLatin1(entry.otherOptions);
 }
 
-QByteArray digestOf(const QByteArray &bytes)
+QString listed(const QString &heading, const QStringList &paths)
 {
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+    return paths.isEmpty() ? QString() : heading + QLatin1Char('\n') + paths.join(u'\n');
 }
 
 } // namespace
+
+YumConfIO::Plan YumConfIO::makePlan()
+{
+    Plan plan;
+    plan.list = repos;
+    plan.notes = checkErrors(plan.list);
+    cleanupWrite(plan.list);
+    plan.notes += warnings(plan.list);
+
+    plan.contents = sortedContents(plan.list);
+    for (const FileContent &content : std::as_const(plan.contents))
+        plan.used.insert(content.path);
+    const QString main = fileName();
+    if (!plan.used.contains(main))
+        plan.contents.append({main, {}});
+    for (FileContent &content : plan.contents) {
+        render(content);
+        plan.refusals += refusals(content);
+    }
+    return plan;
+}
+
+YumConfIO::Preview YumConfIO::preview()
+{
+    const Plan plan = makePlan();
+    Preview preview{plan.refusals, plan.notes, {}};
+    const QStringList changed = changedOnDisk(plan);
+    if (!changed.isEmpty())
+        preview.notes += changedOnDiskNote(changed);
+    for (const FileContent &content : plan.contents) {
+        if (content.state.secret && losesReaders(content.path))
+            preview.notes += tr("%1 gets its first password, and other users of this computer can "
+                                "no longer read it.")
+                                 .arg(RootPath::shown(content.path));
+        if (content.isChange())
+            preview.changes.append({content.path, content.existed, false, toText(content.before),
+                                    toText(content.bytes)});
+    }
+    for (const QString &path : unusedFiles(plan.used, nullptr)) {
+        QByteArray bytes;
+        WholeFile::read(RootPath::target(path), bytes);
+        preview.changes.append({path, true, true, toText(bytes), QString()});
+    }
+    return preview;
+}
 
 bool YumConfIO::write(QWidget *parent)
 {
@@ -51,37 +88,101 @@ bool YumConfIO::write(QWidget *parent)
                   .arg(m_unreadable.join(u'\n')));
         return false;
     }
-    QList<Repo::Entry> list = repos;
-    if (!checkErrors(list))
+    const Plan plan = makePlan();
+    if (!plan.refusals.isEmpty()) {
+        showMessageBox(QMessageBox::Critical, m_parent, tr("VOK Repository Editor Error"),
+                       tr("Nothing is written, because it would not be read as it is meant:\n\n%1")
+                           .arg(plan.refusals.join(u'\n')));
         return false;
-    cleanupWrite(list);
-
-    QList<FileContent> contents = sortedContents(list);
-    QSet<QString> used;
-    for (const FileContent &content : std::as_const(contents))
-        used.insert(content.path);
-    const QString main = fileName();
-    if (!used.contains(main))
-        contents.append({main, {}});
-    if (!checkChangedOnDisk(contents, used))
-        return false;
-    repos = list;
-
-    for (const FileContent &content : std::as_const(contents)) {
-        if (!writeFile(content))
-            return false;
     }
-    removeUnusedFiles(used);
+    if (!plan.notes.isEmpty() && !ask(plan.notes.join(u'\n') + tr("  Proceed?")))
+        return false;
+    const QStringList changed = changedOnDisk(plan);
+    if (!changed.isEmpty() && !ask(changedOnDiskNote(changed) + tr("  Proceed?")))
+        return false;
+
+    if (!writeContents(plan.contents))
+        return false;
+    removeUnusedFiles(plan.used);
+    repos = m_asRead = plan.list;
     return true;
+}
+
+// False when it failed, which is shown with what is another file by then and what is not.
+bool YumConfIO::writeContents(const QList<FileContent> &contents)
+{
+    for (qsizetype at = 0; at < contents.size(); ++at) {
+        if (writeFile(contents.at(at)))
+            continue;
+        const int code = errno;
+        QStringList written, unwritten;
+        for (qsizetype i = 0; i < contents.size(); ++i) {
+            const FileContent &content = contents.at(i);
+            if (content.isChange())
+                (i < at ? written : unwritten) += content.path;
+        }
+        const QString more =
+            QStringList{listed(tr("Written before that:"), written),
+                        listed(tr("Not written, and still to be applied:"), unwritten)}
+                .join(QStringLiteral("\n\n"));
+        errno = code;
+        error(tr("Unable to write repository configuration file %1").arg(contents.at(at).path),
+              more.trimmed());
+        return false;
+    }
+    return true;
+}
+
+// What the reader would do to white space.
+void YumConfIO::normalise(Repo::Entry &entry)
+{
+    static const QRegularExpression blanks(QStringLiteral("^[ \t]+"));
+    entry.name.remove(blanks);
+    entry.mirrorlist.remove(blanks);
+    entry.baseurl.remove(blanks);
+    cleanupRead(entry);
+
+    const QStringList lines = entry.otherOptions.split(u'\n');
+    QString &options = entry.otherOptions;
+    options.clear();
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString &line = lines.at(i);
+        const QString next = lines.value(i + 1);
+        // An empty line that is continued is more than an empty line, and one of blanks continues
+        // the one above, if there is one.
+        const bool continued = next.startsWith(u' ') || next.startsWith(u'\t');
+        const bool drop = options.isEmpty() ? line.trimmed().isEmpty() : line.isEmpty();
+        if (!drop || (line.isEmpty() && continued && !next.trimmed().isEmpty()))
+            options += line + QLatin1Char('\n');
+    }
 }
 
 void YumConfIO::cleanupWrite(QList<Repo::Entry> &list) const
 {
+    // A file that is named in two ways is written once.
+    QHash<QByteArray, QString> names;
+    QStringList known = m_files.keys();
+    known.sort();
+    for (const QString &path : std::as_const(known)) {
+        QString &name = names[RootPath::target(path)];
+        name = name.isEmpty() ? path : name;
+    }
+    QHash<QString, QString> oneName;
     for (Repo::Entry &entry : list) {
+        normalise(entry);
+        if (!m_files.contains(entry.file))
+            entry.file = entry.file.trimmed();
         if (entry.file.isEmpty())
-            entry.file = entry.id + QLatin1String(".repo");
+            entry.file = QString(entry.id).replace(u'/', u'_') + QLatin1String(".repo");
         if (!entry.file.startsWith(u'/') && !reposdirs.isEmpty())
             entry.file = reposdirs.first() + QLatin1Char('/') + entry.file;
+        QString &path = oneName[entry.file];
+        if (path.isEmpty()) {
+            QString &name = names[RootPath::target(entry.file)];
+            name = name.isEmpty() ? entry.file : name;
+            path = name;
+        }
+        entry.file = path;
     }
 }
 
@@ -112,55 +213,61 @@ QList<YumConfIO::FileContent> YumConfIO::sortedContents(QList<Repo::Entry> sorte
     return contents;
 }
 
-bool YumConfIO::writeFile(const FileContent &content)
+// The file's bytes, as the reader will decode them.
+void YumConfIO::render(FileContent &content)
 {
     const bool isMain = content.path == fileName();
-    FileState state = m_files.value(content.path);
-    if (state.latin1) {
-        // What no longer fits makes the file a UTF-8 one.
-        state.latin1 = (!isMain || fitsLatin1(m_mainText)) &&
-                       std::all_of(content.entries.cbegin(), content.entries.cend(),
-                                   [](const Repo::Entry &entry) { return fitsLatin1(entry); });
-    }
-    m_latin1 = state.latin1;
+    const FileState known = m_files.value(content.path);
+    // What no longer fits makes the file a UTF-8 one, and so does what would be taken for one.
+    const bool fits = (!isMain || fitsLatin1(m_mainText)) &&
+                      std::all_of(content.entries.cbegin(), content.entries.cend(),
+                                  [](const Repo::Entry &entry) { return fitsLatin1(entry); });
+    const bool latin1 = known.latin1 && fits;
+    content.bytes = bytesOf(content, latin1, known.bom);
+    if (latin1 && content.bytes.isValidUtf8())
+        content.bytes = bytesOf(content, false, known.bom);
+    content.state = stateOf(content.bytes);
+    for (const Repo::Entry &entry : std::as_const(content.entries))
+        content.state.idents.insert(entry.id);
 
-    char *buffer = nullptr;
-    size_t size = 0;
-    FILE *file = open_memstream(&buffer, &size);
-    bool complete = file != nullptr;
-    if (file) {
-        if (state.bom)
-            fputs(mark, file);
-        if (isMain)
-            put(file, m_mainText);
-        for (qsizetype i = 0; i < content.entries.size(); ++i) {
-            if (i > 0)
-                fputc('\n', file);
-            writeRepo(file, content.entries.at(i));
-        }
-        complete = !ferror(file);
-        complete = fclose(file) == 0 && complete;
-    }
-    const QByteArray bytes(buffer, complete ? qsizetype(size) : 0);
-    free(buffer);
-
-    const bool secret =
+    content.state.secret =
         (isMain && hasOptionPasswords(m_mainText)) ||
         std::any_of(content.entries.cbegin(), content.entries.cend(),
                     [](const Repo::Entry &entry) { return carriesPassword(entry); });
-    const QByteArray target = RootPath::target(content.path);
-    const mode_t taken = secret && !state.secret ? S_IRWXO : 0;
-    if (!complete || target.isEmpty() ||
-        !WholeFile::replace(target, bytes, secret ? 0600 : 0644, taken)) {
-        error(tr("Unable to write repository configuration file %1").arg(content.path));
-        return false;
+    content.existed = WholeFile::read(RootPath::target(content.path), content.before);
+}
+
+QByteArray YumConfIO::bytesOf(const FileContent &content, bool latin1, bool bom)
+{
+    m_latin1 = latin1;
+    char *buffer = nullptr;
+    size_t size = 0;
+    FILE *file = open_memstream(&buffer, &size);
+    if (!file)
+        qFatal("no memory");
+    if (bom)
+        fputs(mark, file);
+    if (content.path == fileName())
+        put(file, m_mainText);
+    for (qsizetype i = 0; i < content.entries.size(); ++i) {
+        if (i > 0)
+            fputc('\n', file);
+        writeRepo(file, content.entries.at(i));
     }
-    state.digest = digestOf(bytes);
-    state.secret = secret;
-    state.idents.clear();
-    for (const Repo::Entry &entry : content.entries)
-        state.idents.insert(entry.id);
-    m_files.insert(content.path, state);
+    fclose(file);
+    const QByteArray bytes(buffer, qsizetype(size));
+    free(buffer);
+    return bytes;
+}
+
+bool YumConfIO::writeFile(const FileContent &content)
+{
+    const QByteArray target = RootPath::target(content.path);
+    const bool secret = content.state.secret;
+    const mode_t taken = secret && !m_files.value(content.path).secret ? S_IRWXO : 0;
+    if (target.isEmpty() || !WholeFile::replace(target, content.bytes, secret ? 0600 : 0644, taken))
+        return false;
+    m_files.insert(content.path, content.state);
     return true;
 }
 
@@ -198,117 +305,52 @@ QString YumConfIO::sectionText(const Repo::Entry &entry)
     return text + entry.otherOptions;
 }
 
-bool YumConfIO::removeUnusedFiles(const QSet<QString> &usedFiles)
+// The repository files that hold no repository any more. Where one cannot be looked at, none, which
+// is shown when `failed` is given.
+QStringList YumConfIO::unusedFiles(const QSet<QString> &usedFiles, bool *failed) const
 {
     // Two names may lead to one directory, and then to a file that was just written.
     QSet<QByteArray> written;
     for (const QString &file : usedFiles)
         written.insert(RootPath::entry(file));
 
-    for (const QString &directory : std::as_const(reposdirs)) {
+    QStringList unused;
+    for (const QString &directory : reposdirs) {
         for (const QString &path : repoFiles(directory)) {
             struct stat status;
             if (!RootPath::status(path, status)) {
-                error(tr("Unable to stat repository configuration file %1").arg(path));
-                return false;
+                if (failed) {
+                    error(tr("Unable to stat repository configuration file %1").arg(path));
+                    *failed = true;
+                }
+                return {};
             }
-            const QByteArray entry = RootPath::entry(path);
-            if (S_ISDIR(status.st_mode) || usedFiles.contains(path) || written.contains(entry))
-                continue;
-            if (!WholeFile::remove(entry)) {
-                error(tr("Unable to unlink repository configuration file %1").arg(path));
-                return false;
-            }
-            m_files.remove(path);
+            if (!S_ISDIR(status.st_mode) && !usedFiles.contains(path) &&
+                !written.contains(RootPath::entry(path)))
+                unused += path;
         }
     }
-    return true;
+    return unused;
 }
 
-// Asks before anything is lost that is on the disk and was not read: a file that was changed,
-// appeared or vanished meanwhile, or that an earlier failure kept from being read.
-bool YumConfIO::checkChangedOnDisk(const QList<FileContent> &contents, const QSet<QString> &used)
+bool YumConfIO::removeUnusedFiles(const QSet<QString> &usedFiles)
 {
-    QStringList files, changedFiles;
-    for (const FileContent &content : contents)
-        files += content.path;
-    for (const QString &directory : std::as_const(reposdirs)) {
-        for (const QString &path : repoFiles(directory)) {
-            if (!used.contains(path) && !isDirectory(path))
-                files += path;
+    bool failed = false;
+    QStringList unused = unusedFiles(usedFiles, &failed);
+    while (!unused.isEmpty()) {
+        const QString path = unused.first();
+        if (!WholeFile::remove(RootPath::entry(path))) {
+            error(
+                tr("Unable to unlink repository configuration file %1").arg(path),
+                listed(tr("Everything was written, but these files are not removed, and what they "
+                          "hold is still configured:"),
+                       unused));
+            return false;
         }
+        m_files.remove(path);
+        unused.removeFirst();
     }
-    for (const QString &path : std::as_const(files)) {
-        const auto known = m_files.constFind(path);
-        QByteArray bytes;
-        errno = 0;
-        const bool there = WholeFile::read(RootPath::target(path), bytes);
-        const bool gone = !there && errno == ENOENT;
-        const bool wasRead = known != m_files.cend();
-        if (there ? !wasRead || known->digest != digestOf(bytes) : gone && wasRead)
-            changedFiles += path;
-    }
-    if (changedFiles.isEmpty())
-        return true;
-
-    QString list = QStringList(changedFiles.mid(0, shownFiles)).join(u'\n');
-    if (changedFiles.size() > shownFiles)
-        list += QStringLiteral("\n...");
-    return ask(tr("These files are not as they were read; another program changed them, or they "
-                  "could not be read:\n\n%1\n\nWhat was changed there is lost when they are "
-                  "written or removed.  Proceed?")
-                   .arg(RootPath::shown(list)));
-}
-
-// Takes out of the list what cannot be written, when the user agrees.
-bool YumConfIO::checkErrors(QList<Repo::Entry> &list)
-{
-    QString message;
-    if (hasEmptyId(list))
-        message = tr("A repository has no Identifier.  It will be removed.");
-    const QString duplicates = getDuplicateId(list);
-    if (!duplicates.isEmpty()) {
-        if (!message.isEmpty())
-            message += QLatin1Char('\n');
-        message += tr("Two or more repositories have the same Identifier(s), %1.  Only one "
-                      "repository will be applied for each Identifier.")
-                       .arg(duplicates);
-    }
-    if (message.isEmpty())
-        return true;
-    if (!ask(message + tr("  Proceed?")))
-        return false;
-
-    QSet<QString> seen;
-    list.removeIf([&seen](const Repo::Entry &entry) {
-        const bool drop = entry.id.isEmpty() || seen.contains(entry.id);
-        seen.insert(entry.id);
-        return drop;
-    });
-    return true;
-}
-
-bool YumConfIO::hasEmptyId(const QList<Repo::Entry> &list)
-{
-    return std::any_of(list.cbegin(), list.cend(),
-                       [](const Repo::Entry &entry) { return entry.id.isEmpty(); });
-}
-
-// An identifier stands in the list once for each later repository that has it too.
-QString YumConfIO::getDuplicateId(const QList<Repo::Entry> &list)
-{
-    QHash<QString, int> later;
-    for (const Repo::Entry &entry : list)
-        ++later[entry.id];
-    QStringList duplicates;
-    for (const Repo::Entry &entry : list) {
-        for (int count = --later[entry.id]; count > 0; --count) {
-            if (duplicates.size() == shownIdents)
-                return duplicates.join(QLatin1String(", ")) + QLatin1String(", ...");
-            duplicates += entry.id;
-        }
-    }
-    return duplicates.join(QLatin1String(", "));
+    return !failed;
 }
 
 bool YumConfIO::ask(const QString &question)

@@ -464,7 +464,9 @@ private Q_SLOTS:
         QVERIFY(!root.io.write(nullptr));
         QCOMPARE(answer.said,
                  QStringList{u"Unable to write repository configuration file "
-                             "/missing/z.repo; errno = 2 (No such file or directory)."_s});
+                             "/missing/z.repo; errno = 2 (No such file or directory).\n\n"
+                             "Not written, and still to be applied:\n/missing/z.repo\n"_s +
+                             a});
         QCOMPARE(root.get(a), "[one]\n\n[two]\n");
         QVERIFY(root.has(root.repo(u"unused"_s)));
         root.entry(u"two"_s).file = b;
