@@ -4,6 +4,7 @@
 #include "configdialog.h"
 #include "editormenu.h"
 #include "editormodel.h"
+#include "editorpreview.h"
 #include "editorproxy.h"
 #include "editorview.h"
 #include "repobrowse.h"
@@ -447,7 +448,10 @@ void Dialog::ok()
         accept();
 }
 
-void Dialog::preview() {}
+void Dialog::preview()
+{
+    PreviewDialog(m_yumConfIO->preview(), this).exec();
+}
 
 void Dialog::setEntryToOldId(const QString &id)
 {
