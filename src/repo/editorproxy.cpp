@@ -17,8 +17,14 @@ SortFilterProxyModel::SortFilterProxyModel(Model *model, QObject *parent)
 
 void SortFilterProxyModel::setFilterText(const QString &text)
 {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+    beginFilterChange();
+    m_filterText = text;
+    endFilterChange();
+#else
     m_filterText = text;
     invalidateFilter();
+#endif
 }
 
 QVariant SortFilterProxyModel::data(const QModelIndex &index, int role) const
