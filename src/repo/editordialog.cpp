@@ -95,6 +95,10 @@ QHBoxLayout *Dialog::createFilter()
     row->addWidget(label);
     row->addWidget(m_filter);
     connect(m_filter, &QLineEdit::textChanged, m_proxy, &SortFilterProxyModel::setFilterText);
+    // Return here is not meant for the default button.
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down})
+        connect(new QShortcut(key, m_filter, nullptr, nullptr, Qt::WidgetShortcut),
+                &QShortcut::activated, m_view, qOverload<>(&QWidget::setFocus));
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_filter,
             qOverload<>(&QWidget::setFocus));
     return row;
@@ -219,7 +223,8 @@ void Dialog::setJobRunner(JobRunner runner)
 void Dialog::drop()
 {
     m_dropped = true;
-    m_configDialog->drop();
+    if (m_configDialog->isVisible())
+        m_configDialog->drop();
     done(Rejected);
 }
 

@@ -177,7 +177,7 @@ QStringList YumConfIO::warnings(const QList<Repo::Entry> &list) const
         const bool isNew = !before.contains(entry.id);
         const QString bad = isNew ? EntryCheck::identifierWarning(entry.id) : QString();
         if (!bad.isEmpty())
-            badIds += tr("%1: %2").arg(entry.id, bad);
+            badIds += tr("%1: %2.").arg(entry.id, bad);
         const QString folded = entry.id.toCaseFolded();
         const QString twin = byCase.value(folded, entry.id);
         byCase.insert(folded, entry.id);

@@ -1,0 +1,240 @@
+#include "configroot.h"
+#include "repo/configdialog.h"
+#include "repo/editordialog.h"
+#include "repo/editormodel.h"
+#include "repo/editorview.h"
+#include "repo/linediff.h"
+#include "repo/naturalorder.h"
+#include "rows.h"
+
+#include <QAbstractItemModelTester>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The editor on files, driven by keys and clicks.
+struct Editor
+{
+    explicit Editor(ConfigRoot &root) : dialog(nullptr, &root.io, nullptr)
+    {
+        dialog.show();
+        view = dialog.findChild<RepoEditor::View *>();
+        view->setFocus();
+    }
+    void press(const char *name) { dialog.findChild<QPushButton *>(QLatin1String(name))->click(); }
+    QString status() const { return dialog.findChild<QLabel *>(u"status"_s)->text(); }
+    void keys(QList<int> list)
+    {
+        for (const int key : list)
+            QTest::keyClick(view, Qt::Key(key & ~Qt::KeyboardModifierMask),
+                            Qt::KeyboardModifiers(key & Qt::KeyboardModifierMask));
+    }
+    // Types into the form that comes up, and presses its OK.
+    void fillForm(const QString &id)
+    {
+        QTimer::singleShot(0, &dialog, [this, id] {
+            auto *form = dialog.findChild<RepoEditor::ConfigDialog *>();
+            QTest::keyClicks(form->focusWidget(), id);
+            form->findChild<QPushButton *>(u"okButton"_s)->click();
+        });
+    }
+    QStringList shown() const
+    {
+        QStringList ids;
+        for (int row = 0; row < view->model()->rowCount(); ++row)
+            ids += view->model()->index(row, RepoEditor::IdColumn).data().toString();
+        return ids;
+    }
+
+    RepoEditor::Dialog dialog;
+    RepoEditor::View *view;
+};
+
+} // namespace
+
+class TestRepoEditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void naturalOrder_data()
+    {
+        columns<QString, QString, bool>("one", "two", "less");
+        row("number", "a9", "a10", true);
+        row("text first", "a10", "b1", true);
+        row("leading zeros", "a007", "a7", false);
+        row("after the number", "a2b", "a2c", true);
+        row("case by code", "B", "a", true);
+        row("beginning", "a", "a1", true);
+        row("other digits", "a\u0669", "a10", true);
+        row("too long is 0", "a99999999999999999999", "a1", true);
+    }
+
+    void naturalOrder()
+    {
+        QFETCH(QString, one);
+        QFETCH(QString, two);
+        QTEST(naturalLessThan(one, two), "less");
+        QVERIFY(!naturalLessThan(two, one));
+    }
+
+    void edits()
+    {
+        ConfigRoot root;
+        const QString a = root.repo(u"a"_s), b = root.repo(u"b"_s);
+        root.put(a, "# a\n[r10]\nbaseurl=http://one/\n\n[r9]\nenabled=0\n\n[r1]\nenabled=1\n");
+        root.put(b, "[B]\nname=Other\n");
+        const QByteArray before = root.get(a);
+        Editor editor(root);
+        const QAbstractItemModelTester proxyTester(editor.view->model());
+        QSignalSpy changed(&editor.dialog, &RepoEditor::Dialog::reposChanged);
+        QCOMPARE(editor.shown(), (QStringList{u"B"_s, u"r1"_s, u"r9"_s, u"r10"_s}));
+
+        // All selected rows get the state that the current one gets: r1 and r9 off, r10 as it was.
+        editor.keys({Qt::Key_Home, Qt::Key_Right, Qt::Key_Down});
+        editor.keys({Qt::Key_Down | int(Qt::ShiftModifier), Qt::Key_Down | int(Qt::ShiftModifier)});
+        editor.keys({Qt::Key_Space});
+        QCOMPARE(root.entry(u"r10"_s).enabled, Qt::Unchecked);
+        QCOMPARE(root.entry(u"r1"_s).enabled, Qt::Unchecked);
+        QCOMPARE(root.entry(u"B"_s).enabled, Qt::PartiallyChecked);
+        QCOMPARE(editor.status(), u"Unapplied Configuration Changes"_s);
+
+        editor.keys({Qt::Key_Delete});
+        QCOMPARE(editor.shown(), QStringList{u"B"_s});
+        QVERIFY(editor.status().contains(u"3 removed"_s));
+        editor.press("resetAllButton");
+        QCOMPARE(editor.shown().size(), 4);
+        QCOMPARE(editor.status(), QString());
+
+        // What is added is seen whatever was filtered, and where it is comes from its identifier.
+        auto *filter = editor.dialog.findChild<QLineEdit *>(u"filter"_s);
+        QTest::keyClicks(filter, u"HTTP://O"_s);
+        QCOMPARE(editor.shown(), QStringList{u"r10"_s});
+        editor.fillForm(u"new"_s);
+        editor.keys({Qt::Key_Insert});
+        QCOMPARE(filter->text(), QString());
+        QCOMPARE(editor.view->currentRow(), 4);
+        QCOMPARE(root.get(a), before);
+        editor.press("applyButton");
+        QCOMPARE(editor.view->currentRow(), -1);
+        QCOMPARE(root.get(root.repo(u"new"_s)), "[new]\n");
+        QCOMPARE(root.get(a), before.mid(4));
+
+        // Escape asks, and takes back only what was not applied.
+        editor.fillForm(u"more"_s);
+        editor.keys({Qt::Key_Insert});
+        Answer keepThenDiscard(QList<int>{1, 0});
+        QTest::keyClick(&editor.dialog, Qt::Key_Escape);
+        QVERIFY(editor.dialog.isVisible() && changed.isEmpty());
+        QTest::keyClick(&editor.dialog, Qt::Key_Escape);
+        QVERIFY(!editor.dialog.isVisible());
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(!root.has(root.repo(u"more"_s)));
+    }
+
+    void closes()
+    {
+        ConfigRoot root;
+        root.put(root.repo(u"a"_s), "[a]\n");
+        Editor editor(root);
+        QSignalSpy changed(&editor.dialog, &RepoEditor::Dialog::reposChanged);
+        const auto toggle = [&] {
+            QTest::mouseClick(editor.view->viewport(), Qt::LeftButton, {},
+                              editor.view->visualRect(editor.view->model()->index(0, 0)).center());
+            return root.used.value(u"a"_s);
+        };
+        QVERIFY(!toggle());
+        editor.press("okButton");
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(!root.has(root.mainFile() + u".vok-orig"_s)); // nothing was written
+        editor.dialog.show();
+        QVERIFY(toggle());
+        editor.press("cancelButton");
+        QVERIFY(changed.size() == 1 && !root.used.value(u"a"_s));
+        editor.dialog.show();
+        QVERIFY(toggle());
+        editor.dialog.drop();
+        QVERIFY(changed.size() == 1 && !editor.dialog.isVisible());
+    }
+
+    void badInput_data()
+    {
+        // said: of the box; written: the file afterwards, empty where nothing is written
+        columns<QString, QString, QString, QString>("id", "name", "others", "said");
+        QTest::addColumn<QByteArray>("written");
+        const QByteArray none;
+        row("white space", "n", " \tN", "\n  \n\nx=1\n\ny=2", "",
+            QByteArray("[n]\nname=N\nx=1\ny=2\n"));
+        row("blank", "a b", "", "", "DNF takes no Identifier with a blank", QByteArray("[a b]\n"));
+        row("slash", "a/b", "", "", "the character /", QByteArray("[a/b]\n"));
+        row("twins", "R", "", "", "differ in case only: r and R", QByteArray("[R]\n"));
+        row("no option", "n", "", "x:1\n", "without \"=\"", QByteArray("[n]\nx:1\n"));
+        row("indented head", "n", "", "x=1\n [y]\n", "head of a section",
+            QByteArray("[n]\nx=1\n [y]\n"));
+        row("main", "main", "", "", "\"main\" names", none);
+        row("line feed", "a\nb", "", "", "the identifier holds a line break", none);
+        row("in the name", "n", "a\nb=c", "", "the name holds a line break", none);
+        row("head", "n", "", "x=1\n[y]\n", "\"[y]\" would be the head", none);
+        row("continues", "n", "", " x=1\n", "would continue the line above", none);
+        row("field", "n", "", "enabled=0\n", "a field of its own", none);
+    }
+
+    void badInput()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, name);
+        QFETCH(QString, others);
+        QFETCH(QString, said);
+        QFETCH(QByteArray, written);
+        ConfigRoot root;
+        root.put(root.repo(u"r"_s), "[r]\n");
+        QVERIFY(root.io.read(nullptr));
+        Repo::Entry entry;
+        entry.id = id;
+        entry.name = name;
+        entry.otherOptions = others;
+        root.io.repos += entry;
+        const YumConfIO::Preview preview = root.io.preview();
+        QCOMPARE(preview.refusals.isEmpty(), !written.isEmpty());
+        Answer yes(0);
+        QCOMPARE(root.io.write(nullptr), !written.isEmpty());
+        QCOMPARE(yes.said.size(), said.isEmpty() ? 0 : 1);
+        QVERIFY2(yes.said.join(QString()).contains(said), qPrintable(yes.said.join(QString())));
+        const QString path = root.repo(QString(id).replace(u'/', u'_'));
+        QCOMPARE(root.get(path), written.isEmpty() ? QByteArray("(none)") : written);
+        if (written.isEmpty()) // everything is still to be edited
+            QVERIFY(root.io.repos.last().id == id && root.io.repos.last().file.isEmpty());
+        else
+            QCOMPARE(preview.changes.last().after.toUtf8(), written);
+    }
+
+    void oneFileByTwoNames()
+    {
+        ConfigRoot root;
+        root.put(root.repo(u"a"_s), "[one]\n\n[two]\n");
+        QVERIFY(root.io.read(nullptr));
+        root.entry(u"one"_s).file = u"/etc//yum.repos.d/a.repo"_s;
+        QVERIFY(root.io.write(nullptr));
+        QCOMPARE(root.get(root.repo(u"a"_s)), "[one]\n\n[two]\n");
+    }
+
+    void differences()
+    {
+        const QStringList one = u"a b c d e"_s.split(u' '), two = u"a x c e f"_s.split(u' ');
+        QString text;
+        for (const DiffLine &line : diffLines(one, two))
+            text += line.kind == DiffLine::Added     ? u'+' + two[line.after]
+                    : line.kind == DiffLine::Removed ? u'-' + one[line.before]
+                                                     : one[line.before];
+        QCOMPARE(text, u"a-b+xc-de+f"_s);
+    }
+};
+
+QTEST_MAIN(TestRepoEditor)
+#include "test_repoeditor.moc"
