@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -63,6 +64,11 @@ class TestRepoEditor : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+    }
+
     void naturalOrder_data()
     {
         columns<QString, QString, bool>("one", "two", "less");
@@ -234,6 +240,38 @@ private Q_SLOTS:
                                                      : one[line.before];
         QCOMPARE(text, u"a-b+xc-de+f"_s);
     }
+
+    void status_data()
+    {
+        columns<QStringList, QString>("added", "status");
+        row("none", QStringList(), "");
+        row("change", QStringList{u"b"_s}, "Unapplied Configuration Changes");
+        row("twice", QStringList{u"b"_s, u"A"_s, u"b"_s, u"a"_s},
+            "Two or more repositories have the Identifier, a");
+        row("empty first", QStringList{u"a"_s, QString()}, "A repository has no Identifier");
+    }
+
+    void status()
+    {
+        QFETCH(QStringList, added);
+        ConfigRoot root;
+        root.put(root.repo(u"a"_s), "[a]\n");
+        Editor editor(root);
+        auto *model = editor.dialog.findChild<RepoEditor::Model *>();
+        const QAbstractItemModelTester tester(model);
+        for (const QString &id : added) {
+            Repo::Entry entry;
+            entry.id = id;
+            const int row = model->addRow(entry);
+            model->toggleEnabled(model->index(row, RepoEditor::PermColumn));
+        }
+        QTEST(editor.status(), "status");
+        QCOMPARE(editor.dialog.findChild<QPushButton *>(u"applyButton"_s)->isEnabled(),
+                 !added.isEmpty());
+    }
+
+private:
+    QTemporaryDir m_settings;
 };
 
 QTEST_MAIN(TestRepoEditor)
