@@ -13,5 +13,5 @@ struct DiffLine
 };
 
 // What leads from one list of lines to the other, with all lines of both in order. Shortest, unless
-// the lists differ in thousands of lines.
+// the lists differ in thousands of lines: then what differs is removed whole and added whole.
 QList<DiffLine> diffLines(const QStringList &before, const QStringList &after);

@@ -230,15 +230,26 @@ private Q_SLOTS:
         QCOMPARE(root.get(root.repo(u"a"_s)), "[one]\n\n[two]\n");
     }
 
+    void differences_data()
+    {
+        columns<QString, QString, QString>("one", "two", "text");
+        row("in between", "abcde", "axcef", "a-b+xc-de+f");
+        row("only added", "ab", "xaybz", "+xa+yb+z");
+        row("all", "ab", "", "-a-b");
+        row("both ends alike", "aaa", "aa", "aa-a");
+    }
+
     void differences()
     {
-        const QStringList one = u"a b c d e"_s.split(u' '), two = u"a x c e f"_s.split(u' ');
+        QFETCH(QString, one);
+        QFETCH(QString, two);
         QString text;
-        for (const DiffLine &line : diffLines(one, two))
-            text += line.kind == DiffLine::Added     ? u'+' + two[line.after]
-                    : line.kind == DiffLine::Removed ? u'-' + one[line.before]
-                                                     : one[line.before];
-        QCOMPARE(text, u"a-b+xc-de+f"_s);
+        for (const DiffLine &line : diffLines(one.split(QString(), Qt::SkipEmptyParts),
+                                              two.split(QString(), Qt::SkipEmptyParts)))
+            text += line.kind == DiffLine::Added     ? QString(u'+') + two[line.after]
+                    : line.kind == DiffLine::Removed ? QString(u'-') + one[line.before]
+                                                     : QString(one[line.before]);
+        QTEST(text, "text");
     }
 
     void status_data()
