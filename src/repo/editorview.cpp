@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QSortFilterProxyModel>
 
+#include <algorithm>
 #include <utility>
 
 namespace RepoEditor {
@@ -84,7 +85,19 @@ View::View(Model *model, QSortFilterProxyModel *proxy, QWidget *parent)
     connect(this, &QWidget::customContextMenuRequested, this,
             &View::handleCustomContextMenuRequested);
     connect(this, &QAbstractItemView::doubleClicked, this, &View::handleActivated);
+    // Screen readers select without making current; so does a click that takes the current row out.
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &View::followSelection,
+            Qt::QueuedConnection);
     sizeColumnsToContents();
+}
+
+void View::followSelection()
+{
+    const QModelIndexList rows = HTableView::selectedRows();
+    if (rows.size() == 1 && rows.first().row() != currentIndex().row())
+        selectionModel()->setCurrentIndex(
+            rows.first().siblingAtColumn(std::max(currentIndex().column(), 0)),
+            QItemSelectionModel::NoUpdate);
 }
 
 int View::currentRow() const

@@ -50,6 +50,7 @@ protected Q_SLOTS:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:
+    void followSelection();
     void toggle(const QModelIndex &index);
     void toggleSelected();
     void tellCurrent(int row);
