@@ -147,8 +147,8 @@ class YumIO:
 
     def searchTexts(self, pos, files, changes):
         """Optional: what a search reads of a sequence of package objects, read as the result is iterated;
-        for each one bytes object, see vokdnf.searchtexts.read. `files` and `changes` say whether the file
-        lists and change logs of available packages are loaded."""
+        for each its place in the sequence and one bytes object, see vokdnf.searchtexts.read. `files` and
+        `changes` say whether the file lists and change logs of available packages are loaded."""
         return searchtexts.read(self._session, pos, files, changes)
 
     def searchCaches(self):

@@ -193,13 +193,15 @@ bool YumIO::askSearchTexts(const SearchRequest &request, const QList<qsizetype> 
     const PyRef iterator(result ? PyObject_GetIter(result.get()) : nullptr);
     for (qsizetype i = 0; iterator && i < missing.size() && !m_cancelled; ++i) {
         const PyRef record(PyIter_Next(iterator.get()));
-        char *text;
-        Py_ssize_t size;
-        if (!record || PyBytes_AsStringAndSize(record.get(), &text, &size) != 0)
+        Py_ssize_t place;
+        PyObject *texts;
+        if (!record || !PyArg_ParseTuple(record.get(), "nS", &place, &texts) || place < 0 ||
+            place >= missing.size())
             break;
-        const Package::Entry &entry = *request.entries[missing[i]];
+        const Package::Entry &entry = *request.entries[missing[place]];
         // The record ends with a zero byte, which stands behind every bytes object.
-        textsFor(entry).add(keyOf(entry), QByteArray::fromRawData(text, size + 1));
+        textsFor(entry).add(keyOf(entry), QByteArray::fromRawData(PyBytes_AsString(texts),
+                                                                  PyBytes_Size(texts) + 1));
         m_progress->setItemValue(Steps(i) + 1);
         if (i + 1 == missing.size())
             return true;

@@ -213,6 +213,9 @@ class Numbered(Package):
         self._source = source
         self._number = hash(pkg)
 
+    def __hash__(self):
+        return self._number
+
     @property
     def pkg(self):
         sack, base = self._source

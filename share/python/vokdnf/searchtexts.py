@@ -15,15 +15,16 @@ _clean = report.clean
 
 
 def read(session, pos, files, changes):
-    """Yields for each of the package objects its texts as UTF-8, a zero byte between them: description,
-    group, vendor, installation time (decimal seconds since 1970, "" for an available package), package
+    """Yields for each of the package objects its place in `pos` and its texts as UTF-8, a zero byte between
+    them, in the order in which the library's files hold them, which takes a third of the time of any other:
+    description, group, vendor, installation time (decimal seconds since 1970, "" for an available package), package
     file, source package, license, packager, URL, relocations, provides, requires, conflicts, obsoletes
     and files (lines in the order of their UTF-16 units), then three for each change: seconds since 1970,
     author, text. Files and changes of available packages are read only when `files` and `changes` are
     true."""
     lists = {}
-    for po in pos:
-        po = packages.Package(po.pkg)  # DNF's object once, for all of its fields
+    for place in sorted(range(len(pos)), key=[hash(po) for po in pos].__getitem__):
+        po = packages.Package(pos[place].pkg)  # DNF's object once, for all of its fields
         if po.pkg._from_system:
             texts = _installed(po)
         else:
@@ -32,7 +33,7 @@ def read(session, pos, files, changes):
                 lists[name] = _Files(session, name)
             texts = _available(po, lists[name].of(po) if files else (),
                                po.returnChangelog() if changes else ())
-        yield "\0".join(texts).encode("utf-8")
+        yield place, "\0".join(texts).encode("utf-8")
 
 
 def _lines(texts):
