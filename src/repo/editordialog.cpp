@@ -145,7 +145,10 @@ QHBoxLayout *Dialog::createLowerRow()
     auto *row = new QHBoxLayout;
     m_status = new HFrameLabel(this);
     m_status->setObjectName(QStringLiteral("status"));
-    m_status->setMinimumWidth(1); // a long identifier in it must not widen the window
+    // Room for the usual text; a long identifier in another must not widen the window.
+    m_status->setText(tr("Unapplied Configuration Changes"));
+    m_status->setMinimumWidth(m_status->sizeHint().width());
+    m_status->clear();
     row->addWidget(m_status);
     row->addStretch();
     m_previewButton = addButton(row, "previewButton", tr("Pre&view"),
