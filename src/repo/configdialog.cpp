@@ -177,10 +177,11 @@ QString ConfigDialog::identifierProblem() const
 void ConfigDialog::showFileNotice()
 {
     const Repo::Entry entry = m_form->toEntry();
-    const bool loses = YumConfIO::carriesPassword(entry) && m_yumConfIO->losesReaders(entry.file);
+    const QString file = m_yumConfIO->fileOf(entry);
+    const bool loses = YumConfIO::carriesPassword(entry) && m_yumConfIO->losesReaders(file);
     m_fileNotice->setText(
         tr("Other users can read %1 now.  They cannot any more once it holds this password.")
-            .arg(harmless(RootPath::shown(entry.file))));
+            .arg(harmless(RootPath::shown(file))));
     m_fileNotice->setVisible(loses);
 }
 

@@ -83,7 +83,7 @@ bool YumConfIO::losesReaders(const QString &path) const
 {
     struct stat status;
     return !m_files.value(path).secret && RootPath::status(path, status) &&
-           (status.st_mode & S_IROTH);
+           S_ISREG(status.st_mode) && (status.st_mode & S_IROTH);
 }
 
 void YumConfIO::error(const QString &message, const QString &more) const

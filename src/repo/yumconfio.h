@@ -64,6 +64,8 @@ public:
     };
     // Asks and touches nothing.
     Preview preview();
+    // The path of the file that an entry is written to.
+    QString fileOf(const Repo::Entry &entry) const;
     // Whether others can read the file, and cannot any more once it has its first password.
     bool losesReaders(const QString &path) const;
 

@@ -157,6 +157,13 @@ void YumConfIO::normalise(Repo::Entry &entry)
     }
 }
 
+QString YumConfIO::fileOf(const Repo::Entry &entry) const
+{
+    QList<Repo::Entry> list{entry};
+    cleanupWrite(list);
+    return list.constFirst().file;
+}
+
 void YumConfIO::cleanupWrite(QList<Repo::Entry> &list) const
 {
     // A file that is named in two ways is written once.
