@@ -89,11 +89,9 @@ int main(int argc, char *argv[])
             engine.collectOtherData();
             std::printf("loaded: %lld ms, RssAnon +%d MiB\n", timer.elapsed(),
                         anonymousMiB() - before);
-            proxy.setFilterRegExp(pattern);
             proxy.setMode(Mode::Search);
-        } else {
-            proxy.setFilterRegExp(pattern);
         }
+        proxy.setFilterRegExp(pattern);
         const qint64 silent = pulse.longest;
         QElapsedTimer paint;
         paint.start();
