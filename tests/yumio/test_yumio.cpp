@@ -147,10 +147,9 @@ private Q_SLOTS:
     void expressions()
     {
         static constexpr const char *parts[] = {
-            "a",           "b",   "\u00e9", ".",   "*",   "+",    "?",     "^",
-            "$",           "(",   ")",      "|",   "{2}", "{,1}", "[^]b]", "[)]",
-            "[[:alpha:]]", "\\.", "\\1",    "\\<", "\\)", "\n",   "}",     "[a-\u00e9]",
-            "[A-a]",       "\\w", "[[=a=]]"};
+            "a",   "b",   "\u00e9", ".",   "*",    "+",          "?",     "^",           "$",
+            "(",   ")",   "|",      "{2}", "{,1}", "[^]b]",      "[)]",   "[[:alpha:]]", "\\.",
+            "\\1", "\\<", "\\)",    "\n",  "}",    "[a-\u00e9]", "[A-a]", "\\w",         "[[=a=]]"};
         static constexpr const char *texts[] = {"a", "b", "\u00e9", ".", " ", "\n", ")", "_", "ab"};
         std::mt19937 random(1);
         const auto some = [&](const auto &pieces, unsigned most) {
