@@ -82,12 +82,8 @@ QHBoxLayout *ConfigDialog::createButtons()
     row->addStretch();
     const auto add = [&](const char *name, const QString &text, const QString &toolTip,
                          void (ConfigDialog::*slot)()) {
-        auto *button = new QPushButton(text, this);
-        button->setObjectName(QLatin1String(name));
-        button->setToolTip(toolTip);
-        button->setAutoDefault(false);
+        QPushButton *button = addButton(row, name, text, toolTip);
         connect(button, &QPushButton::clicked, this, slot);
-        row->addWidget(button);
         return button;
     };
     m_resetButton = add("resetButton", tr("&Reset"),

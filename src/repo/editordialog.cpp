@@ -108,12 +108,8 @@ template <typename Slot>
 QPushButton *Dialog::addButton(QHBoxLayout *row, const char *name, const QString &text,
                                const QString &toolTip, Slot slot)
 {
-    auto *button = new QPushButton(text, this);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(toolTip);
-    button->setAutoDefault(false);
+    QPushButton *button = HDialog::addButton(row, name, text, toolTip);
     connect(button, &QPushButton::clicked, this, slot);
-    row->addWidget(button);
     return button;
 }
 

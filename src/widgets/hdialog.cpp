@@ -2,9 +2,22 @@
 
 #include "summon.h"
 
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QShowEvent>
 
 HDialog::HDialog(QWidget *parent, Qt::WindowFlags flags) : QDialog(parent, flags) {}
+
+QPushButton *HDialog::addButton(QHBoxLayout *row, const char *name, const QString &text,
+                                const QString &toolTip)
+{
+    auto *button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(toolTip);
+    button->setAutoDefault(false);
+    row->addWidget(button);
+    return button;
+}
 
 void HDialog::showEvent(QShowEvent *event)
 {

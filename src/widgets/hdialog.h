@@ -2,6 +2,9 @@
 
 #include <QDialog>
 
+class QHBoxLayout;
+class QPushButton;
+
 // Base of the program's dialogs. A dialog that opens while its parent window is minimised brings
 // that window back, so that it is found.
 class HDialog : public QDialog
@@ -17,6 +20,10 @@ public:
     void setChanged(bool changed) { m_changed = changed; }
 
 protected:
+    // A new button at the end of a row, which Return presses only where it is made the default.
+    QPushButton *addButton(QHBoxLayout *row, const char *name, const QString &text,
+                           const QString &toolTip);
+
     void showEvent(QShowEvent *event) override;
 
 private:
