@@ -148,6 +148,10 @@ void MainWindow::createPlaceholder(QWidget *parent)
     describeControl(m_readButton, "readButton",
                     tr("Collects the packages of the system and of the repositories"));
     connect(m_readButton, &QPushButton::clicked, this, &MainWindow::reposChanged);
+    // The only button there is; outside a dialog Return presses none.
+    auto *read = new QShortcut(QKeySequence(Qt::Key_Return), m_readButton);
+    read->setContext(Qt::WidgetShortcut);
+    connect(read, &QShortcut::activated, m_readButton, &QPushButton::click);
     auto *layout = new QVBoxLayout(m_waiting);
     layout->addStretch();
     layout->addWidget(m_placeholder);
