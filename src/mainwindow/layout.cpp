@@ -1,5 +1,6 @@
 #include "mainwindow/mainwindow.h"
 
+#include "mainwindow/noticerow.h"
 #include "mainwindow/wraplayout.h"
 #include "packagetable/emptytext.h"
 #include "packagetable/model.h"
@@ -173,6 +174,7 @@ void MainWindow::createTable()
 void MainWindow::createMainArea()
 {
     QLayout *filterRow = createFilterRow();
+    m_notices = new NoticeRow(m_mainArea);
     m_view = new PackageTable::View(m_model, m_proxy, m_mainArea);
     m_view->setObjectName(QStringLiteral("view"));
     m_view->setAccessibleName(tr("Packages"));
@@ -181,6 +183,7 @@ void MainWindow::createMainArea()
     auto *layout = new QVBoxLayout(m_mainArea);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(filterRow);
+    layout->addWidget(m_notices);
     layout->addWidget(m_view, 1);
     layout->addLayout(buttonRow);
     connectMainArea();

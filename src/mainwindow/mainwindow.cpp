@@ -231,7 +231,8 @@ void MainWindow::setReady(bool ready)
         m_focusBeforeJob = focus;
     m_mainArea->setEnabled(ready);
     if (ready && m_focusBeforeJob) {
-        m_focusBeforeJob->setFocus();
+        // The button of a notice goes with it.
+        (m_focusBeforeJob->isVisible() ? m_focusBeforeJob.data() : m_view)->setFocus();
         m_focusBeforeJob = nullptr;
     }
 

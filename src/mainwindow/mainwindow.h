@@ -15,6 +15,7 @@
 class HFrameLabel;
 class HMenu;
 class HProgressBar;
+class NoticeRow;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -218,6 +219,7 @@ private:
     QComboBox *m_stateCombo = nullptr;
     QCheckBox *m_groupsCheck = nullptr;
     QCheckBox *m_dupsCheck = nullptr;
+    NoticeRow *m_notices = nullptr;
     PackageTable::Model *m_model = nullptr;
     PackageTable::SortFilterProxyModel *m_proxy = nullptr;
     PackageTable::View *m_view = nullptr;
