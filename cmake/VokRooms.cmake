@@ -35,5 +35,5 @@ function(vok_test name)
     add_dependencies(${name} share)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;VOKSHARE=${VOK_SHARE_DIR};LC_ALL=C.UTF-8;TZ=UTC;${ARG_ENVIRONMENT}")
+        "QT_QPA_PLATFORM=offscreen;VOKSHARE=${VOK_SHARE_DIR};LC_ALL=C.UTF-8;LANGUAGE=;TZ=UTC;${ARG_ENVIRONMENT}")
 endfunction()

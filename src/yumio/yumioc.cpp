@@ -3,6 +3,22 @@
 #include "yumio.h"
 #include "yumioc.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+// A text of the script in the user's language. The catalogues may be asked from any thread.
+PyObject *translate(PyObject *, PyObject *args)
+{
+    const char *text;
+    if (!PyArg_ParseTuple(args, "s", &text))
+        return nullptr;
+    const QByteArray translated = QCoreApplication::translate("YumIO script", text).toUtf8();
+    return PyUnicode_FromStringAndSize(translated.constData(), translated.size());
+}
+
+} // namespace
+
 YumIO *YumIOC::s_engine = nullptr;
 
 #define VOK_CALLBACK(name, flags)                                                                  \
@@ -59,6 +75,7 @@ PyMethodDef YumIOC::s_methods[] = {
     VOK_CALLBACK(confirmRemovals, METH_VARARGS),
     VOK_CALLBACK(credentialsRefused, METH_VARARGS),
     VOK_CALLBACK(transactionReport, METH_VARARGS),
+    {"tr", translate, METH_VARARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},
 };
 

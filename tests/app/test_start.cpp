@@ -2,6 +2,7 @@
 
 #include "app/main/commandline.h"
 #include "app/main/defaultstyle.h"
+#include "app/main/translations.h"
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
@@ -9,6 +10,7 @@
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 
 #include <getopt.h>
 
@@ -88,6 +90,27 @@ private Q_SLOTS:
         QCOMPARE(QApplication::style()->name(),
                  isSet ? QStringLiteral("fusion") : QStringLiteral("windows"));
         QCOMPARE(QApplication::palette().color(QPalette::Window) == QColor(Qt::magenta), !isSet);
+    }
+
+    void language_data()
+    {
+        columns<QString, QString, QString, QString>("LANGUAGE", "LC_ALL", "VOKLANGUAGE", "text");
+        row("locale", "", "de_AT.UTF-8", "", "Hilfe");
+        row("first there is", "xx:de:en", "C.UTF-8", "", "Hilfe");
+        row("English first", "en_US:de", "de_DE.UTF-8", "", "Help");
+        row("C", "de", "C", "", "Help");
+        row("chosen", "", "C", "de", "Hilfe");
+    }
+
+    void language()
+    {
+        for (const char *name : {"LANGUAGE", "LC_ALL", "VOKLANGUAGE"})
+            qputenv(name,
+                    static_cast<QString *>(QTest::qData(name, qMetaTypeId<QString>()))->toUtf8());
+        installTranslations(*qApp);
+        const QString text = QCoreApplication::translate("Execute", "Help");
+        qDeleteAll(qApp->findChildren<QTranslator *>());
+        QTEST(text, "text");
     }
 
 private:

@@ -136,7 +136,7 @@ class Interrupted(Case):
         self.assertEqual(bool(lines), begun, lines)
         if begun:
             total = len(self.after ^ self.before)
-            self.assertIn("%d of its %d steps" % (total - len(missing) - len(remaining), total),
+            self.assertIn("done: %d of %d." % (total - len(missing) - len(remaining), total),
                           lines[1])
             for pattern, expected in ((r"Not installed: 0:(\S+)\. If", missing),
                                       (r"Installed twice: 0:(\S+) beside 0:\S+\.$", doubled),
@@ -223,7 +223,7 @@ class RealProgram(Case):
         program = start_program(self, root)
         dialog = program.find("dialog", "VOK Interrupted Transaction")
         text = "\n".join(map(program.texts, program.walk(dialog)))
-        self.assertIn("The last transaction was interrupted.\n1 of its 1 steps had been done.", text)
+        self.assertIn("The last transaction was interrupted.\nSteps that had been done: 1 of 1.", text)
         key("Return")
         program.wait_enabled(program.find("push button", "Refresh"), "the window")
         self.assertIsNone(program.look("dialog"))

@@ -120,7 +120,7 @@ class Collect(Case):
         main = pathlib.Path(root, "etc/yum.conf")
         good = main.read_text()
         for text, word in (("no section\n", "Missing section header"), ("[main\n", "Missing ']'"),
-                           (None, "neither /etc/yum/yum.conf nor /etc/yum.conf nor /etc/dnf/dnf.conf")):
+                           (None, "exists: /etc/yum/yum.conf, /etc/yum.conf, /etc/dnf/dnf.conf")):
             main.unlink()
             if text is not None:
                 main.write_text(text)
@@ -183,7 +183,7 @@ class Collect(Case):
             self.assertFalse(left(pattern))
             self.assertEqual(calls(result, "log")[-1], [0, messages[-1]])
             if method == "cleanPackages":
-                self.assertEqual(messages, ["1 files removed, 2 KiB freed"])
+                self.assertEqual(messages, ["Removed files: 1. Freed: 2 KiB."])
         self.assertTrue(outside.exists() and (repository / "notes.txt").exists())
 
 

@@ -12,6 +12,7 @@ from yum import Errors
 
 from . import certificates, config, credentials, database, errors, keys, locks, meters, plugins, report, root
 from . import solvcache
+from .translation import tr
 
 _SOURCES = ["src", "nosrc"]
 
@@ -74,14 +75,14 @@ def _load(repo):
     except dnf.exceptions.RepoError as error:
         if callbacks.cancelled or report.cancelled():
             raise Errors.CancelledRepoError() from error
-        text = "\n".join(["Repository %s: %s" % (repo.id, report.told(error))]
+        text = "\n".join([tr("Repository %s: %s") % (repo.id, report.told(error))]
                          + ["  " + certificates.explain(failure, repo) for failure in callbacks.failures
                             or [root.shown(address) for address in repo.baseurl]])
         text += full_cache(repo.basecachedir)
         credentials.tell_refused(repo, text, text)
         if not repo.skip_if_unavailable:
             raise Errors.RepoError(text) from error
-        report.errorlog(0, "%s\nThe repository is left out." % text)
+        report.errorlog(0, tr("%s\nThe repository is left out.") % text)
         repo.disable()
     finally:
         callbacks.finish()
@@ -95,7 +96,7 @@ def full_cache(path):
         return ""
     if status.f_bavail * status.f_frsize >= 4096 * 16:
         return ""
-    return "\nThere is no room left in the cache directory %s." % root.shown(path)
+    return "\n" + tr("There is no room left in the cache directory %s.") % root.shown(path)
 
 
 class Session:
@@ -129,7 +130,7 @@ class Session:
             self.base.apart = {}
             self.base.close()
         except Exception as error:  # nobody waits for the result
-            report.errorlog(3, "Closing the package session: %s" % report.clean(error))
+            report.errorlog(3, tr("Closing the package session: %s") % report.clean(error))
 
     def load_repositories(self):
         """Loads the metadata of the enabled repositories, one by one. A repository that fails is left
@@ -185,7 +186,7 @@ class Session:
     @property
     def sack(self):
         if self.base.sack is None:
-            raise Errors.YumBaseError("The packages have not been read yet.")
+            raise Errors.YumBaseError(tr("The packages have not been read yet."))
         return self.base.sack
 
     @property
@@ -204,7 +205,7 @@ class Repositories:
         try:
             return self.repos[repo_id]
         except KeyError:
-            raise Errors.RepoError("There is no repository %s." % repo_id) from None
+            raise Errors.RepoError(tr("There is no repository %s.") % repo_id) from None
 
     def enableRepo(self, repo_id):
         with errors.translated(Errors.RepoError):

@@ -6,6 +6,7 @@ import re
 import dnf.repo
 
 from . import report
+from .translation import tr
 
 _REPOSITORY = dnf.repo._CACHEDIR_RE.replace("?P<repoid>", "?:")
 KINDS = {
@@ -19,7 +20,7 @@ KINDS = {
 
 def size_text(size):
     """Bytes in the unit that suits them."""
-    for unit in ("bytes", "KiB", "MiB"):
+    for unit in (tr("bytes"), "KiB", "MiB"):
         if size < 1024:
             return "%.4g %s" % (size, unit)
         size /= 1024
@@ -41,11 +42,11 @@ def clean(conf, kind):
                 os.unlink(path)
             except OSError as error:
                 failed += 1
-                messages.append("%s cannot be removed: %s" % (report.clean(path), error.strerror))
+                messages.append(tr("%s cannot be removed: %s") % (report.clean(path), error.strerror))
             else:
                 count, freed = count + 1, freed + size
     for message in messages:
         report.errorlog(0, message)
-    messages.append("%d files removed, %s freed" % (count, size_text(freed)))
+    messages.append(tr("Removed files: %d. Freed: %s.") % (count, size_text(freed)))
     report.log(0, messages[-1])
     return (1 if failed else 0), messages

@@ -8,6 +8,7 @@ import dnf.selector
 import hawkey
 
 from . import packages, relations, report
+from .translation import tr
 
 UPDATABLE, INSTALLABLE, INSTALLED = 0, 1, 2  # states of a row
 _FIRST_NUMBER = 2  # of a sack's packages
@@ -164,7 +165,7 @@ class Collection:
                 continue
             old = list(map(str, relations.replaced(self._sack, pkg)))
             if old:
-                report.log(2, "%s replaces the installed %s" % (pkg, ", ".join(old)))
+                report.log(2, tr("%s replaces the installed %s") % (pkg, ", ".join(old)))
 
 
 def _vendor(pkg):

@@ -12,6 +12,7 @@ import libdnf.conf
 import libdnf.error
 
 from . import database, language, report, root
+from .translation import tr
 
 MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf", "/etc/dnf/dnf.conf")
 REPO_DIRECTORIES = ("/etc/yum.repos.d", "/etc/yum/repos.d")
@@ -33,8 +34,8 @@ def read_main():
     is no usable main file, or the rpm database cannot be read."""
     path = main_file()
     if path is None:
-        raise SystemExit("There is no main configuration file: neither %s exists."
-                         % " nor ".join(MAIN_FILES))
+        raise SystemExit(tr("There is no main configuration file; none of these exists: %s.")
+                         % ", ".join(MAIN_FILES))
     opened = root.resolve(path)
     conf = dnf.conf.Conf()
     conf.installroot = root.prefix() or "/"
@@ -43,10 +44,10 @@ def read_main():
         with open(opened, "rb"), language.english():
             conf.read(opened, _SET_BY_FILE)
     except OSError as error:
-        raise SystemExit("Unable to read the main configuration file %s: %s"
+        raise SystemExit(tr("Unable to read the main configuration file %s: %s")
                          % (path, error.strerror)) from error
     except (dnf.exceptions.Error, RuntimeError) as error:
-        raise SystemExit("The main configuration file %s is malformed: %s"
+        raise SystemExit(tr("The main configuration file %s is malformed: %s")
                          % (path, reason(error))) from error
     _settings(conf)
     database.check(conf)
@@ -83,7 +84,7 @@ def _protected_by_files():
                     for line in lines:
                         yield from line.partition("#")[0].replace(",", " ").split()
             except OSError as error:
-                report.errorlog(1, "%s cannot be read: %s" % (root.shown(path), error.strerror))
+                report.errorlog(1, tr("%s cannot be read: %s") % (root.shown(path), error.strerror))
 
 
 def _substitutions(conf, opened):
@@ -140,7 +141,7 @@ def _directories(conf):
         try:
             os.makedirs(path, exist_ok=True)
         except OSError as error:
-            raise SystemExit("Unable to make the directory %s: %s"
+            raise SystemExit(tr("Unable to make the directory %s: %s")
                              % (root.shown(path), error.strerror)) from error
     if conf._get_priority("reposdir") < _SET_BY_FILE:
         conf.reposdir = list(REPO_DIRECTORIES)
@@ -171,13 +172,13 @@ def read_repositories(conf, repositories):
 
 
 def _left_out(path, cause):
-    report.errorlog(0, "The repository file %s is left out: %s" % (root.shown(path), reason(cause)))
+    report.errorlog(0, tr("The repository file %s is left out: %s") % (root.shown(path), reason(cause)))
 
 
 def reason(error):
     """The parser's own words, without the sentence that DNF puts around them."""
     if isinstance(error, TypeError):
-        return "a value is not UTF-8"
+        return tr("a value is not UTF-8")
     words = getattr(error, "__context__", None)
     return report.clean(words if isinstance(words, RuntimeError) else error).rsplit(" failed: ", 1)[-1]
 

@@ -9,6 +9,7 @@ import hawkey
 import rpm
 
 from . import packages, report, root
+from .translation import tr
 
 # rpm on some distributions keeps its database in the user's home unless told otherwise.
 _PATH = "/var/lib/rpm"
@@ -26,9 +27,9 @@ def check(conf):
         rpm.setLogFile(sys.stderr)
         log.seek(0)
         lines = list(dict.fromkeys(line.strip().replace("error: ", "", 1) for line in log))
-    advice = "Run \"rpm --rebuilddb\" as the administrator, or restore the directory from a backup." \
-        if os.geteuid() == 0 else "The administrator can mend it by \"rpm --rebuilddb\" or from a backup."
-    raise SystemExit(report.told("\n".join(["The rpm database in %s cannot be read:"
+    advice = tr("Run \"rpm --rebuilddb\" as the administrator, or restore the directory from a backup.") \
+        if os.geteuid() == 0 else tr("The administrator can mend it by \"rpm --rebuilddb\" or from a backup.")
+    raise SystemExit(report.told("\n".join([tr("The rpm database in %s cannot be read:")
                                             % rpm.expandMacro("%{_dbpath}")]
                                            + ["  " + line for line in lines] + [advice])))
 
@@ -38,7 +39,7 @@ def cookie(conf):
     try:
         return dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot).dbCookie()
     except rpm.error as error:
-        report.errorlog(2, "The rpm database cannot be read: %s" % report.clean(error))
+        report.errorlog(2, tr("The rpm database cannot be read: %s") % report.clean(error))
         return ""
 
 

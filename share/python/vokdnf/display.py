@@ -14,6 +14,7 @@ import dnf.yum.rpmtrans
 
 from . import packages, report
 from .elements import Action, making_room
+from .translation import tr, tr_later
 
 _INSTALL_CODES = {Action.INSTALL: 30, Action.UPGRADE: 10, Action.OBSOLETE: 60, Action.DOWNGRADE: 20,
                   Action.REINSTALL: 20}
@@ -21,7 +22,7 @@ _UPDATED = 90  # the old version goes at the end of its update
 _ERASE_CODES = {Action.REMOVE: 40, Action.OBSOLETED: 50, Action.UPGRADED: _UPDATED,
                 dnf.transaction.PKG_CLEANUP: _UPDATED}
 _TEXTS = dict(dnf.transaction.ACTIONS)
-_TEXTS[dnf.transaction.TRANS_POST] = "Running the final scriptlets"
+_TEXTS[dnf.transaction.TRANS_POST] = tr_later("Running the final scriptlets")
 _TROUBLE = re.compile(r"^(error|warning): ")
 _SCRIPTLET = re.compile(r"^Error in (\S+) scriptlet in rpm package (.+)$")
 _LINE_LEVEL = 4  # log lines about elements that have no event
@@ -124,8 +125,8 @@ class Display(dnf.callback.TransactionProgress):
         line = (action, str(package))
         if line != self._last_line:
             self._last_line = line
-            report.log(_LINE_LEVEL, "%s: %s" % (_TEXTS.get(action, action), package)
-                       if package else _TEXTS.get(action, ""))
+            text = tr(_TEXTS[action]) if action in _TEXTS else str(action)
+            report.log(_LINE_LEVEL, "%s: %s" % (text, package) if package else text)
 
     @_contained
     def filelog(self, package, action):
@@ -136,7 +137,7 @@ class Display(dnf.callback.TransactionProgress):
         self._number += 1
         self._told = False
         if self._makes_room(package, action):
-            report.log(1, "Removing %s" % package)
+            report.log(1, tr("Removing %s") % package)
 
     def _finish_element(self):
         # A package without files reports no progress of its own.
@@ -202,4 +203,4 @@ class Display(dnf.callback.TransactionProgress):
         self._finish_element()
         self._current = self._scriptlet = None
         for fault in self.trouble:
-            report.errorlog(3, "Internal error: transaction report: %s" % fault)
+            report.errorlog(3, tr("Internal error: transaction report: %s") % fault)

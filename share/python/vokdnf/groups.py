@@ -9,6 +9,7 @@ import libdnf.error
 from yum import Errors
 
 from . import errors, report
+from .translation import tr
 
 NO_GROUPS = "No Groups Available"
 UPDATE, INSTALL, REMOVE = 0, 1, 2  # actions
@@ -70,7 +71,7 @@ def _recorded_groups(base):
         history = base.history.group
         return {group.id for group in base.comps.groups if history.get(group.id) is not None}
     except libdnf.error.Error as error:
-        report.errorlog(2, "DNF's group records cannot be read: %s" % report.clean(error))
+        report.errorlog(2, tr("DNF's group records cannot be read: %s") % report.clean(error))
         return set()
 
 

@@ -9,6 +9,7 @@ import dnf.sack
 
 from . import locks, report, root
 from .elements import ERASING, REPLACED
+from .translation import tr
 
 MARKER = "/var/lib/vok/transaction.json"
 
@@ -26,7 +27,7 @@ def write(elements):
             os.fsync(stream.fileno())
         os.replace(path + ".new", path)
     except OSError as error:
-        report.errorlog(1, "%s cannot be written: %s" % (path, error.strerror))
+        report.errorlog(1, tr("%s cannot be written: %s") % (path, error.strerror))
 
 
 def clear():
@@ -49,7 +50,7 @@ def check(session):
     except FileNotFoundError:
         return []
     except (OSError, ValueError, KeyError, TypeError) as error:
-        lines = ["A transaction was interrupted; what it was to do cannot be read: %s" % error]
+        lines = [tr("A transaction was interrupted; what it was to do cannot be read: %s") % error]
     else:
         lines = _lines(planned, installed_packages(session.base))
     for line in lines:
@@ -84,23 +85,23 @@ def _lines(planned, installed):
               if action in ERASING and package not in installs}
     missing = [package for package in installs if package not in installed]
     left = [package for package in erases if package in installed]
-    lines = ["The last transaction was interrupted."]
+    lines = [tr("The last transaction was interrupted.")]
     done = len(installs) + len(erases) - len(missing) - len(left)
-    lines.append("%d of its %d steps had been done." % (done, len(installs) + len(erases)))
+    lines.append(tr("Steps that had been done: %d of %d.") % (done, len(installs) + len(erases)))
     for package in missing:
-        lines.append("Not installed: %s. If rpm was unpacking it, files of it may be there already."
+        lines.append(tr("Not installed: %s. If rpm was unpacking it, files of it may be there already.")
                      % package)
     twice = 0
     for package in left:
         twins = [new for new in installs if new in installed and _is_twin(package, new)
                  and erases[package] in REPLACED]
         twice += bool(twins)
-        lines.append("Installed twice: %s beside %s." % (package, twins[0]) if twins
-                     else "Not removed: %s" % package)
+        lines.append(tr("Installed twice: %s beside %s.") % (package, twins[0]) if twins
+                     else tr("Not removed: %s") % package)
     if len(missing) + len(left) > twice:
-        lines.append("Repeat the transaction to complete it.")
+        lines.append(tr("Repeat the transaction to complete it."))
     if twice:  # a row of the table stands for all versions of its package
-        lines.append("\"dnf remove --duplicates\" removes the older of what is installed twice.")
+        lines.append(tr("\"dnf remove --duplicates\" removes the older of what is installed twice."))
     if not missing and not left:
-        lines.append("Nothing is missing; scriptlets may not have run to their end.")
+        lines.append(tr("Nothing is missing; scriptlets may not have run to their end."))
     return lines

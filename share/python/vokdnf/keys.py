@@ -11,6 +11,7 @@ import dnf.rpm.transaction
 from yum import Errors
 
 from . import errors, library, report, root
+from .translation import tr
 
 library.mend()
 
@@ -22,10 +23,10 @@ class RepositoryKeyImport(dnf.callback.KeyImport):
         self._repo = repo
 
     def _confirm(self, id, userid, fingerprint, url, timestamp):
-        source = "%s (metadata of the repository %s)" % (root.shown(url), self._repo.id)
+        source = tr("%s (metadata of the repository %s)") % (root.shown(url), self._repo.id)
         answer = report.import_key(id, userid, fingerprint, source)
         if not answer:
-            report.errorlog(0, "The key 0x%s of the repository %s was not imported."
+            report.errorlog(0, tr("The key 0x%s of the repository %s was not imported.")
                             % (id, self._repo.id))
         return answer
 
@@ -57,8 +58,8 @@ def _check(base, pkg, early=None):
         return
     if result != 1:
         if _is_damaged(base, pkg):
-            text = "its signature is wrong or the file is damaged (%s)" % text
-        raise Errors.YumBaseError("%s cannot be trusted: %s. Nothing was changed."
+            text = tr("its signature is wrong or the file is damaged (%s)") % text
+        raise Errors.YumBaseError(tr("%s cannot be trusted: %s. Nothing was changed.")
                                   % (pkg, report.clean(text)))
     _import_key(base, pkg, report.clean(text))
 
@@ -72,11 +73,11 @@ def _is_damaged(base, pkg):
 def _import_key(base, pkg, reason):
     def ask(about):
         return report.import_key(about["hexkeyid"], about["userid"], about["fingerprint"],
-                                 "%s (package %s)" % (root.shown(about["keyurl"]), pkg))
+                                 tr("%s (package %s)") % (root.shown(about["keyurl"]), pkg))
     try:
         base.package_import_key(pkg, fullaskcb=ask)
     except (dnf.exceptions.Error, ValueError, OSError) as error:
         # DNF remembers the repository as asked about; a second apply has to ask again.
         base._repo_set_imported_gpg_keys.discard(pkg.repoid)
-        raise Errors.YumBaseError("%s cannot be trusted: %s. %s\nNothing was changed."
+        raise Errors.YumBaseError(tr("%s cannot be trusted: %s. %s\nNothing was changed.")
                                   % (pkg, reason, report.clean(error))) from error

@@ -10,6 +10,7 @@ import dnf.lock
 from yum import Errors
 
 from . import errors, report, root
+from .translation import tr
 
 LOCK_FILE = "/run/vok/vok.lock"
 _PAUSE = 0.3  # seconds between two attempts
@@ -116,8 +117,8 @@ class _Waiter:
             if not report.offers("lockWait") or not report.yumIOC.lockWait(pid, command):
                 # Whoever gave up was told who holds the lock.
                 errors.check_cancelled(Errors.CancelledLockError)
-                raise Errors.LockError("The package database is in use by process %d (%s)."
-                                       % (pid, command or "unknown command"), pid)
+                raise Errors.LockError(tr("The package database is in use by process %d (%s).")
+                                       % (pid, command or tr("unknown command")), pid)
             self._agreed = pid
         errors.check_cancelled(Errors.CancelledLockError)
         time.sleep(_PAUSE)

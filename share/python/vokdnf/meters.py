@@ -48,6 +48,7 @@ import dnf.repo
 import libdnf.repo
 
 from . import report, root
+from .translation import tr
 
 DELTA_REBUILD = "<delta rebuild>"
 
@@ -107,7 +108,7 @@ class RepositoryCallbacks(libdnf.repo.RepoCB):
 
     def fastestMirror(self, stage, data):
         if stage == libdnf.repo.RepoCB.FastestMirrorStage_DETECTION:
-            report.log(3, "Looking for the fastest of %s mirrors of %s" % (data, self._repo.id))
+            report.log(3, tr("Looking for the fastest of %s mirrors of %s") % (data, self._repo.id))
 
     def handleMirrorFailure(self, msg, url, metadata):
         try:
@@ -187,11 +188,11 @@ class PackageProgress(dnf.callback.DownloadProgress):
 
     def end(self, payload, status, msg):
         if status == dnf.callback.STATUS_DRPM:
-            report.log(3, "%s is rebuilt from a delta" % payload.pkg)
+            report.log(3, tr("%s is rebuilt from a delta") % payload.pkg)
             return
         meter = self._meter(payload)
         if status in (dnf.callback.STATUS_MIRROR, dnf.callback.STATUS_FAILED):
-            text = report.clean(msg or "download failed")
+            text = report.clean(msg or tr("download failed"))
             if not self.cancelled:
                 self.failures.append("%s: %s" % (meter[0], text))
                 self.refusals.setdefault(payload.pkg.repo, []).append(text)

@@ -3,6 +3,7 @@
 import os
 
 from . import clean, root
+from .translation import tr
 
 
 class Outcomes:
@@ -24,14 +25,14 @@ class Outcomes:
         if (key in self._installed) != erases or key in self._new and erases:
             return "done", reason
         if reason:
-            return "failed", reason + (_lack_of_room(element.po.pkg) if "cpio: write" in reason else "")
+            return "failed", _with_room(reason, element.po.pkg) if "cpio: write" in reason else reason
         return "skipped", self._why_skipped(element)
 
     def _why_skipped(self, element):
         for key in element.replaced_by:
             if key in self._new and key not in self._installed:
-                return "%s was not installed" % key
-        return self._failure.strip() or "rpm left it out because another package failed"
+                return tr("%s was not installed") % key
+        return self._failure.strip() or tr("rpm left it out because another package failed")
 
     def rows(self):
         """[(epoch:name-version-release.arch, outcome, reason)], a reinstalled package once."""
@@ -39,9 +40,9 @@ class Outcomes:
                 if not (element.erases and element.envra in self._new)]
 
 
-def _lack_of_room(pkg):
-    """rpm often names another error than the full disk that it met; the end of the reason that says so,
-    "" when there is room."""
+def _with_room(reason, pkg):
+    """rpm often names another error than the full disk that it met: the reason, saying so when there is no
+    room."""
     free = []
     for path in ("/", "/usr", "/usr/share", "/var", "/opt"):
         try:
@@ -50,6 +51,6 @@ def _lack_of_room(pkg):
             continue
         free.append(status.f_bavail * status.f_frsize)
     if min(free, default=pkg.installsize) >= pkg.installsize:
-        return ""
-    return " (the package needs %s, and a file system has only %s left)" % (
-        clean.size_text(pkg.installsize), clean.size_text(min(free)))
+        return reason
+    return tr("%s (the package needs %s, and a file system has only %s left)") % (
+        reason, clean.size_text(pkg.installsize), clean.size_text(min(free)))

@@ -5,6 +5,7 @@ import dnf.exceptions
 import dnf.plugin
 
 from . import report
+from .translation import tr
 
 # Here an error of DNF's own classes is what the plug-in has to say about the transaction.
 _OBJECTIONS = ("resolved", "pre_transaction")
@@ -67,7 +68,8 @@ class _Guarded:
         self.failed = True
         if self._kind in (Plugins._classes or ()):
             Plugins._classes.remove(self._kind)
-        report.errorlog(0, "The plug-in %s fails and is left out: %s"
-                        % (getattr(self._kind, "name", None) or "of DNF", report.clean(error)
-                           or type(error).__name__))
+        cause = report.clean(error) or type(error).__name__
+        name = getattr(self._kind, "name", None)
+        report.errorlog(0, tr("The plug-in %s fails and is left out: %s") % (name, cause) if name
+                        else tr("A plug-in of DNF fails and is left out: %s") % cause)
         return True

@@ -8,6 +8,7 @@ import sys
 import yumIOC
 
 from . import root
+from .translation import tr
 
 _UNSAFE = re.compile("[\ud800-\udfff\0]")
 _PIECE = 1 << 16  # characters of output that cross at once
@@ -78,7 +79,7 @@ def import_key(key_id, user_id, fingerprint, source):
     if offers("keyQuestion"):
         return bool(yumIOC.keyQuestion(*texts))
     yumIOC.gpgsigcheck()
-    log(0, "Import the key 0x%s?\n  Owner: %s\n  Fingerprint: %s\n  From: %s" % tuple(texts))
+    log(0, tr("Import the key 0x%s?\n  Owner: %s\n  Fingerprint: %s\n  From: %s") % tuple(texts))
     return bool(yumIOC.userconfirm())
 
 

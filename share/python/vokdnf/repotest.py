@@ -13,6 +13,7 @@ import libdnf.error
 import libdnf.repo
 
 from . import certificates, config, language, report
+from .translation import tr
 
 _REPOMD = "repodata/repomd.xml"
 _LARGEST = 16 << 20  # bytes of an answer that are kept
@@ -140,7 +141,7 @@ def _read(conf, text):
         logger.handlers = handlers
         os.close(descriptor)
     if not repos:
-        return None, complaints.errors + complaints.warnings or ["DNF finds no repository in it."]
+        return None, complaints.errors + complaints.warnings or [tr("DNF finds no repository in it.")]
     config.place_inside(repos[0])
     return repos[0], complaints.errors
 

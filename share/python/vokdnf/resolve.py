@@ -7,6 +7,12 @@ from yum import Errors
 
 from . import elements, errors, explain, packages, report
 from .elements import Action
+from .translation import tr, tr_later
+
+# What the resolution adds to the marks without the program being told of it as of an update or install.
+_ALSO = {Action.DOWNGRADE: tr_later("Also needed, as a downgrade: %s"),
+         Action.REINSTALL: tr_later("Also needed, installed once more: %s"),
+         None: tr_later("Also needed: %s")}
 
 
 class Marks:
@@ -61,16 +67,16 @@ class Resolver:
         """Looks for what can be done instead, and asks about it."""
         problems = self._base._goal.problem_rules()
         lines = explain.explain(problems, self._base, self._marks) if problems else [report.clean(error)]
-        report.log(1, "The solver says:%s" % report.clean(error))
+        report.log(1, tr("The solver says:%s") % report.clean(error))
         errors.check_cancelled()
         offers = ([] if erasing else [self._offer_erasing]) + [self._offer_skipping]
         for offer in offers:
             question = offer(erasing)
             if question:
-                return report.confirm(["The transaction cannot be done as marked:"]
+                return report.confirm([tr("The transaction cannot be done as marked:")]
                                       + ["  " + line for line in lines] + ["", *question])
         self._base.reset(goal=True)
-        raise Errors.YumBaseError("\n".join(["The transaction cannot be done:"]
+        raise Errors.YumBaseError("\n".join([tr("The transaction cannot be done:")]
                                             + ["  " + line for line in lines]))
 
     def _try(self, strict, erasing):
@@ -84,8 +90,8 @@ class Resolver:
         if not self._try(True, True):
             return None
         lost = [element.po.pkg for element in self._elements() if element.action == Action.REMOVE]
-        return ["It can be done by removing:"] + _listed(lost) + [
-            "Do it that way?"] if lost else None
+        return [tr("It can be done by removing:")] + _listed(lost) + [
+            tr("Do it that way?")] if lost else None
 
     def _offer_skipping(self, erasing):
         if not self._marks.wanted or not self._try(False, erasing):
@@ -94,7 +100,7 @@ class Resolver:
         left_out = [pkg for pkg in self._marks.wanted if packages.envra(pkg) not in there]
         if not left_out or not len(self._base.transaction):
             return None
-        return ["The rest can be done without:"] + _listed(left_out) + ["Do the rest?"]
+        return [tr("The rest can be done without:")] + _listed(left_out) + [tr("Do the rest?")]
 
     def _accept_losses(self):
         """A removal may take what depends on it; what is marked for installation may not take anything
@@ -112,8 +118,8 @@ class Resolver:
                 and element.envra not in expected and element.name not in names]
         if not lost:
             return True
-        return report.confirm(["What is marked for installation cannot be there together with:"]
-                              + _listed(lost) + ["Remove it too?"])
+        return report.confirm([tr("What is marked for installation cannot be there together with:")]
+                              + _listed(lost) + [tr("Remove it too?")])
 
 
 def _listed(pkgs):
@@ -130,7 +136,7 @@ def tell_additions(found, marks, collection):
         update = collection.key(element) in collection.updatable
         if action not in (Action.UPGRADE, Action.INSTALL, Action.OBSOLETE) \
                 or not update and collection.is_installed(element):
-            report.log(2, "Also needed: %s %s" % (new, action.name.lower()))
+            report.log(2, tr(_ALSO.get(action, _ALSO[None])) % new)
             continue
         replaced = [old.envra for old in found if old.action == Action.OBSOLETED
                     and collection.key(old) in collection.updatable and new in old.replaced_by]
@@ -154,6 +160,6 @@ def replacements(base, marks):
     for pkg in sorted(marks.wanted):
         new = [report.clean(one) for one in replacing.filter(obsoletes=[pkg]) if one.name != pkg.name]
         if new:
-            lines.append("%s is installed as marked, although %s replaces it."
-                         % (report.clean(pkg), " or ".join(dict.fromkeys(new))))
+            lines.append(tr("%s is installed as marked, although %s replaces it.")
+                         % (report.clean(pkg), ", ".join(dict.fromkeys(new))))
     return lines

@@ -15,6 +15,7 @@ from yum import Errors
 from . import credentials, display, elements, errors, groups, interrupted, keys, language, locks, meters
 from . import outcome, packages, report, resolve, root, unlisted, waiting
 from .base import full_cache
+from .translation import tr
 
 
 class Transaction:
@@ -34,7 +35,7 @@ class Transaction:
         (with everything as before) when it cannot be done; once rpm has begun it raises nothing, and
         the callback transactionReport tells what failed."""
         if self._session.spent:
-            raise Errors.YumBaseError("A transaction has run already; the packages must be read again.")
+            raise Errors.YumBaseError(tr("A transaction has run already; the packages must be read again."))
         _check_writable()
         try:
             with language.english():
@@ -62,7 +63,7 @@ class Transaction:
             report.yumIOC.dsTsCheck()
         groups.record(self._base, self._noted)
         if not len(self._base.transaction) and not self._noted:
-            report.log(0, "Nothing to do.")
+            report.log(0, tr("Nothing to do."))
             return False
         self._fill_tsinfo(self._elements)
         install = list(self._base.transaction.install_set)
@@ -100,7 +101,7 @@ class Transaction:
         known = {element.envra for element in listed}
         self._fill_tsinfo([element for element in self._elements if element.envra not in known])
         if not (report.yumIOC.confirmRemovals(self._yumio) if report.offers("confirmRemovals") else
-                report.confirm(["rpm would also remove:", *map(str, gone), "Go on?"])):
+                report.confirm([tr("rpm would also remove:"), *map(str, gone), tr("Go on?")])):
             raise Errors.CancelledError()
 
     def _fill_tsinfo(self, chosen):
@@ -160,7 +161,7 @@ class Transaction:
         try:
             self._tell_outcome(shown, failure)
         except Exception as error:  # what was done stays done, whatever its report meets
-            report.errorlog(0, "The report of the transaction failed: %s" % report.clean(error))
+            report.errorlog(0, tr("The report of the transaction failed: %s") % report.clean(error))
 
     def _run(self, shown):
         try:
@@ -187,9 +188,11 @@ def _check_writable():
     """Says early that this user, or this file system, takes no transaction."""
     path = rpm.expandMacro("%{_dbpath}")
     if not os.access(root.resolve(path), os.W_OK):
-        reason = "this needs the rights of the administrator" if os.geteuid() else \
-            "the file system is read-only, or the directory is missing"
-        raise Errors.YumBaseError("The package database in %s cannot be written: %s." % (path, reason))
+        text = tr("The package database in %s cannot be written: this needs the rights of the "
+                  "administrator.") if os.geteuid() else \
+            tr("The package database in %s cannot be written: the file system is read-only, or the "
+               "directory is missing.")
+        raise Errors.YumBaseError(text % path)
 
 
 class HistoryOutput:

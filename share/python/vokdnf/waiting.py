@@ -7,6 +7,7 @@ import time
 import rpm
 
 from . import locks, report, root
+from .translation import tr
 
 _SILENCE = 3.0  # seconds without a word of rpm
 _LOOKS = 1.0    # seconds between two looks
@@ -43,8 +44,8 @@ class Watcher:
             try:
                 for pid in _holders(self._directory) - self._told:
                     self._told.add(pid)
-                    report.log(0, "rpm waits for its database, which is locked by process %d (%s)."
-                               % (pid, locks.command_of(pid) or "unknown command"))
+                    report.log(0, tr("rpm waits for its database, which is locked by process %d (%s).")
+                               % (pid, locks.command_of(pid) or tr("unknown command")))
             except Exception:  # only a line of the log is lost
                 return
 

@@ -1,5 +1,7 @@
 """The exceptions that the script raises. `value` and str() are the text for the user."""
 
+from vokdnf.translation import tr
+
 
 class YumBaseError(Exception):
     """Root of all; raised itself where no narrower class fits."""
@@ -35,8 +37,8 @@ class GroupsError(YumBaseError):
 class CancelledError(YumBaseError):
     """The user cancelled; everything is as before."""
 
-    def __init__(self, value="Cancelled by the user"):
-        super().__init__(value)
+    def __init__(self, value=None):
+        super().__init__(tr("Cancelled by the user") if value is None else value)
 
 
 class CancelledRepoError(CancelledError, RepoError):
@@ -46,6 +48,6 @@ class CancelledRepoError(CancelledError, RepoError):
 class CancelledLockError(CancelledError, LockError):
     """The user cancelled while waiting for a lock."""
 
-    def __init__(self, value="Cancelled by the user", pid=0):
+    def __init__(self, value=None, pid=0):
         super().__init__(value)
         self.pid = pid

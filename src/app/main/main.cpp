@@ -2,6 +2,7 @@
 #include "commandline.h"
 #include "defaultstyle.h"
 #include "terminator.h"
+#include "translations.h"
 
 #include "app/programname.h"
 #include "app/share.h"
@@ -13,6 +14,7 @@ int main(int argc, char **argv)
 {
     DefaultStyle style(argc, const_cast<const char **>(argv));
     Application app(argc, argv);
+    installTranslations(app);
     style.set(app, QStringLiteral("plastique"));
     app.setWindowIcon(QIcon(Share::absolute(QStringLiteral("pixmaps/vok.icon.png"))));
     setProgramName(argv[0]);
