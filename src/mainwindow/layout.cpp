@@ -1,5 +1,6 @@
 #include "mainwindow/mainwindow.h"
 
+#include "mainwindow/countline.h"
 #include "mainwindow/noticerow.h"
 #include "mainwindow/wraplayout.h"
 #include "packagetable/emptytext.h"
@@ -7,6 +8,7 @@
 #include "packagetable/sortfilterproxymodel.h"
 #include "packagetable/view.h"
 #include "progress/hprogressbar.h"
+#include "widgets/helidedlabel.h"
 #include "widgets/hframelabel.h"
 #include "widgets/hmenu.h"
 #include "yumio/yumio.h"
@@ -131,9 +133,23 @@ void MainWindow::createCentralWidget()
     layout->addWidget(m_mainArea, 1);
     layout->addLayout(createBarsRow());
     setCentralWidget(central);
+    createStatusLine();
+}
 
+// Its messages are in a label of their own: those of the bar itself go when a menu is looked at.
+void MainWindow::createStatusLine()
+{
+    m_message = new HElidedLabel(this);
+    m_message->setObjectName(QStringLiteral("message"));
+    m_countLine = new CountLine(m_view, m_yumIO, this);
+    QMargins beside = centralWidget()->layout()->contentsMargins();
+    beside.setTop(0);
+    beside.setBottom(0);
+    for (HElidedLabel *label : {m_message, static_cast<HElidedLabel *>(m_countLine)})
+        label->setContentsMargins(beside);
     statusBar()->setSizeGripEnabled(false);
-    statusBar()->hide(); // until there is something to say
+    statusBar()->addWidget(m_message, 1);
+    statusBar()->addPermanentWidget(m_countLine);
 }
 
 void MainWindow::createPlaceholder(QWidget *parent)
@@ -275,7 +291,7 @@ QLayout *MainWindow::createButtonRow()
                "Search, State, Duplicates, and Groups settings.\nDoes not Apply Actions "
                "automatically."));
     m_clearActionsButton =
-        add("clearActionsButton", tr("&Clear Actions"),
+        add("clearActionsButton", tr("Clear Actions"),
             tr("Clears all specified Actions (Updates, Installs, and Removals)"));
     // Alt+C opens the Cache menu; one key for both would only move the focus between them.
     m_clearActionsButton->setShortcut(QKeySequence(QStringLiteral("Alt+Shift+C")));

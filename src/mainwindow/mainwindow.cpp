@@ -2,6 +2,7 @@
 
 #include "app/version.h"
 #include "log/logwindow.h"
+#include "mainwindow/countline.h"
 #include "mainwindow/job.h"
 #include "packagetable/model.h"
 #include "packagetable/sortfilterproxymodel.h"
@@ -141,6 +142,7 @@ void MainWindow::showMainArea()
     else
         m_view->resizeColumnsToContents();
     anyFilterChanged();
+    m_countLine->countMarks();
 }
 
 void MainWindow::collect(Refresh why)
@@ -405,6 +407,7 @@ void MainWindow::stateChanged(int row)
     };
     const bool known = row >= 0 && row < m_yumIO->count() && hasAction((*m_yumIO)[row]);
     m_applyButton->setEnabled(known || std::any_of(m_yumIO->begin(), m_yumIO->end(), hasAction));
+    m_countLine->countMarks();
 }
 
 void MainWindow::about()

@@ -12,6 +12,8 @@
 
 #include <functional>
 
+class CountLine;
+class HElidedLabel;
 class HFrameLabel;
 class HMenu;
 class HProgressBar;
@@ -119,6 +121,7 @@ private:
     void createCacheMenu();
     void createHelpMenu();
     void createCentralWidget();
+    void createStatusLine();
     void createPlaceholder(QWidget *parent);
     void createTable();
     void createMainArea();
@@ -234,6 +237,8 @@ private:
     HProgressBar *m_totalBar = nullptr;
     HProgressBar *m_itemBar = nullptr;
     QPushButton *m_cancelButton = nullptr;
+    HElidedLabel *m_message = nullptr;
+    CountLine *m_countLine = nullptr;
     RepoEditor::Dialog *m_repoEditor = nullptr;
     Log::Window *m_logWindow = nullptr;
 };

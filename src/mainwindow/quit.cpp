@@ -8,6 +8,7 @@
 #include "repo/authdialog.h"
 #include "repo/configdialog.h"
 #include "repo/editordialog.h"
+#include "widgets/helidedlabel.h"
 #include "widgets/scrollabledialogs.h"
 #include "yumio/yumio.h"
 
@@ -18,7 +19,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSettings>
-#include <QStatusBar>
 #include <QTimer>
 
 #include <utility>
@@ -51,7 +51,7 @@ MainWindow::Job::Job(MainWindow *window) : m_window(window->m_busy ? nullptr : w
         return;
     m_window->m_busy = true;
     m_window->m_rpmBegan = false;
-    m_window->statusBar()->clearMessage(); // of the job before
+    m_window->tell(QString()); // of the job before
     m_window->setReady(false);
 }
 
@@ -242,8 +242,6 @@ bool MainWindow::recallGeometry()
 // Shows a message under the bars; an empty one takes the last away.
 void MainWindow::tell(const QString &text)
 {
-    if (m_finished)
-        return;
-    statusBar()->showMessage(text);
-    statusBar()->setVisible(!text.isEmpty());
+    if (!m_finished)
+        m_message->setText(text);
 }

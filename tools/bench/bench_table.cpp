@@ -140,6 +140,8 @@ int main(int argc, char *argv[])
         for (Package::Entry *entry : engine)
             entry->action = Package::Action::Update;
     };
+    view->selectAll();
+    tell("marking all rows by their selection", measure([&] { window.setSelected(); }, clear), 100);
     tell("clearing the marks of all rows", measure(clear, mark), 100);
     mark();
     Marks marks;
@@ -156,7 +158,8 @@ int main(int argc, char *argv[])
              QApplication::sendEvent(view, &press);
          }),
          16);
-    view->selectAll();
+    tell("selecting all rows", measure([&] { view->selectAll(); }, [&] { view->clearSelection(); }),
+         100);
     tell("the same with all rows selected", measure([&] {
              view->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
          }),

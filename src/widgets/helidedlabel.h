@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+
+// A plain text on one line, cut where it does not fit; then the tool tip begins with the whole.
+class HElidedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit HElidedLabel(QWidget *parent = nullptr);
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString elided() const;
+};
