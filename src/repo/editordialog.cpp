@@ -141,8 +141,8 @@ QHBoxLayout *Dialog::createLowerRow()
     auto *row = new QHBoxLayout;
     m_status = new HFrameLabel(this);
     m_status->setObjectName(QStringLiteral("status"));
-    // Room for the usual text; a long identifier in another must not widen the window.
-    m_status->setText(tr("Unapplied Configuration Changes"));
+    // Room for the usual texts; a long identifier in another must not widen the window.
+    m_status->setText(unappliedText(99));
     m_status->setMinimumWidth(m_status->sizeHint().width());
     m_status->clear();
     row->addWidget(m_status);
@@ -300,6 +300,12 @@ QString Dialog::getDuplicateId() const
     return found == repos.end() ? QString() : found->id;
 }
 
+QString Dialog::unappliedText(int removed)
+{
+    const QString text = tr("Unapplied Configuration Changes");
+    return removed > 0 ? tr("%1: %n removed", nullptr, removed).arg(text) : text;
+}
+
 void Dialog::updateStatusLabel()
 {
     QString text;
@@ -311,9 +317,7 @@ void Dialog::updateStatusLabel()
         text = tr("Two or more repositories have the Identifier, %1").arg(id);
     } else if (isUnapplied()) {
         m_status->setPalette(Colors::makeOK(m_status->palette()));
-        text = tr("Unapplied Configuration Changes");
-        if (m_removed > 0)
-            text = tr("%1: %n removed", nullptr, m_removed).arg(text);
+        text = unappliedText(m_removed);
     } else if (!m_yumConfIO->unreadable().isEmpty()) {
         m_status->setPalette(Colors::makeWarning(m_status->palette()));
         text = tr("Some files cannot be read, so nothing can be applied");

@@ -78,6 +78,7 @@ private:
     bool hasEmptyId() const;
     QString getDuplicateId() const;
     void updateStatusLabel();
+    static QString unappliedText(int removed);
     void setEntryToOldId(const QString &id);
     void setEntryHasChanged(bool flag);
     void setConfigHasChanged(bool flag);

@@ -1,6 +1,7 @@
 #include "hframelabel.h"
 
 #include <QPainter>
+#include <QStyle>
 
 HFrameLabel::HFrameLabel(QWidget *parent) : HFrameLabel(QString(), parent) {}
 
@@ -14,10 +15,15 @@ HFrameLabel::HFrameLabel(const QString &text, QWidget *parent) : QLabel(parent)
     setText(text);
 }
 
-void HFrameLabel::paintEvent(QPaintEvent *event)
+void HFrameLabel::paintEvent(QPaintEvent *)
 {
     if (text().isEmpty())
         return;
-    QPainter(this).fillRect(rect(), palette().brush(backgroundRole()));
-    QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().brush(backgroundRole()));
+    drawFrame(&painter);
+    const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    style()->drawItemText(&painter, room, int(alignment()), palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
+                          foregroundRole());
 }

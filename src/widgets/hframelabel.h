@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-// A one-line status text in a frame, over the palette's Base colour. Without a text nothing is
-// drawn, but the place is kept. The text is plain.
+// A one-line status text in a frame, over the palette's Base colour; what has no room is elided.
+// Without a text nothing is drawn, but the place is kept. The text is plain.
 class HFrameLabel : public QLabel
 {
     Q_OBJECT
