@@ -34,6 +34,8 @@ QVariant SortFilterProxyModel::data(const QModelIndex &index, int role) const
         return m_model->isMarked(mapToSource(index)) ? Qt::Checked : Qt::Unchecked;
     if (isMark && role == Qt::AccessibleTextRole)
         return index.column() == SessColumn ? tr("Used in this session") : tr("Enabled");
+    if (isMark && role == Qt::AccessibleDescriptionRole)
+        return index.siblingAtColumn(IdColumn).data();
     return QSortFilterProxyModel::data(index, role);
 }
 

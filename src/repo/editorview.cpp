@@ -2,10 +2,10 @@
 
 #include "editormenu.h"
 #include "editormodel.h"
+#include "widgets/checkcells.h"
 #include "widgets/hheaderview.h"
 #include "widgets/hitemdelegate.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -57,6 +57,7 @@ View::View(Model *model, QSortFilterProxyModel *proxy, QWidget *parent)
     : HTableView(QStyleOptionViewItem::Left, minRows, maxRows, parent), m_model(model),
       m_proxy(proxy)
 {
+    makeCellsCheckable(this);
     setModel(proxy);
     setItemDelegate(new Delegate(proxy, this));
     setShowGrid(false);
@@ -140,23 +141,8 @@ void View::handleClicked(const QModelIndex &index)
 
 void View::toggle(const QModelIndex &index)
 {
-    if (index.column() > PermColumn || !index.isValid())
-        return;
-    const QModelIndex source = m_proxy->mapToSource(index);
-    if (source.column() == SessColumn)
-        m_model->toggleUse(source);
-    else
-        m_model->toggleEnabled(source);
-
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleInterface *table = QAccessible::queryAccessibleInterface(this);
-    QAccessibleInterface *cell =
-        table->tableInterface()->cellAt(index.row(), index.column()); // the table's
-    QAccessible::State changed;
-    changed.checked = true;
-    QAccessibleStateChangeEvent event(cell, changed);
-    QAccessible::updateAccessibility(&event);
+    const bool marked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    m_proxy->setData(index, marked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 // All selected repositories get the state that the current one gets.

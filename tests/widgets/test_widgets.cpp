@@ -1,14 +1,18 @@
 #include "rows.h"
 
+#include "widgets/checkcells.h"
 #include "widgets/htextedit.h"
 #include "widgets/messagebox.h"
 #include "widgets/scrollabledialogs.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStandardItemModel>
+#include <QTableView>
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
@@ -160,6 +164,51 @@ private Q_SLOTS:
         edit.clear();
         edit.appendCompact(u"d"_s);
         QCOMPARE(edit.toPlainText(), u"d"_s);
+    }
+
+    // A reader has every part of the table, and uses it while rows move and go.
+    void checkCells()
+    {
+        QStandardItemModel model(0, 2);
+        for (const QString &text : {u"b"_s, u"a"_s, u"c"_s}) {
+            auto *check = new QStandardItem;
+            check->setCheckable(true);
+            model.appendRow({check, new QStandardItem(text)});
+        }
+        QTableView view;
+        makeCellsCheckable(&view);
+        view.setModel(&model);
+        view.show();
+        QAccessibleInterface *table = QAccessible::queryAccessibleInterface(&view);
+        // As the view tells while a reader is there.
+        const auto changed = [&](QAccessibleTableModelChangeEvent::ModelChangeType type) {
+            QAccessibleTableModelChangeEvent event(&view, type);
+            table->tableInterface()->modelChange(&event);
+        };
+        QCOMPARE(table->childCount(), 12); // with the headers
+        QList<QAccessibleInterface *> cells;
+        for (int number = 0; number < 12; ++number) {
+            cells += table->child(number);
+            QCOMPARE(table->indexOfChild(cells.last()), number);
+        }
+        QCOMPARE(cells[2]->text(QAccessible::Name), u"2"_s);
+        QCOMPARE(cells[8]->text(QAccessible::Name), u"a"_s);
+        QVERIFY(!cells[8]->state().checkable && !cells[8]->state().checked);
+        QVERIFY(cells[7]->state().checkable && !cells[7]->state().checked);
+        cells[7]->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(model.item(1)->checkState(), Qt::Checked);
+        QVERIFY(cells[7]->state().checked && !cells[7]->state().selected);
+        cells[8]->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(cells[8]->state().selected && view.selectionModel()->isSelected(model.index(1, 1)));
+
+        model.sort(1);
+        QCOMPARE(table->indexOfChild(cells[7]), 4);
+        model.removeRow(0);
+        changed(QAccessibleTableModelChangeEvent::RowsRemoved);
+        QVERIFY(!table->child(9) && table->child(4) == cells[4]);
+        model.clear();
+        changed(QAccessibleTableModelChangeEvent::ModelReset);
+        QCOMPARE(table->childCount(), 1);
     }
 
 private:
