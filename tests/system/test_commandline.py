@@ -18,26 +18,34 @@ OPTIONS = """-h -H --help -m --mode=m -e --regexp=r -s --state=s -d --duplicates
 --disablerepo=r --enablerepo=r""".split()
 
 
-class WebBrowser(unittest.TestCase):
+class Helpers(unittest.TestCase):
     def test_what_is_opened(self):
         with tempfile.TemporaryDirectory() as directory:
             seen = pathlib.Path(directory, "seen")
             opener = pathlib.Path(directory, "opener")
             opener.write_text(f"#!/bin/sh\nprintf '%s|' \"$@\" > {seen}\n")
             opener.chmod(0o755)
-            for address, opened in [
-                    ("https://a.example/?x='$(id)';&y=a b", True), ("HTTP://a", True), (directory, True),
-                    ("file:///etc", True), ("/not/there", False), ("javascript:1", False), ("--help", False)]:
+            own = f"/not/there:{opener}"
+            pdf = "application/pdf"
+            for *words, opened in [
+                    ("webbrowser", "https://a.example/?x='$(id)';&y=a b", True), ("webbrowser", "HTTP://a", True),
+                    ("webbrowser", directory, True), ("webbrowser", "file:///etc", True),
+                    ("webbrowser", "/not/there", False), ("webbrowser", "javascript:1", False),
+                    ("webbrowser", "--help", False),
+                    ("mimeviewer", pdf, str(opener), True), ("mimeviewer", "text/html", str(opener), True),
+                    ("mimeviewer", pdf, "/not/there", False), ("mimeviewer", pdf, directory, False),
+                    ("mimeviewer", pdf, "--help", False), ("mimeviewer", "$(id)/pdf", str(opener), False),
+                    ("mimeviewer", "pdf", str(opener), False), ("mimeviewer", str(opener), False)]:
                 for options in (["--check"], []):
-                    with self.subTest(address=address, options=options):
+                    with self.subTest(words=words, options=options):
                         seen.unlink(missing_ok=True)
-                        done = subprocess.run([BUILD / "share/vok/webbrowser", *options, address],
-                                              env=dict(os.environ, BROWSER=f"/not/there:{opener}"),
+                        done = subprocess.run([BUILD / "share/vok" / words[0], *options, *words[1:]],
+                                              env=dict(os.environ, BROWSER=own, PDFVIEWER=own),
                                               capture_output=True, text=True)
                         self.assertEqual(done.returncode == 0, opened)
                         self.assertEqual(bool(done.stderr), not opened)
                         text = seen.read_text() if seen.exists() else ""
-                        self.assertEqual(text, address + "|" if opened and not options else "")
+                        self.assertEqual(text, words[-1] + "|" if opened and not options else "")
 
 
 class CommandLine(unittest.TestCase):
