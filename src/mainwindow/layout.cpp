@@ -103,15 +103,11 @@ void MainWindow::createHelpMenu()
     auto *menu = new HMenu(tr("&Help"), this);
     menu->setObjectName(QStringLiteral("helpMenu"));
     menuBar()->addMenu(menu);
-    QAction *html = menu->addAction(tr("Manual (html)"));
+    QAction *html = menu->addAction(tr("Manual (html)"), this, &MainWindow::manualHtml);
     html->setObjectName(QStringLiteral("manualHtmlAction"));
     html->setShortcut(QKeySequence(Qt::Key_F1));
-    QAction *pdf = menu->addAction(tr("Manual (PDF)"));
-    pdf->setObjectName(QStringLiteral("manualPdfAction"));
-    for (QAction *action : {html, pdf}) {
-        action->setEnabled(false);
-        action->setToolTip(tr("Not available yet"));
-    }
+    menu->addAction(tr("Manual (PDF)"), this, &MainWindow::manualPdf)
+        ->setObjectName(QStringLiteral("manualPdfAction"));
     menu->addSeparator();
     menu->addAction(tr("&About"), this, &MainWindow::about)
         ->setObjectName(QStringLiteral("aboutAction"));

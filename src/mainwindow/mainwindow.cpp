@@ -1,6 +1,5 @@
 #include "mainwindow/mainwindow.h"
 
-#include "app/version.h"
 #include "log/logwindow.h"
 #include "mainwindow/countline.h"
 #include "mainwindow/job.h"
@@ -19,7 +18,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
@@ -408,21 +406,4 @@ void MainWindow::stateChanged(int row)
     const bool known = row >= 0 && row < m_yumIO->count() && hasAction((*m_yumIO)[row]);
     m_applyButton->setEnabled(known || std::any_of(m_yumIO->begin(), m_yumIO->end(), hasAction));
     m_countLine->countMarks();
-}
-
-void MainWindow::about()
-{
-    QMessageBox::about(
-        this, tr("About"),
-        tr("<h3>VOK %1</h3><hr><p>VOK, Vokmanager, is a graphical user interface which allows a "
-           "user to make modifications to the installed rpm packages on a system.</p>"
-           "<p>Capabilities:<p><ul><li>Install new packages or update existing packages by "
-           "downloading them from a yum package repository</li><li>Remove existing "
-           "packages.</li><li>Configure sets of repositories from which to obtain new and updated "
-           "packages.</li><li>Examine installed packages or packages available for installation or "
-           "update</li><li>Install, update, or remove groups of packages</li><li>Install or update "
-           "suites of packages</li></ul>")
-                .arg(QStringLiteral(VOK_VERSION)) +
-            tr("<p>For more information see the documentation in /usr/share/doc/vok-%1.</p>")
-                .arg(QStringLiteral(VOK_VERSION)));
 }

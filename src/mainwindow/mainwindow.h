@@ -93,6 +93,8 @@ public Q_SLOTS:
     // After a change: asks for credentials that are missing, and collects again.
     void reposChanged();
     void cancel();
+    void manualHtml();
+    void manualPdf();
     void about();
     void yumConfIOChanged();
     void collectedExtraData();
@@ -130,6 +132,9 @@ private:
     QLayout *createBarsRow();
     void connectMainArea();
     void warnConfigure();
+
+    // manuals.cpp
+    void showManual(const QString &helper, const QStringList &arguments, const QString &file);
 
     // filters.cpp
     bool isSearchMode() const;

@@ -78,10 +78,6 @@ private Q_SLOTS:
         QVERIFY(!action("cleanPickledCacheAction")->isEnabled());
         QVERIFY(action("cleanSqliteCacheAction")->isEnabled());
         QVERIFY(action("editConfigurationAction")->isEnabled());
-        for (const char *name : {"manualHtmlAction", "manualPdfAction"}) {
-            QVERIFY(!action(name)->isEnabled());
-            QVERIFY(action(name)->toolTip() != action(name)->text());
-        }
         QVERIFY(action("cleanAllAction")->toolTip().contains(u"/cache/here"_s));
     }
 
