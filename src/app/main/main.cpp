@@ -10,13 +10,26 @@
 
 #include <QIcon>
 
+namespace {
+
+QIcon programIcon()
+{
+    QIcon icon(Share::absolute(QStringLiteral("pixmaps/vok.icon.png")));
+    for (const int size : {16, 24, 32, 48, 64, 256})
+        icon.addFile(Share::absolute(QStringLiteral("pixmaps/vok.icon-%1.png").arg(size)));
+    return icon;
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
     DefaultStyle style(argc, const_cast<const char **>(argv));
     Application app(argc, argv);
     installTranslations(app);
     style.set(app, QStringLiteral("plastique"));
-    app.setWindowIcon(QIcon(Share::absolute(QStringLiteral("pixmaps/vok.icon.png"))));
+    app.setWindowIcon(programIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("vok"));
     setProgramName(argv[0]);
 
     MainWindow window;
