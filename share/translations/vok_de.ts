@@ -163,30 +163,6 @@ This corresponds to yum&apos;s debuglevel (-d) option.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> ... (%1 characters more; Save writes them all)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;font&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;/font&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;/font&gt;&lt;/h2&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Save Log</source>
         <translation type="unfinished"></translation>
     </message>
@@ -198,6 +174,13 @@ This corresponds to yum&apos;s debuglevel (-d) option.</source>
         <source>Unable to save the log to %1:
 %2</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source> ... (%n characters more; Save writes them all)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -936,18 +919,6 @@ Refresh the table? What is marked stays marked where that is still possible.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>1 file</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%L1 files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%L1 of %L2 files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>There is no change log.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1014,6 +985,20 @@ Refresh the table? What is marked stays marked where that is still possible.
     <message>
         <source>Conditional packages</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%L1 of %Ln files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1230,10 +1215,6 @@ The search has not been run to its end.</source>
 <context>
     <name>Progress::Minion</name>
     <message>
-        <source>%1 downloads</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Complete</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1251,6 +1232,61 @@ The search has not been run to its end.</source>
     </message>
     <message>
         <source>%1 / %2 (%3%%)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n downloads</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Python</name>
+    <message>
+        <source>Internal error: pyExceptExpect called with NULL
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: python exception occurred, but exception information was empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: python exception occurred from C code.
+When reporting this issue, please include the contents of the
+Log window, which should contain a walkback.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: cannot start the python interpreter
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: cannot find python __main__ module
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: cannot find python __main__ dict
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: python statement too long
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: python expression too long
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: pyString passed NULL python object
+</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2415,14 +2451,6 @@ Under the Repositories menu, Edit Configuration can be used to configure reposit
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Downloading repository contents for %1 repositories</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Downloading %1 packages</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Downloading %1 header</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3000,6 +3028,67 @@ Import the key, and trust what is signed with it?</source>
     </message>
     <message>
         <source>Running Transaction: Total Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>getRpmHdrValue called for package with no hdr (i.e. not installed)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading repository contents for %n repositories</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n packages</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>getGroupItem_22 called for incorrect version of yum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>getGroupItem_25 called for incorrect version of yum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: applyGrpConflict unexpected package state
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: txmbr lacks pkgtup
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: package has no relatedto
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: couldn&apos;t find obsoletedby package
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: yumIO.tsInfo not found
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: yumIO.makelists() did not return a tuple
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal error: yumIO.makelists() returned tuple of incorrect size
+</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

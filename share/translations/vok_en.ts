@@ -2,12 +2,66 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Log::Window</name>
+    <message numerus="yes">
+        <source> ... (%n characters more; Save writes them all)</source>
+        <translation>
+            <numerusform> ... (%n character more; Save writes it too)</numerusform>
+            <numerusform> ... (%n characters more; Save writes them all)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::Describe::Dialog</name>
+    <message numerus="yes">
+        <source>%Ln files</source>
+        <translation>
+            <numerusform>%Ln file</numerusform>
+            <numerusform>%Ln files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%L1 of %Ln files</source>
+        <translation>
+            <numerusform>%L1 of %Ln file</numerusform>
+            <numerusform>%L1 of %Ln files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Progress::Minion</name>
+    <message numerus="yes">
+        <source>%n downloads</source>
+        <translation>
+            <numerusform>%n download</numerusform>
+            <numerusform>%n downloads</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RepoEditor::Dialog</name>
     <message numerus="yes">
         <source>%1: %n removed</source>
         <translation>
             <numerusform>%1: %n removed</numerusform>
             <numerusform>%1: %n removed</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>YumIO</name>
+    <message numerus="yes">
+        <source>Downloading repository contents for %n repositories</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n packages</source>
+        <translation>
+            <numerusform>Downloading %n package</numerusform>
+            <numerusform>Downloading %n packages</numerusform>
         </translation>
     </message>
 </context>

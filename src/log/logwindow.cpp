@@ -230,7 +230,8 @@ QString Log::Window::toHtml(const Entry &entry)
     QString text = entry.text;
     QString note;
     if (text.size() > longestText) {
-        note = tr(" ... (%1 characters more; Save writes them all)").arg(text.size() - longestText);
+        note = tr(" ... (%n characters more; Save writes them all)", nullptr,
+                  int(text.size() - longestText));
         text.truncate(longestText);
     }
     text = harmless(text);
@@ -243,18 +244,23 @@ QString Log::Window::toHtml(const Entry &entry)
     switch (entry.kind) {
     case Kind::Normal:
         if (entry.level < highestLevel)
-            return tr("<font>") + text + tr("</font>");
-        return colored(tr("<font color=\"%1\">"), Colors::minor(), tr("</font>"));
+            return QStringLiteral("<font>") + text + QStringLiteral("</font>");
+        return colored(QStringLiteral("<font color=\"%1\">"), Colors::minor(),
+                       QStringLiteral("</font>"));
     case Kind::Ok:
-        return colored(tr("<font color=\"%1\">"), Colors::ok(), tr("</font>"));
+        return colored(QStringLiteral("<font color=\"%1\">"), Colors::ok(),
+                       QStringLiteral("</font>"));
     case Kind::Warning:
-        return colored(tr("<font color=\"%1\">"), Colors::warning(), tr("</font>"));
+        return colored(QStringLiteral("<font color=\"%1\">"), Colors::warning(),
+                       QStringLiteral("</font>"));
     case Kind::Action:
-        return colored(tr("<h2><font color=\"%1\">"), Colors::action(), tr("</font></h2>"));
+        return colored(QStringLiteral("<h2><font color=\"%1\">"), Colors::action(),
+                       QStringLiteral("</font></h2>"));
     case Kind::Error:
         break;
     }
-    return colored(tr("<font color=\"%1\">"), Colors::error(), tr("</font>"));
+    return colored(QStringLiteral("<font color=\"%1\">"), Colors::error(),
+                   QStringLiteral("</font>"));
 }
 
 void Log::Window::htmlProtect(QString &text)

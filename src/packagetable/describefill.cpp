@@ -225,8 +225,8 @@ void Dialog::filterFiles()
     m_files->setFilter(m_fileFilter->text());
     const int count = m_files->fileCount();
     m_fileCount->setText(m_files->shownCount() == count
-                             ? (count == 1 ? tr("1 file") : tr("%L1 files").arg(count))
-                             : tr("%L1 of %L2 files").arg(m_files->shownCount()).arg(count));
+                             ? tr("%Ln files", nullptr, count)
+                             : tr("%L1 of %Ln files", nullptr, count).arg(m_files->shownCount()));
     if (m_files->shownCount() <= fewFiles)
         m_fileTree->expandAll();
     else

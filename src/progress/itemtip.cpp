@@ -72,7 +72,7 @@ void Progress::Minion::setupTip(GeneralTip *tip, void *minion)
     const bool condense = finished > finishedRows;
     TipTable table(tip);
     if (condense)
-        table.addRow(tr("%1 downloads").arg(finished), tr("Complete"), completeColor);
+        table.addRow(tr("%n downloads", nullptr, int(finished)), tr("Complete"), completeColor);
     for (unsigned int i = 0; i < threads.count(); ++i) {
         const ThreadState &thread = threads[i];
         switch (thread.state) {
@@ -91,7 +91,7 @@ void Progress::Minion::setupTip(GeneralTip *tip, void *minion)
         }
     }
     if (idle)
-        table.addRow(tr("%1 downloads").arg(idle), tr("Not Started Yet"), waitingColor);
+        table.addRow(tr("%n downloads", nullptr, int(idle)), tr("Not Started Yet"), waitingColor);
 }
 
 // A maximum of 1 stands for a size that is not known.

@@ -2,6 +2,8 @@
 
 #include "python.h"
 
+#include <QtGlobal>
+
 // Exception steering and reporting.
 
 void Python::pyExceptStart()
@@ -12,7 +14,7 @@ void Python::pyExceptStart()
 void Python::pyExceptExpect(PyObject *type)
 {
     if (!type)
-        error("Internal error: pyExceptExpect called with NULL\n");
+        error(QT_TRANSLATE_NOOP("Python", "Internal error: pyExceptExpect called with NULL\n"));
     if (m_expected.empty())
         m_expected.emplace_back();
     m_expected.back().push_back(type);
@@ -53,16 +55,19 @@ void Python::exceptionError()
     const PyRef typeRef(type), valueRef(value), tracebackRef(traceback);
     if (!type) {
         PyErr_Clear();
-        error("Internal error: python exception occurred, but exception information was empty.");
+        error(QT_TRANSLATE_NOOP(
+            "Python",
+            "Internal error: python exception occurred, but exception information was empty."));
         return;
     }
     if (value && traceback)
         PyException_SetTraceback(value, traceback);
     PyErr_Display(type, value, traceback);
     PyErr_Clear();
-    error("Internal error: python exception occurred from C code.\n"
-          "When reporting this issue, please include the contents of the\n"
-          "Log window, which should contain a walkback.");
+    error(QT_TRANSLATE_NOOP("Python",
+                            "Internal error: python exception occurred from C code.\n"
+                            "When reporting this issue, please include the contents of the\n"
+                            "Log window, which should contain a walkback."));
 }
 
 PyObject *Python::pyExceptValue()

@@ -2,6 +2,8 @@
 
 #include "python.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 #include <cstdio>
 #include <string>
@@ -93,7 +95,7 @@ bool Python::initialize()
     if (s_initialized)
         return true;
     if (!Py_IsInitialized() && !startInterpreter()) {
-        error("Internal error: cannot start the python interpreter\n");
+        error(QT_TRANSLATE_NOOP("Python", "Internal error: cannot start the python interpreter\n"));
         return false;
     }
     s_initialized = true;
@@ -103,12 +105,12 @@ bool Python::initialize()
     PyObject *main = PyImport_AddModule("__main__");
     if (!main) {
         PyErr_Clear();
-        error("Internal error: cannot find python __main__ module\n");
+        error(QT_TRANSLATE_NOOP("Python", "Internal error: cannot find python __main__ module\n"));
         return false;
     }
     s_mainDict = PyModule_GetDict(main);
     if (!s_mainDict) {
-        error("Internal error: cannot find python __main__ dict\n");
+        error(QT_TRANSLATE_NOOP("Python", "Internal error: cannot find python __main__ dict\n"));
         return false;
     }
     return true;
@@ -147,7 +149,7 @@ void Python::pyf(const char *format, ...)
     const int length = std::vsnprintf(text, sizeof text, format, arguments);
     va_end(arguments);
     if (length < 0 || size_t(length) >= sizeof text)
-        error("Internal error: python statement too long\n");
+        error(QT_TRANSLATE_NOOP("Python", "Internal error: python statement too long\n"));
     else
         py(text);
 }
@@ -160,7 +162,7 @@ PyObject *Python::pyrf(const char *format, ...)
     const int length = std::vsnprintf(text, sizeof text, format, arguments);
     va_end(arguments);
     if (length < 0 || size_t(length) >= sizeof text) {
-        error("Internal error: python expression too long\n");
+        error(QT_TRANSLATE_NOOP("Python", "Internal error: python expression too long\n"));
         return nullptr;
     }
     return pyr(text);
@@ -308,7 +310,7 @@ int Python::pyAssignGlobal(const char *name, PyObject *value)
 const char *Python::pyString(PyObject *obj)
 {
     if (!obj) {
-        error("Internal error: pyString passed NULL python object\n");
+        error(QT_TRANSLATE_NOOP("Python", "Internal error: pyString passed NULL python object\n"));
         return nullptr;
     }
     if (obj == Py_None)

@@ -229,7 +229,7 @@ PyObject *YumIO::getRpmHdrValue(PyObject *po, const char *tag)
     const PyRef header(PyObject_GetAttrString(po, "hdr"));
     if (!header) {
         PyErr_Clear();
-        error("getRpmHdrValue called for package with no hdr (i.e. not installed)");
+        error(tr("getRpmHdrValue called for package with no hdr (i.e. not installed)"));
         return nullptr;
     }
     const QByteArray name = QByteArray("RPMTAG_") + tag;

@@ -175,7 +175,7 @@ PyObject *YumIO::collectGrabMultiMeterStart(PyObject *, PyObject *args)
     m_metadata.meters.byId.clear();
     if (m_progress) {
         m_progress->changeItemActivity(
-            tr("Downloading repository contents for %1 repositories").arg(count));
+            tr("Downloading repository contents for %n repositories", nullptr, int(count)));
     }
     Py_RETURN_NONE;
 }
@@ -222,14 +222,14 @@ PyObject *YumIO::applyGrabMultiMeterStart(PyObject *, PyObject *args)
     // A second round after the rebuilding of deltas has no units of its own left.
     if (m_packages.deltaRebuildShown) {
         m_progress->setupItemActs(0, 1);
-        m_progress->setupItemActsThreads(tr("Downloading %1 packages").arg(count), 0, 1,
+        m_progress->setupItemActsThreads(tr("Downloading %n packages", nullptr, int(count)), 0, 1,
                                          m_packages.meters.threads, std::max(bytes, 1LL));
         Py_RETURN_NONE;
     }
     const quint64 end = std::min(m_apply.actPosition + quint64(std::max(bytes, 0LL)),
                                  std::max(quint64(m_apply.bytesToDownload), m_apply.actPosition));
     m_apply.actPosition = end;
-    m_progress->setupItemActsThreads(tr("Downloading %1 packages").arg(count),
+    m_progress->setupItemActsThreads(tr("Downloading %n packages", nullptr, int(count)),
                                      Steps(m_apply.downloadBudget), end + 1,
                                      m_packages.meters.threads, std::max(bytes, 1LL));
     Py_RETURN_NONE;

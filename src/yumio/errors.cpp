@@ -4,6 +4,7 @@
 #include "progress/progress.h"
 #include "yumio.h"
 
+#include <QCoreApplication>
 #include <QMutexLocker>
 
 #include <cerrno>
@@ -27,7 +28,7 @@ void YumIO::warning(const QString &text)
 
 void YumIO::error(const char *message)
 {
-    error(QString::fromUtf8(message));
+    error(QCoreApplication::translate("Python", message));
 }
 
 void YumIO::warning(const char *message)

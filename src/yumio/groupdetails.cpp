@@ -123,7 +123,7 @@ QStringList YumIO::textsOf(PyObject *iterable)
 PyObject *YumIO::getGroupItem_22(const Package::Entry &entry, const char *attribute)
 {
     if (hasDistribGroups()) {
-        error("getGroupItem_22 called for incorrect version of yum");
+        error(tr("getGroupItem_22 called for incorrect version of yum"));
         return nullptr;
     }
     const PyRef map(PyObject_GetAttrString(entry.po, attribute));
@@ -144,7 +144,7 @@ PyObject *YumIO::getGroupItem_22(const Package::Entry &entry, const char *attrib
 PyObject *YumIO::getGroupItem_25(const Package::Entry &entry, const char *attribute)
 {
     if (!hasDistribGroups()) {
-        error("getGroupItem_25 called for incorrect version of yum");
+        error(tr("getGroupItem_25 called for incorrect version of yum"));
         return nullptr;
     }
     PyObject *item = PyObject_GetAttrString(entry.po, attribute);

@@ -153,7 +153,7 @@ int YumIO::applyGrpConflict(const Package::Entry *group, Package::Entry *package
         implied = Package::Action::Remove;
         break;
     default:
-        error("Internal error: applyGrpConflict unexpected package state\n");
+        error(tr("Internal error: applyGrpConflict unexpected package state\n"));
         return 0;
     }
     const QString groupAction = actionName(group->applyAction);

@@ -233,7 +233,7 @@ bool YumIO::forEachMember(PyObject *list,
     while (const PyRef member = PyRef(PyIter_Next(iterator.get()))) {
         const PyRef pkgtup = attribute(member.get(), "pkgtup");
         if (!pkgtup) {
-            error("Internal error: txmbr lacks pkgtup\n");
+            error(tr("Internal error: txmbr lacks pkgtup\n"));
             return false;
         }
         if (!line(member.get(), pkgtup.get()))
@@ -264,12 +264,12 @@ bool YumIO::displayTransactionPkgsObs(const QString &title, PyObject *list)
     return forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
         const PyRef relatedTo = attribute(member, "relatedto");
         if (!relatedTo) {
-            error("Internal error: package has no relatedto\n");
+            error(tr("Internal error: package has no relatedto\n"));
             return false;
         }
         const PyRef by = findRelation(relatedTo.get(), "obsoletedby");
         if (!by) {
-            error("Internal error: couldn't find obsoletedby package\n");
+            error(tr("Internal error: couldn't find obsoletedby package\n"));
             return false;
         }
         m_confirmation.text +=
@@ -282,7 +282,7 @@ bool YumIO::makeLists(PyObject *owner, TransactionLists &lists)
 {
     lists.tsInfo = attribute(owner, "tsInfo");
     if (!lists.tsInfo) {
-        error("Internal error: yumIO.tsInfo not found\n");
+        error(tr("Internal error: yumIO.tsInfo not found\n"));
         return false;
     }
     lists.made = PyRef(pyMethodCall(lists.tsInfo.get(), "makelists", "()"));
@@ -294,11 +294,11 @@ bool YumIO::makeLists(PyObject *owner, TransactionLists &lists)
                                   &lists.depremoved};
     if (yumVersion() < 20302) {
         if (!PyTuple_Check(lists.made.get())) {
-            error("Internal error: yumIO.makelists() did not return a tuple\n");
+            error(tr("Internal error: yumIO.makelists() did not return a tuple\n"));
             return false;
         }
         if (PyTuple_Size(lists.made.get()) != 7) {
-            error("Internal error: yumIO.makelists() returned tuple of incorrect size\n");
+            error(tr("Internal error: yumIO.makelists() returned tuple of incorrect size\n"));
             return false;
         }
         for (Py_ssize_t i = 0; i < 7; ++i)
