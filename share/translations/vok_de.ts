@@ -2,46 +2,98 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CountLine</name>
+    <message>
+        <source>The download size is that of the marked packages alone, without what they depend on
+and without the members of marked groups.</source>
+        <translation>Die Downloadgröße ist die der vorgemerkten Pakete allein, ohne das, was sie benötigen,
+und ohne die Mitglieder vorgemerkter Gruppen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln listed</source>
+        <translation>
+            <numerusform>%Ln gelistet</numerusform>
+            <numerusform>%Ln gelistet</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln ausgewählt</numerusform>
+            <numerusform>%Ln ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln to update</source>
+        <translation>
+            <numerusform>%Ln zu aktualisieren</numerusform>
+            <numerusform>%Ln zu aktualisieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln to install</source>
+        <translation>
+            <numerusform>%Ln zu installieren</numerusform>
+            <numerusform>%Ln zu installieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln to remove</source>
+        <translation>
+            <numerusform>%Ln zu entfernen</numerusform>
+            <numerusform>%Ln zu entfernen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>; marked: %1</source>
+        <translation>; vorgemerkt: %1</translation>
+    </message>
+    <message>
+        <source>; %1 to download</source>
+        <translation>; %1 herunterzuladen</translation>
+    </message>
+</context>
+<context>
     <name>EntryCheck</name>
     <message>
         <source>a blank</source>
-        <translation type="unfinished"></translation>
+        <translation>einem Leerzeichen</translation>
     </message>
     <message>
         <source>a line break</source>
-        <translation type="unfinished"></translation>
+        <translation>einem Zeilenumbruch</translation>
     </message>
     <message>
         <source>the character %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dem Zeichen %1</translation>
     </message>
     <message>
         <source>the character U+%1</source>
-        <translation type="unfinished"></translation>
+        <translation>dem Zeichen U+%1</translation>
     </message>
     <message>
         <source>DNF takes no repository named main</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF nimmt keine Paketquelle namens main</translation>
     </message>
     <message>
         <source>DNF takes no Identifier with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF nimmt keine Kennung mit %1</translation>
     </message>
     <message>
         <source>The Identifier %1 differs in case only</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kennung %1 unterscheidet sich nur in Groß- und Kleinschreibung</translation>
     </message>
     <message>
         <source>DNF leaves out the whole file for a line without &quot;=&quot;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wegen einer Zeile ohne „=“ lässt DNF die ganze Datei aus: %1</translation>
     </message>
     <message>
         <source>DNF does not know the option %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF kennt die Option %1 nicht.</translation>
     </message>
     <message>
         <source>%1  Is %2 meant?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  Ist %2 gemeint?</translation>
     </message>
 </context>
 <context>
@@ -52,78 +104,78 @@
     </message>
     <message>
         <source>fork() failed; errno = %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>fork() ist fehlgeschlagen; errno = %1 (%2)</translation>
     </message>
     <message>
         <source>%1() failed; errno = %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1() ist fehlgeschlagen; errno = %2 (%3)</translation>
     </message>
     <message>
         <source>%1 does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 antwortet nicht.</translation>
     </message>
 </context>
 <context>
     <name>Fonts</name>
     <message>
         <source>Bitstream Vera Sans Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitstream Vera Sans Mono</translation>
     </message>
     <message>
         <source>DejaVu Sans Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>DejaVu Sans Mono</translation>
     </message>
     <message>
         <source>Monospace</source>
-        <translation type="unfinished"></translation>
+        <translation>Monospace</translation>
     </message>
     <message>
         <source>Courier</source>
-        <translation type="unfinished"></translation>
+        <translation>Courier</translation>
     </message>
 </context>
 <context>
     <name>HProgressBar</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>JobProgress</name>
     <message>
         <source>Total progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Progress of the current step</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des laufenden Schritts</translation>
     </message>
 </context>
 <context>
     <name>Log::FindBar</name>
     <message>
         <source>Find:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen:</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste</translation>
     </message>
     <message>
         <source>&amp;Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige</translation>
     </message>
 </context>
 <context>
     <name>Log::Window</name>
     <message>
         <source>VOK Log</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Protokoll</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>Threshold beyond which more detailed log messages are omitted.
@@ -132,54 +184,60 @@ The valid range is 0 .. %1.
 The default is %2.
 Higher levels contain debug information.
 This corresponds to yum&apos;s debuglevel (-d) option.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwelle, jenseits der genauere Meldungen des Protokolls wegbleiben.
+Höhere Stufen zeigen mehr Einzelheiten.
+Gültig sind 0 .. %1.
+Vorgabe ist %2.
+Höhere Stufen enthalten Angaben zur Fehlersuche.
+Dies entspricht der Option debuglevel (-d) von yum.</translation>
     </message>
     <message>
         <source>Detail level</source>
-        <translation type="unfinished"></translation>
+        <translation>Detailstufe</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suchen</translation>
     </message>
     <message>
         <source>Find a text in the Log Window (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Text im Protokoll suchen (Strg+F)</translation>
     </message>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;peichern ...</translation>
     </message>
     <message>
         <source>Save the log messages up to the Detail level to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Meldungen bis zur Detailstufe in eine Datei speichern</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>Close the Log Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokollfenster schließen</translation>
     </message>
     <message>
         <source>Save Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll speichern</translation>
     </message>
     <message>
         <source>VOK Log Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Fehler beim Protokoll</translation>
     </message>
     <message>
         <source>Unable to save the log to %1:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokoll lässt sich nicht in %1 speichern:
+%2</translation>
     </message>
     <message numerus="yes">
         <source> ... (%n characters more; Save writes them all)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> ... (%n weiteres Zeichen; Speichern schreibt es mit)</numerusform>
+            <numerusform> ... (%n weitere Zeichen; Speichern schreibt sie alle)</numerusform>
         </translation>
     </message>
 </context>
@@ -187,320 +245,333 @@ This corresponds to yum&apos;s debuglevel (-d) option.</source>
     <name>MainWindow</name>
     <message>
         <source>The search was cancelled; the table is as before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche wurde abgebrochen; die Tabelle ist wie zuvor.</translation>
     </message>
     <message>
         <source>The search has not seen the change logs of available packages: they were not loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche hat die Änderungsprotokolle der verfügbaren Pakete nicht gesehen: Sie waren nicht geladen.</translation>
     </message>
     <message>
         <source>The search has not seen the file lists of available packages: they were not loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche hat die Dateilisten der verfügbaren Pakete nicht gesehen: Sie waren nicht geladen.</translation>
     </message>
     <message>
         <source>The search has not seen the file lists and change logs of available packages: they were not loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche hat die Dateilisten und Änderungsprotokolle der verfügbaren Pakete nicht gesehen: Sie waren nicht geladen.</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Regular expression to compare to all fields of a package</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck, mit dem alle Felder eines Pakets verglichen werden</translation>
     </message>
     <message>
         <source>Perform the search for the regular expression specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach dem links angegebenen regulären Ausdruck suchen</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>Regular expression filter matching textual fields visible in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck für die Textfelder, die in der Tabelle zu sehen sind</translation>
     </message>
     <message>
         <source>Apply the filter specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Den links angegebenen Filter anwenden</translation>
     </message>
     <message>
         <source>Specify the method for using a regular expression to select packages in the table:
 	Filter uses the textual fields visible in the table, as if they were separated by spaces.
 	Search uses all fields in packages, including list of Files, Change Log, Requires, etc.,
 	independently.  It is considerably slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie ein regulärer Ausdruck die Pakete der Tabelle auswählt:
+	Filtern nimmt die Textfelder, die in der Tabelle zu sehen sind, wie durch Leerzeichen getrennt.
+	Suchen nimmt alle Felder der Pakete, auch Dateien, Änderungsprotokoll, Abhängigkeiten usw.,
+	jedes für sich. Das dauert erheblich länger.</translation>
     </message>
     <message>
         <source>%1 (Must load extra data.)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Dazu müssen weitere Daten geladen werden.)</translation>
     </message>
     <message>
         <source>Unlisted Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gelistete Aktionen</translation>
     </message>
     <message>
         <source>Some packages have actions specified, but because of the current
 Mode, Filter, Search, State, Duplicates, and Groups settings,
 these packages are not listed currently.
 Pressing Apply will cause these actions to occur nonetheless.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für einige Pakete sind Aktionen festgelegt, doch wegen der Einstellungen
+von Modus, Filter, Suche, Zustand, Duplikaten und Gruppen
+sind diese Pakete zurzeit nicht gelistet.
+„Aktionen anwenden“ führt ihre Aktionen trotzdem aus.</translation>
     </message>
     <message>
         <source>&amp;Program</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Programm</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fenster</translation>
     </message>
     <message>
         <source>&amp;Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Protoko&amp;ll</translation>
     </message>
     <message>
         <source>&amp;Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket&amp;quellen</translation>
     </message>
     <message>
         <source>&amp;Edit Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfiguration b&amp;earbeiten</translation>
     </message>
     <message>
         <source>&amp;Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischenspeicher</translation>
     </message>
     <message>
         <source>Clean Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketköpfe löschen</translation>
     </message>
     <message>
         <source>Clean Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete löschen</translation>
     </message>
     <message>
         <source>Clean XML Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>XML-Metadaten löschen</translation>
     </message>
     <message>
         <source>Clean Pickled Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Pickle-Daten löschen</translation>
     </message>
     <message>
         <source>Clean Sqlite Data</source>
-        <translation type="unfinished"></translation>
+        <translation>SQLite-Daten löschen</translation>
     </message>
     <message>
         <source>Clean All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles löschen</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Manual (html)</source>
-        <translation type="unfinished"></translation>
+        <translation>Handbuch (HTML)</translation>
     </message>
     <message>
         <source>Manual (PDF)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not available yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Handbuch (PDF)</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Info</translation>
     </message>
     <message>
         <source>R&amp;ead the Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete &amp;einlesen</translation>
     </message>
     <message>
         <source>Collects the packages of the system and of the repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermittelt die Pakete des Systems und der Paketquellen</translation>
     </message>
     <message>
         <source>Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck</translation>
     </message>
     <message>
         <source>Filter for those packages which are eligible for updating,
 for installing, or for removing; or show all packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Pakete zeigen, die aktualisiert,
+installiert oder entfernt werden können; oder alle Pakete</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Include Duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Duplikaten</translation>
     </message>
     <message>
         <source>Whether or not filter should include packages with duplicate names.
 If unchecked, the package with the architecture closest to the base architecture is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Filter mehrere Pakete desselben Namens durchlässt.
+Sonst wird nur das Paket gezeigt, dessen Architektur der Grundarchitektur am nächsten kommt.</translation>
     </message>
     <message>
         <source>Include Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Gruppen</translation>
     </message>
     <message>
         <source>Whether or not filter should include package groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Filter Paketgruppen durchlässt</translation>
     </message>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;schreibung</translation>
     </message>
     <message>
         <source>Pop up a window with a detailed description of the currently selected package</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet ein Fenster mit einer ausführlichen Beschreibung des aktuellen Pakets</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größe anpassen</translation>
     </message>
     <message>
         <source>Resize the columns and window to optimal values</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten und Fenster auf die günstigste Größe bringen</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu einlesen</translation>
     </message>
     <message>
         <source>Refresh the list of installed packages and packages available for update.
 Use this to check for new updates in repositories, or if any packages were installed manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste der installierten und der verfügbaren Pakete neu einlesen.
+Zeigt neue Aktualisierungen in den Paketquellen und Pakete, die von Hand installiert wurden.</translation>
     </message>
     <message>
         <source>Set &amp;Install/Update of Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl &amp;vormerken</translation>
     </message>
     <message>
         <source>Sets the Action for all selected packages which are Not Installed to Install, and
 sets the Action for all selected packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Merkt alle ausgewählten Pakete, die nicht installiert sind, zum Installieren vor und
+alle ausgewählten Pakete, die installiert, aber veraltet sind, zum Aktualisieren.
+Wendet die Aktionen nicht von selbst an.</translation>
     </message>
     <message>
         <source>Set &amp;Update of Listed</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ktualisierungen vormerken</translation>
     </message>
     <message>
         <source>Sets the Action to Update for any packages which are Installed but Out-of-date,
 and which are currently listed based on the the Mode, Filter, Search, State, Duplicates, and Groups settings.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Merkt alle Pakete zum Aktualisieren vor, die installiert, aber veraltet sind
+und die nach Modus, Filter, Suche, Zustand, Duplikaten und Gruppen zurzeit gelistet sind.
+Wendet die Aktionen nicht von selbst an.</translation>
     </message>
     <message>
         <source>Clears all specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht alle festgelegten Aktionen (Aktualisieren, Installieren und Entfernen)</translation>
     </message>
     <message>
         <source>&amp;Apply Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktionen &amp;anwenden</translation>
     </message>
     <message>
         <source>Applies the specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Führt die festgelegten Aktionen aus (Aktualisieren, Installieren und Entfernen)</translation>
     </message>
     <message>
         <source>Total progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Progress of the current step</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des laufenden Schritts</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Stops the running operation.
 An rpm transaction that has begun cannot be stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bricht den laufenden Vorgang ab.
+Eine begonnene rpm-Transaktion lässt sich nicht abbrechen.</translation>
     </message>
     <message>
         <source>VOK</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK</translation>
     </message>
     <message>
         <source>The packages were not collected again; the table is as before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pakete wurden nicht neu eingelesen; die Tabelle ist wie zuvor.</translation>
     </message>
     <message>
         <source>The packages were not collected. Refresh tries again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pakete wurden nicht eingelesen. „Neu einlesen“ versucht es noch einmal.</translation>
     </message>
     <message>
         <source>The search was cancelled. The table lists nothing until it has been run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche wurde abgebrochen. Die Tabelle bleibt leer, bis sie durchgeführt ist.</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 weitere</translation>
     </message>
     <message>
         <source>No longer possible, and not marked any more: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht mehr möglich und nicht mehr vorgemerkt: %1.</translation>
     </message>
     <message>
         <source>Marked now in another version: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt in einer anderen Version vorgemerkt: %1.</translation>
     </message>
     <message>
         <source>Clean RPM package headers cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die in %1 zwischengespeicherten Köpfe von RPM-Paketen</translation>
     </message>
     <message>
         <source>Clean RPM packages cached locally in %1
 (useful for recovering disk space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die in %1 zwischengespeicherten RPM-Pakete
+(um Plattenplatz zu gewinnen)</translation>
     </message>
     <message>
         <source>Clean XML metadata cached locally in %1
 (useful along with Clean Pickled Data for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die in %1 zwischengespeicherten XML-Metadaten
+(zusammen mit „Pickle-Daten löschen“ nützlich,
+ um neue Listen verfügbarer Pakete zu laden)</translation>
     </message>
     <message>
         <source>Clean pickled data cached locally in %1
 (useful along with Clean XML Metadata for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die in %1 zwischengespeicherten Pickle-Daten
+(zusammen mit „XML-Metadaten löschen“ nützlich,
+ um neue Listen verfügbarer Pakete zu laden)</translation>
     </message>
     <message>
         <source>Clean sqlite data cached locally in %1
 (useful along with Clean XML Metadata for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die in %1 zwischengespeicherten SQLite-Daten
+(zusammen mit „XML-Metadaten löschen“ nützlich,
+ um neue Listen verfügbarer Pakete zu laden)</translation>
     </message>
     <message>
         <source>Clean all data cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht alle in %1 zwischengespeicherten Daten</translation>
     </message>
     <message>
         <source>Another program has changed the installed packages since they were collected. Nothing was applied.
@@ -508,496 +579,534 @@ An rpm transaction that has begun cannot be stopped.</source>
 Refresh the table? What is marked stays marked where that is still possible.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die installierten Pakete verändert, seit sie eingelesen wurden. Es wurde nichts angewendet.
+
+Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch möglich ist.
+
+%1</translation>
     </message>
     <message>
         <source>VOK Yum Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Yum-Warnung</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu einlesen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>&lt;h3&gt;VOK %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VOK, Vokmanager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;For more information see the documentation in /usr/share/doc/vok-%1.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;VOK %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VOK, Vokmanager, ist eine grafische Oberfläche, mit der sich die installierten RPM-Pakete eines Systems verändern lassen.&lt;/p&gt;&lt;p&gt;Möglichkeiten:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Neue Pakete installieren oder vorhandene aktualisieren, heruntergeladen aus einer yum-Paketquelle&lt;/li&gt;&lt;li&gt;Vorhandene Pakete entfernen.&lt;/li&gt;&lt;li&gt;Die Paketquellen einrichten, aus denen neue und aktualisierte Pakete kommen.&lt;/li&gt;&lt;li&gt;Installierte Pakete ansehen und solche, die sich installieren oder aktualisieren lassen&lt;/li&gt;&lt;li&gt;Gruppen von Paketen installieren, aktualisieren oder entfernen&lt;/li&gt;&lt;li&gt;Suiten von Paketen installieren oder aktualisieren&lt;/li&gt;&lt;/ul&gt;</translation>
     </message>
     <message>
         <source>Cancelling the running operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der laufende Vorgang wird abgebrochen.</translation>
     </message>
     <message>
         <source>VOK Transaction Report</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Bericht der Transaktion</translation>
     </message>
     <message>
         <source>Cancelling the running operation; VOK quits when it has stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der laufende Vorgang wird abgebrochen; VOK wird beendet, sobald er angehalten hat.</translation>
     </message>
     <message>
         <source>VOK quits when the running operation is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK wird beendet, sobald der laufende Vorgang fertig ist.</translation>
     </message>
     <message>
         <source>An rpm transaction is running and cannot be stopped. Close again to quit when it is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine rpm-Transaktion läuft und lässt sich nicht abbrechen. Schließen Sie noch einmal, damit VOK danach beendet wird.</translation>
     </message>
     <message>
         <source>Left out for lack of the right to read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangels Leserecht ausgelassen: %1</translation>
     </message>
     <message>
         <source>Wrong user name or password for repository %1.
 
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Falscher Benutzername oder falsches Passwort für die Paketquelle %1.
+
+%2</translation>
     </message>
     <message>
         <source>VOK Yum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Yum-Fehler</translation>
     </message>
     <message>
         <source>Edit Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle bearbeiten</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>The packages have not been read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pakete sind noch nicht eingelesen.</translation>
     </message>
     <message>
         <source>Reading the packages...</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete werden eingelesen ...</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;More information is on the web page &lt;a href=&quot;%1&quot;&gt;%1&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Mehr dazu auf der Webseite &lt;a href=&quot;%1&quot;&gt;%1&lt;/a&gt;.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Clear Actions</source>
+        <translation>Aktionen löschen</translation>
+    </message>
+    <message>
+        <source>The manual is missing: there is no file
+%1
+
+It is installed together with VOK, unless VOK was built without the programs that make it.</source>
+        <translation>Das Handbuch fehlt: Es gibt keine Datei
+%1
+
+Es wird mit VOK installiert, außer wenn VOK ohne die Programme gebaut wurde, die es erzeugen.</translation>
+    </message>
+    <message>
+        <source>The manual cannot be opened:
+%1
+
+%2</source>
+        <translation>Das Handbuch lässt sich nicht öffnen:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktualisieren</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installieren</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>&amp;No Action</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine Aktion</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Dialog</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Stops loading; the dialog stays open</source>
-        <translation type="unfinished"></translation>
+        <translation>Bricht das Laden ab; der Dialog bleibt offen</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>What the update changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Aktualisierung ändert</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Details</translation>
     </message>
     <message>
         <source>Dependencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeiten</translation>
     </message>
     <message>
         <source>Change log</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungsprotokoll</translation>
     </message>
     <message>
         <source>What requires it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer es benötigt</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschreibung</translation>
     </message>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktualisierung</translation>
     </message>
     <message>
         <source>&amp;Members</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mitglieder</translation>
     </message>
     <message>
         <source>De&amp;tails</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;tails</translation>
     </message>
     <message>
         <source>Dep&amp;endencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhän&amp;gigkeiten</translation>
     </message>
     <message>
         <source>&amp;Files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dateien</translation>
     </message>
     <message>
         <source>Change &amp;Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungs&amp;protokoll</translation>
     </message>
     <message>
         <source>&amp;Required By</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;nötigt von</translation>
     </message>
     <message>
         <source>Show the paths that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pfade zeigen, die diesen Text enthalten</translation>
     </message>
     <message>
         <source>Text in the path</source>
-        <translation type="unfinished"></translation>
+        <translation>Text im Pfad</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>&amp;Copy Paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfade &amp;kopieren</translation>
     </message>
     <message>
         <source>Members</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitglieder</translation>
     </message>
     <message>
         <source>Package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzbeschreibung</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige</translation>
     </message>
     <message>
         <source>Describe the row above this one (Alt+Up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeile über dieser beschreiben (Alt+Auf)</translation>
     </message>
     <message>
         <source>Ne&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>Näch&amp;ste</translation>
     </message>
     <message>
         <source>Describe the row below this one (Alt+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeile unter dieser beschreiben (Alt+Ab)</translation>
     </message>
     <message>
         <source>Open &amp;Web Page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Webseite öffnen</translation>
     </message>
     <message>
         <source>&amp;Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket&amp;quelle öffnen</translation>
     </message>
     <message>
         <source>Show the files of the repository in the web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien der Paketquelle im Webbrowser zeigen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schli&amp;eßen</translation>
     </message>
     <message>
         <source>Other data are being loaded; this page follows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Daten werden geladen; diese Seite folgt.</translation>
     </message>
     <message>
         <source>Loading the file lists of the repositories...</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateilisten der Paketquellen werden geladen ...</translation>
     </message>
     <message>
         <source>Loading the change logs of the repositories...</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungsprotokolle der Paketquellen werden geladen ...</translation>
     </message>
     <message>
         <source>VOK Yum Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Yum-Warnung</translation>
     </message>
     <message>
         <source>Another operation is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Vorgang läuft.</translation>
     </message>
     <message>
         <source>Loading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The file lists are not loaded.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateilisten sind nicht geladen.
+
+%1</translation>
     </message>
     <message>
         <source>The change logs are not loaded.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungsprotokolle sind nicht geladen.
+
+%1</translation>
     </message>
     <message>
         <source>Description of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung von %1</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle %1</translation>
     </message>
     <message>
         <source>There is no description.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Beschreibung.</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>Art:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand:</translation>
     </message>
     <message>
         <source>Version:</source>
-        <translation type="unfinished"></translation>
+        <translation>Version:</translation>
     </message>
     <message>
         <source>%1 (installed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (installiert)</translation>
     </message>
     <message>
         <source>%1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Other versions:</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Versionen:</translation>
     </message>
     <message>
         <source>Repository:</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle:</translation>
     </message>
     <message>
         <source>Architecture:</source>
-        <translation type="unfinished"></translation>
+        <translation>Architektur:</translation>
     </message>
     <message>
         <source>%1 (%L2 bytes)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%L2 Bytes)</translation>
     </message>
     <message>
         <source>Installed size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierte Größe:</translation>
     </message>
     <message>
         <source>Download size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloadgröße:</translation>
     </message>
     <message>
         <source>Summary:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzbeschreibung:</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe:</translation>
     </message>
     <message>
         <source>License:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lizenz:</translation>
     </message>
     <message>
         <source>URL:</source>
-        <translation type="unfinished"></translation>
+        <translation>URL:</translation>
     </message>
     <message>
         <source>Vendor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anbieter:</translation>
     </message>
     <message>
         <source>Packager:</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketbauer:</translation>
     </message>
     <message>
         <source>Build time:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt am:</translation>
     </message>
     <message>
         <source>Build host:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt auf:</translation>
     </message>
     <message>
         <source>Install time:</source>
-        <translation type="unfinished"></translation>
+        <translation>Installiert am:</translation>
     </message>
     <message>
         <source>Package file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketdatei:</translation>
     </message>
     <message>
         <source>Source package:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quellpaket:</translation>
     </message>
     <message>
         <source>Relocations:</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebbare Pfade:</translation>
     </message>
     <message>
         <source>Provides:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellt bereit:</translation>
     </message>
     <message>
         <source>Requires:</source>
-        <translation type="unfinished"></translation>
+        <translation>Benötigt:</translation>
     </message>
     <message>
         <source>Conflicts with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Unverträglich mit:</translation>
     </message>
     <message>
         <source>Obsoletes:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt:</translation>
     </message>
     <message>
         <source>Replaces the installed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt die installierten:</translation>
     </message>
     <message>
         <source>There are none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine.</translation>
     </message>
     <message>
         <source>There is no change log.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Änderungsprotokoll.</translation>
     </message>
     <message>
         <source>Nothing that is installed requires it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts Installiertes benötigt es.</translation>
     </message>
     <message>
         <source>%1 -&gt; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 -&gt; %2</translation>
     </message>
     <message>
         <source>Version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version: %1</translation>
     </message>
     <message>
         <source>Architecture: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Architektur: %1</translation>
     </message>
     <message>
         <source>Installed size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierte Größe: %1</translation>
     </message>
     <message>
         <source>Download size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloadgröße: %1</translation>
     </message>
     <message>
         <source>The change log has nothing new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Änderungsprotokoll enthält nichts Neues.</translation>
     </message>
     <message>
         <source>Changes since the installed version:</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen seit der installierten Version:</translation>
     </message>
     <message>
         <source>The repository keeps no older changes; there may have been others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ältere Änderungen hält die Paketquelle nicht vor; es kann weitere gegeben haben.</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen</translation>
     </message>
     <message>
         <source>Mandatory packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwingende Pakete</translation>
     </message>
     <message>
         <source>Default packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Übliche Pakete</translation>
     </message>
     <message>
         <source>Optional packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionale Pakete</translation>
     </message>
     <message>
         <source>Conditional packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedingte Pakete</translation>
     </message>
     <message numerus="yes">
         <source>%Ln files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei</numerusform>
+            <numerusform>%Ln Dateien</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%L1 of %Ln files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%L1 von %Ln Datei</numerusform>
+            <numerusform>%L1 von %Ln Dateien</numerusform>
         </translation>
     </message>
 </context>
@@ -1005,240 +1114,248 @@ Refresh the table? What is marked stays marked where that is still possible.
     <name>PackageTable::Describe::Page</name>
     <message>
         <source>L&amp;oad</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden</translation>
     </message>
     <message>
         <source>Why this page is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Warum diese Seite leer ist</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Model</name>
     <message>
         <source>Update package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket aktualisieren</translation>
     </message>
     <message>
         <source>Install package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket installieren</translation>
     </message>
     <message>
         <source>Remove package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket entfernen</translation>
     </message>
     <message>
         <source>Package is available to update an out-of-date version</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket ist verfügbar und aktualisiert eine veraltete Version</translation>
     </message>
     <message>
         <source>Package is available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket ist zur Installation verfügbar</translation>
     </message>
     <message>
         <source>Package is installed and up-to-date</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket ist installiert und aktuell</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Suite von Paketen</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe von Paketen</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfaches Paket</translation>
     </message>
     <message>
         <source>Installed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Installiert: %1
+</translation>
     </message>
     <message>
         <source>Available: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar: %1
+</translation>
     </message>
     <message>
         <source>No action</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Aktion</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>Action to be performed on the package, if any: Update, Install, Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Was mit dem Paket geschehen soll: Aktualisieren, Installieren, Entfernen oder nichts</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Indicates whether the package is Installed or not and, if installed, whether it is Up-to-date or not</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Paket installiert ist, und wenn ja, ob es aktuell ist</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Whether the package is an ordinary package, a suite of packages, or a group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob es ein einfaches Paket, eine Suite von Paketen oder eine Gruppe von Paketen ist</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Name of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Pakets</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Version and release of the package as version-release;
 If the Epoch is non-zero, includes it as epoch:version-release</source>
-        <translation type="unfinished"></translation>
+        <translation>Version und Release des Pakets als Version-Release;
+ist die Epoche nicht null, als Epoche:Version-Release</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle</translation>
     </message>
     <message>
         <source>Repository from which the most recent version of the package is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle, die die neueste Version des Pakets bereithält</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>Architektur</translation>
     </message>
     <message>
         <source>Architecture for which the package is applicable, or &quot;noarch&quot; for general-purpose packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Architektur, für die das Paket bestimmt ist, oder „noarch“ für allgemein verwendbare Pakete</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Size of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Pakets</translation>
     </message>
     <message>
         <source>Build Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt am</translation>
     </message>
     <message>
         <source>Date and time at which the package was created</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum und Uhrzeit der Erstellung des Pakets</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschreibung</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle öffnen</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Texts</name>
     <message>
         <source>View Updatable</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierbare</translation>
     </message>
     <message>
         <source>View Installable</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierbare</translation>
     </message>
     <message>
         <source>View Removable</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernbare</translation>
     </message>
     <message>
         <source>View All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>No packages are listed.
 &quot;%1&quot; hides most of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Pakete gelistet.
+Die Einstellung „%1“ blendet die meisten aus.</translation>
     </message>
     <message>
         <source>No packages are listed.
 Most of them are hidden because &quot;Include Duplicates&quot; is not checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Pakete gelistet.
+Die meisten sind ausgeblendet, weil „Mit Duplikaten“ nicht angekreuzt ist.</translation>
     </message>
     <message>
         <source>No packages are listed.
 Most of them are hidden because &quot;Include Groups&quot; is not checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Pakete gelistet.
+Die meisten sind ausgeblendet, weil „Mit Gruppen“ nicht angekreuzt ist.</translation>
     </message>
     <message>
         <source>No packages are listed.
 The regular expression &quot;%1&quot; hides most of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Pakete gelistet.
+Der reguläre Ausdruck „%1“ blendet die meisten aus.</translation>
     </message>
     <message>
         <source>No packages are listed.
 The search has not been run to its end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Pakete gelistet.
+Die Suche ist nicht zu Ende geführt.</translation>
     </message>
     <message>
         <source>There are no packages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Pakete.</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::View</name>
     <message>
         <source>Left and Right choose a column, Return sorts by it, Ctrl+Left and Ctrl+Right move it, Plus and Minus change its width. The menu key shows and hides columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Links und Rechts wählen eine Spalte, Eingabe sortiert nach ihr, Strg+Links und Strg+Rechts verschieben sie, Plus und Minus ändern ihre Breite. Die Menütaste blendet Spalten ein und aus.</translation>
     </message>
     <message>
         <source>Space changes the action of the current package.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leertaste ändert die Aktion des aktuellen Pakets.</translation>
     </message>
     <message>
         <source>Show &amp;All Columns in Their Order</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Spalten in ihrer Reihenfolge zeigen</translation>
     </message>
 </context>
 <context>
     <name>Progress::Minion</name>
     <message>
         <source>Complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Retrying</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Versuch</translation>
     </message>
     <message>
         <source>Not Started Yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht begonnen</translation>
     </message>
     <message>
         <source>In Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft</translation>
     </message>
     <message>
         <source>%1 / %2 (%3%%)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2 (%3 %%)</translation>
     </message>
     <message numerus="yes">
         <source>%n downloads</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Download</numerusform>
+            <numerusform>%n Downloads</numerusform>
         </translation>
     </message>
 </context>
@@ -1247,117 +1364,126 @@ The search has not been run to its end.</source>
     <message>
         <source>Internal error: pyExceptExpect called with NULL
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: pyExceptExpect mit NULL aufgerufen
+</translation>
     </message>
     <message>
         <source>Internal error: python exception occurred, but exception information was empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Es gab eine Python-Ausnahme, aber ohne Angaben dazu.</translation>
     </message>
     <message>
         <source>Internal error: python exception occurred from C code.
 When reporting this issue, please include the contents of the
 Log window, which should contain a walkback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Ausnahme aus C-Code.
+Bitte geben Sie, wenn Sie dies melden, den Inhalt des
+Protokollfensters mit an; dort sollte die Aufrufkette stehen.</translation>
     </message>
     <message>
         <source>Internal error: cannot start the python interpreter
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Der Python-Interpreter lässt sich nicht starten
+</translation>
     </message>
     <message>
         <source>Internal error: cannot find python __main__ module
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Modul __main__ nicht gefunden
+</translation>
     </message>
     <message>
         <source>Internal error: cannot find python __main__ dict
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Verzeichnis des Python-Moduls __main__ nicht gefunden
+</translation>
     </message>
     <message>
         <source>Internal error: python statement too long
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Anweisung zu lang
+</translation>
     </message>
     <message>
         <source>Internal error: python expression too long
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Ausdruck zu lang
+</translation>
     </message>
     <message>
         <source>Internal error: pyString passed NULL python object
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: pyString bekam ein Python-Objekt NULL
+</translation>
     </message>
 </context>
 <context>
     <name>RepoAuth::Checker</name>
     <message>
         <source>The password will be written to %1. A file that gets its first password can no longer be read by other users.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort wird in %1 geschrieben. Eine Datei, die ihr erstes Passwort bekommt, können andere Benutzer nicht mehr lesen.</translation>
     </message>
 </context>
 <context>
     <name>RepoAuth::Dialog</name>
     <message>
         <source>VOK Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Anmeldung</translation>
     </message>
     <message>
         <source>Some configured repositories require authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige eingerichtete Paketquellen verlangen eine Anmeldung</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URLs</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL der Spiegelliste</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the kivvet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldename für eine Paketquelle mit dem Anmeldeverfahren kivvet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the kivvet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort für eine Paketquelle mit dem Anmeldeverfahren kivvet</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Disable for Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Sitzung abschalten</translation>
     </message>
     <message>
         <source>Skip All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle überspringen</translation>
     </message>
     <message>
         <source>Apply to All</source>
-        <translation type="unfinished"></translation>
+        <translation>Für alle übernehmen</translation>
     </message>
     <message>
         <source>Apply to All with this Host</source>
-        <translation type="unfinished"></translation>
+        <translation>Für alle dieses Servers übernehmen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1365,688 +1491,699 @@ Log window, which should contain a walkback.</source>
     <message>
         <source>The address holds a password, which is left out, because other users could read it:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse enthält ein Passwort, das weggelassen wird, weil andere Benutzer es lesen könnten:
+%1</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle öffnen</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Repository configuration has no URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist ohne URL eingerichtet</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Config</name>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Eindeutige Kennung der Paketquelle</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung der Paketquelle</translation>
     </message>
     <message>
         <source>List of URLs to the repository.
 If more than one is specified, they all should be identical mirrors,
 and will provide redundancy if some URLs are unreachable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste der URLs der Paketquelle.
+Wenn es mehrere sind, sollten sie alle denselben Inhalt spiegeln;
+sie ersetzen einander, wenn einige nicht erreichbar sind.</translation>
     </message>
     <message>
         <source>URL to a file containing a list of URLs to the repository.</source>
-        <translation type="unfinished"></translation>
+        <translation>URL einer Datei mit einer Liste von URLs der Paketquelle.</translation>
     </message>
     <message>
         <source>&amp;Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kennung</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name</translation>
     </message>
     <message>
         <source>&amp;URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;URLs</translation>
     </message>
     <message>
         <source>&amp;Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL der &amp;Spiegelliste</translation>
     </message>
     <message>
         <source>&amp;Kivvet Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Kivvet-An&amp;meldung</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the kivvet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldename für eine Paketquelle mit dem Anmeldeverfahren kivvet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the kivvet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort für eine Paketquelle mit dem Anmeldeverfahren kivvet</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Repository Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen der Paketquelle</translation>
     </message>
     <message>
         <source>Any other yum options for this repository.  See yum.conf(5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle weiteren yum-Optionen dieser Paketquelle. Siehe yum.conf(5)</translation>
     </message>
     <message>
         <source>Ot&amp;her Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weitere Optionen:</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>Whether or not the repository is enabled for use</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Paketquelle benutzt werden darf</translation>
     </message>
     <message>
         <source>Whether or not GPG key signatures of packages from the repository are checked to ensure authenticity</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die GPG-Signaturen der Pakete aus dieser Paketquelle auf Echtheit geprüft werden</translation>
     </message>
     <message>
         <source>&amp;Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktiviert</translation>
     </message>
     <message>
         <source>Check &amp;GPG Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>GPG-Schlüssel &amp;prüfen</translation>
     </message>
     <message>
         <source>Configuration File (expert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationsdatei (für Fortgeschrittene)</translation>
     </message>
     <message>
         <source>Name of the yum configuration file into which to place this repository configuration.
 If left blank, defaults to the repository&apos;s identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der yum-Konfigurationsdatei, in der diese Paketquelle stehen soll.
+Ohne Angabe die Kennung der Paketquelle</translation>
     </message>
     <message>
         <source>A numeric sort key which determines the order of this repository configuration
 in a configuration file which contains multiple configurations</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl, nach der sich die Reihenfolge dieser Paketquelle
+in einer Konfigurationsdatei mit mehreren Paketquellen richtet</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>Sort &amp;Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortierpos&amp;ition</translation>
     </message>
     <message>
         <source>(Yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Ja)</translation>
     </message>
     <message>
         <source>(No)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Nein)</translation>
     </message>
     <message>
         <source>No Identifier specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kennung angegeben</translation>
     </message>
     <message>
         <source>No URLs or Mirror list URL specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine URLs und keine URL der Spiegelliste angegeben</translation>
     </message>
     <message>
         <source>File is not in any reposdir directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei liegt in keinem Verzeichnis aus reposdir</translation>
     </message>
     <message>
         <source>File lacks .repo suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datei fehlt die Endung .repo</translation>
     </message>
     <message>
         <source>No Kivvet Authentication Name specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Kivvet-Anmeldename angegeben</translation>
     </message>
     <message>
         <source>No Kivvet Authentication Password specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Kivvet-Passwort angegeben</translation>
     </message>
     <message>
         <source>With the variables replaced:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit ersetzten Variablen:</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
     <message>
         <source>VOK Repository Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Paketquelle</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurücksetzen</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen an dieser Paketquelle zurücknehmen</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen an dieser Paketquelle zurücknehmen und das Fenster schließen</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen an allen Paketquellen anwenden und das Fenster schließen</translation>
     </message>
     <message>
         <source>Other users can read %1 now.  They cannot any more once it holds this password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Benutzer können %1 jetzt lesen. Sobald die Datei dieses Passwort enthält, können sie es nicht mehr.</translation>
     </message>
     <message>
         <source>Discard the changes to this repository configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen an dieser Paketquelle verwerfen?</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve&amp;rwerfen</translation>
     </message>
     <message>
         <source>&amp;Keep Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter bearbei&amp;ten</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ContextMenu</name>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Bro&amp;wser öffnen</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Dialog</name>
     <message>
         <source>VOK Repository Configuration Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Paketquellen einrichten</translation>
     </message>
     <message>
         <source>&amp;Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filter:</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Identifier, name or URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung, Name oder URL</translation>
     </message>
     <message>
         <source>Shows only the repositories whose identifier, name or URLs contain this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt nur die Paketquellen, deren Kennung, Name oder URLs diesen Text enthalten</translation>
     </message>
     <message>
         <source>&amp;Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Bro&amp;wser öffnen</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste URL der gewählten Paketquelle in einem Webbrowser öffnen</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>Edit the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewählte Paketquelle bearbeiten</translation>
     </message>
     <message>
         <source>A&amp;dd</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
     <message>
         <source>Create a new repository configuration from scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Paketquelle von Grund auf einrichten</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Create a new repository configuration based on the selected repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Paketquelle nach dem Vorbild der gewählten einrichten</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>Remove the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewählte Paketquelle entfernen</translation>
     </message>
     <message>
         <source>Unapplied Configuration Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen noch nicht angewendet</translation>
     </message>
     <message>
         <source>Pre&amp;view</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorschau</translation>
     </message>
     <message>
         <source>Show what Apply would change in which file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen, was „Anwenden“ in welcher Datei ändern würde</translation>
     </message>
     <message>
         <source>&amp;Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an Paketquellen seit dem letzten Anwenden oder dem Öffnen des Dialogs zurücknehmen</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an Paketquellen seit dem letzten Anwenden oder dem Öffnen des Dialogs zurücknehmen und das Fenster schließen</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anwenden</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>Nothing can be applied, because these files cannot be read:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es kann nichts angewendet werden, weil diese Dateien nicht lesbar sind:
+%1</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, but do not close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen an allen Paketquellen anwenden, das Fenster aber nicht schließen</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen an allen Paketquellen anwenden und das Fenster schließen</translation>
     </message>
     <message>
         <source>A repository has no Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Paketquelle hat keine Kennung</translation>
     </message>
     <message>
         <source>Two or more repositories have the Identifier, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei oder mehr Paketquellen haben die Kennung %1</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n entfernt</numerusform>
+            <numerusform>%1: %n entfernt</numerusform>
         </translation>
     </message>
     <message>
         <source>Some files cannot be read, so nothing can be applied</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien sind nicht lesbar, daher kann nichts angewendet werden</translation>
     </message>
     <message>
         <source>Discard the changes to the repository configurations?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen an den Paketquellen verwerfen?</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve&amp;rwerfen</translation>
     </message>
     <message>
         <source>&amp;Keep Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter bearbei&amp;ten</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Model</name>
     <message>
         <source>(new)</source>
-        <translation type="unfinished"></translation>
+        <translation>(neu)</translation>
     </message>
     <message>
         <source>Repository is enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist für diese Sitzung aktiviert</translation>
     </message>
     <message>
         <source>Repository is not enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist für diese Sitzung nicht aktiviert</translation>
     </message>
     <message>
         <source>Repository is configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist dauerhaft aktiviert</translation>
     </message>
     <message>
         <source>Repository is not configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist nicht dauerhaft aktiviert</translation>
     </message>
     <message>
         <source>Sess</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitz.</translation>
     </message>
     <message>
         <source>Whether or not the repository is used during this session.
 It overrides the persistent Enabled flag in the repository configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Paketquelle in dieser Sitzung benutzt wird.
+Dies geht der dauerhaften Einstellung „Aktiviert“ vor.</translation>
     </message>
     <message>
         <source>Perm</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Whether or not the repository is configured to be enabled by default.
 It can be overridden for a particular session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Paketquelle von Haus aus aktiviert ist.
+Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Eindeutige Kennung der Paketquelle</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung der Paketquelle</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::PreviewDialog</name>
     <message>
         <source>VOK Repository Configuration Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Änderungen an den Paketquellen</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen</translation>
     </message>
     <message>
         <source>Nothing can be written:</source>
-        <translation type="unfinished"></translation>
+        <translation>Es kann nichts geschrieben werden:</translation>
     </message>
     <message>
         <source>No file would be another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Datei würde anders.</translation>
     </message>
     <message>
         <source>%1 is removed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird entfernt</translation>
     </message>
     <message>
         <source>%1 is changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geändert</translation>
     </message>
     <message>
         <source>%1 is new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist neu</translation>
     </message>
     <message>
         <source>%1  (another password)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  (ein anderes Passwort)</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::SortFilterProxyModel</name>
     <message>
         <source>Used in this session</source>
-        <translation type="unfinished"></translation>
+        <translation>In dieser Sitzung benutzt</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiviert</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::TestRow</name>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Testen</translation>
     </message>
     <message>
         <source>Try to reach the repository as it is described here.  Nothing is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Versuchen, die hier beschriebene Paketquelle zu erreichen. Gespeichert wird nichts</translation>
     </message>
     <message>
         <source>Result of the test</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis des Tests</translation>
     </message>
     <message>
         <source>C&amp;ancel Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test abbr&amp;echen</translation>
     </message>
     <message>
         <source>Stops the test; the dialog stays open</source>
-        <translation type="unfinished"></translation>
+        <translation>Bricht den Test ab; der Dialog bleibt offen</translation>
     </message>
     <message>
         <source>Another operation is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Vorgang läuft.</translation>
     </message>
     <message>
         <source>The test was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Test wurde abgebrochen.</translation>
     </message>
     <message>
         <source>This is of the repository before the last changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies gilt für die Paketquelle vor den letzten Änderungen.</translation>
     </message>
     <message>
         <source>There is no URL to test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine URL zu testen.</translation>
     </message>
     <message>
         <source>The repository can be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist erreichbar.</translation>
     </message>
     <message>
         <source>The repository cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist nicht erreichbar.</translation>
     </message>
     <message>
         <source>%1 has repository metadata.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat Metadaten einer Paketquelle.</translation>
     </message>
     <message>
         <source>%1 refuses the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 weist den Benutzernamen oder das Passwort zurück.</translation>
     </message>
     <message>
         <source>%1 wants a user name and a password, or lets nobody in.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verlangt Benutzername und Passwort oder lässt niemanden ein.</translation>
     </message>
     <message>
         <source>The host of %1 is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server von %1 ist unbekannt.</translation>
     </message>
     <message>
         <source>The host of %1 refuses the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server von %1 lehnt die Verbindung ab.</translation>
     </message>
     <message>
         <source>%1 does not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 antwortet nicht rechtzeitig.</translation>
     </message>
     <message>
         <source>The certificate of %1 is not accepted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zertifikat von %1 wird nicht anerkannt.</translation>
     </message>
     <message>
         <source>%1 has no repodata/repomd.xml.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat kein repodata/repomd.xml.</translation>
     </message>
     <message>
         <source>There is no list of mirrors at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter %1 gibt es keine Spiegelliste.</translation>
     </message>
     <message>
         <source>The proxy on the way to %1 cannot be reached or used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy auf dem Weg zu %1 ist nicht erreichbar oder nicht benutzbar.</translation>
     </message>
     <message>
         <source>What %1 has as repodata/repomd.xml is no repository metadata.  DNF takes the first that it finds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was %1 als repodata/repomd.xml hat, sind keine Metadaten einer Paketquelle. DNF nimmt das Erste, das es findet.</translation>
     </message>
     <message>
         <source>The list of mirrors at %1 names none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spiegelliste unter %1 nennt keine Spiegel.</translation>
     </message>
     <message>
         <source>DNF does not take it as it is: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF nimmt es so nicht an: %1</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht lesbar.</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::View</name>
     <message>
         <source>Left and Right choose a column, Return sorts by it, Ctrl+Left and Ctrl+Right move it, Plus and Minus change its width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Links und Rechts wählen eine Spalte, Eingabe sortiert nach ihr, Strg+Links und Strg+Rechts verschieben sie, Plus und Minus ändern ihre Breite.</translation>
     </message>
     <message>
         <source>Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquellen</translation>
     </message>
     <message>
         <source>Space toggles the check mark of the current cell, Return edits the repository, Delete removes, Insert adds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leertaste setzt und löscht das Kreuz der aktuellen Zelle, Eingabe bearbeitet die Paketquelle, Entf entfernt sie, Einfg fügt eine hinzu.</translation>
     </message>
 </context>
 <context>
     <name>ScrollableDialog</name>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldung</translation>
     </message>
 </context>
 <context>
     <name>WebBrowser</name>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
     <message>
         <source>The address cannot be opened:
 %1
 
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse lässt sich nicht öffnen:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
     <name>YumConfIO</name>
     <message>
         <source>A repository has no Identifier.  It will be removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Paketquelle hat keine Kennung. Sie wird entfernt.</translation>
     </message>
     <message>
         <source>Two or more repositories have the same Identifier(s), %1.  Only one repository will be applied for each Identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei oder mehr Paketquellen haben dieselbe Kennung (%1). Für jede Kennung wird nur eine Paketquelle angewendet.</translation>
     </message>
     <message>
         <source>&quot;main&quot; names the section of the main options, never a repository.</source>
-        <translation type="unfinished"></translation>
+        <translation>„main“ heißt der Abschnitt der Hauptoptionen, niemals eine Paketquelle.</translation>
     </message>
     <message>
         <source>%1: what it would hold cannot be told apart from other sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Was sie enthielte, ließe sich von anderen Abschnitten nicht unterscheiden.</translation>
     </message>
     <message>
         <source>%1, in %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, in %2: %3</translation>
     </message>
     <message>
         <source>the identifier holds a line break.</source>
-        <translation type="unfinished"></translation>
+        <translation>die Kennung enthält einen Zeilenumbruch.</translation>
     </message>
     <message>
         <source>the name holds a line break.</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name enthält einen Zeilenumbruch.</translation>
     </message>
     <message>
         <source>the mirror list URL holds a line break.</source>
-        <translation type="unfinished"></translation>
+        <translation>die URL der Spiegelliste enthält einen Zeilenumbruch.</translation>
     </message>
     <message>
         <source>the other options begin with a blank, so that &quot;%1&quot; would continue the line above.</source>
-        <translation type="unfinished"></translation>
+        <translation>die weiteren Optionen beginnen mit einem Leerzeichen, sodass „%1“ die Zeile darüber fortsetzen würde.</translation>
     </message>
     <message>
         <source>in the other options, &quot;%1&quot; would be the head of a section.</source>
-        <translation type="unfinished"></translation>
+        <translation>in den weiteren Optionen wäre „%1“ der Kopf eines Abschnitts.</translation>
     </message>
     <message>
         <source>in the other options, &quot;%1&quot; sets an option that has a field of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>in den weiteren Optionen setzt „%1“ eine Option, die ein eigenes Feld hat.</translation>
     </message>
     <message>
         <source>it holds characters that cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>sie enthält Zeichen, die sich nicht schreiben lassen.</translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2.</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2</translation>
     </message>
     <message>
         <source>DNF takes an indented line for the head of a section: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF hält eine eingerückte Zeile für den Kopf eines Abschnitts: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>These identifiers differ in case only: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kennungen unterscheiden sich nur in Groß- und Kleinschreibung: %1.</translation>
     </message>
     <message>
         <source>These files are not as they were read; another program changed them, or they could not be read:
@@ -2054,503 +2191,516 @@ It can be overridden for a particular session.</source>
 %1
 
 What was changed there is lost when they are written or removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien sind nicht mehr so, wie sie gelesen wurden; ein anderes Programm hat sie geändert, oder sie waren nicht lesbar:
+
+%1
+
+Was dort geändert wurde, geht verloren, wenn sie geschrieben oder entfernt werden.</translation>
     </message>
     <message>
         <source>%1; errno = %2 (%3).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; errno = %2 (%3).</translation>
     </message>
     <message>
         <source>VOK Repository Editor Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Fehler bei den Paketquellen</translation>
     </message>
     <message>
         <source>Unable to read yum configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die yum-Konfigurationsdatei %1 ist nicht lesbar</translation>
     </message>
     <message>
         <source>Unable to stat repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Konfigurationsdatei %1 einer Paketquelle gibt es keine Angaben</translation>
     </message>
     <message>
         <source>Unable to read repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konfigurationsdatei %1 einer Paketquelle ist nicht lesbar</translation>
     </message>
     <message>
         <source>Malformed section name in line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerhafter Abschnittsname in der Zeile: %1</translation>
     </message>
     <message>
         <source>Error reading repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Lesen der Konfigurationsdatei %1 einer Paketquelle</translation>
     </message>
     <message>
         <source>%1 gets its first password, and other users of this computer can no longer read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bekommt ihr erstes Passwort; andere Benutzer dieses Rechners können die Datei dann nicht mehr lesen.</translation>
     </message>
     <message>
         <source>Nothing is written, because what these files hold is not known:
 %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts geschrieben, weil nicht bekannt ist, was diese Dateien enthalten:
+%1
+</translation>
     </message>
     <message>
         <source>Nothing is written, because it would not be read as it is meant:
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts geschrieben, weil es nicht so gelesen würde, wie es gemeint ist:
+
+%1</translation>
     </message>
     <message>
         <source>  Proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>  Fortfahren?</translation>
     </message>
     <message>
         <source>Written before that:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuvor geschrieben:</translation>
     </message>
     <message>
         <source>Not written, and still to be applied:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht geschrieben und noch anzuwenden:</translation>
     </message>
     <message>
         <source>Unable to write repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konfigurationsdatei %1 einer Paketquelle lässt sich nicht schreiben</translation>
     </message>
     <message>
         <source>Unable to unlink repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konfigurationsdatei %1 einer Paketquelle lässt sich nicht entfernen</translation>
     </message>
     <message>
         <source>Everything was written, but these files are not removed, and what they hold is still configured:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wurde geschrieben, doch diese Dateien sind nicht entfernt, und was sie enthalten, gilt weiterhin:</translation>
     </message>
     <message>
         <source>Repository Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquellen einrichten</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
 </context>
 <context>
     <name>YumIO</name>
     <message>
         <source>Applying</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Checking Dependencies: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeiten werden geprüft: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorbereitung</translation>
     </message>
     <message>
         <source>apply changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden der Änderungen</translation>
     </message>
     <message>
         <source>Unable to add package %1 to installs list</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket %1 lässt sich nicht in die Liste der Installationen aufnehmen</translation>
     </message>
     <message>
         <source>Unable to add package %1 to removes list</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket %1 lässt sich nicht in die Liste der Entfernungen aufnehmen</translation>
     </message>
     <message>
         <source>Internal error: Unable to find installed version for package update %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Zur Aktualisierung des Pakets %1 ist keine installierte Version zu finden</translation>
     </message>
     <message>
         <source>Unable to add new package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das neue Paket lässt sich nicht in das Paar für das aktualisierte Paket %1 aufnehmen</translation>
     </message>
     <message>
         <source>Unable to add old package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das alte Paket lässt sich nicht in das Paar für das aktualisierte Paket %1 aufnehmen</translation>
     </message>
     <message>
         <source>Unable to add package %1 to updates list</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket %1 lässt sich nicht in die Liste der Aktualisierungen aufnehmen</translation>
     </message>
     <message>
         <source>Unable to add group %1 to groups list</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1 lässt sich nicht in die Liste der Gruppen aufnehmen</translation>
     </message>
     <message>
         <source>Unable to open pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pipe für die Ausgabe der rpm-Transaktion lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>Unable to dup2 pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>dup2 für die Pipe der Ausgabe der rpm-Transaktion ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>Unable to dup2 to restore stderr</source>
-        <translation type="unfinished"></translation>
+        <translation>dup2 zum Wiederherstellen von stderr ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>Cleaning Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketköpfe werden gelöscht</translation>
     </message>
     <message>
         <source>Cleaning Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete werden gelöscht</translation>
     </message>
     <message>
         <source>Cleaning Xml Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>XML-Metadaten werden gelöscht</translation>
     </message>
     <message>
         <source>Cleaning Pickled Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Pickle-Daten werden gelöscht</translation>
     </message>
     <message>
         <source>Cleaning Sqlite Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>SQLite-Daten werden gelöscht</translation>
     </message>
     <message>
         <source>Cleaning All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wird gelöscht</translation>
     </message>
     <message>
         <source>Initialization</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialisierung</translation>
     </message>
     <message>
         <source>Initializing: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialisierung: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Unable to obtain yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Die yum-Sperre ist nicht zu bekommen</translation>
     </message>
     <message>
         <source>Internal error: yumIO.repos.repos not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yumIO.repos.repos nicht auswertbar</translation>
     </message>
     <message>
         <source>Internal error: yumIO.repos.repos not a dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yumIO.repos.repos ist kein Dictionary</translation>
     </message>
     <message>
         <source>No repositories are configured.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Paketquellen eingerichtet.
+Im Menü „Paketquellen“ lassen sich unter „Konfiguration bearbeiten“ Paketquellen einrichten.</translation>
     </message>
     <message>
         <source>No repositories are enabled.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Paketquellen aktiviert.
+Im Menü „Paketquellen“ lassen sich unter „Konfiguration bearbeiten“ Paketquellen einrichten.</translation>
     </message>
     <message>
         <source>Reading repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquellen werden gelesen</translation>
     </message>
     <message>
         <source>Unable to initialize</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Initialisierung ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>unable to setup repository %1:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Einrichten der Paketquelle %1 nicht möglich:
+%2</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Ausführung von yumIO.%1 fehlgeschlagen</translation>
     </message>
     <message>
         <source>Collecting updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierbare Pakete werden ermittelt</translation>
     </message>
     <message>
         <source>setup transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Einrichten der Transaktion</translation>
     </message>
     <message>
         <source>collect updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermitteln der aktualisierbaren Pakete</translation>
     </message>
     <message>
         <source>Collecting installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierte und verfügbare Pakete werden ermittelt</translation>
     </message>
     <message>
         <source>collect installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermitteln der installierten und verfügbaren Pakete</translation>
     </message>
     <message>
         <source>Internal error: yumIO.collectAll.%1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yumIO.collectAll.%1 nicht gefunden</translation>
     </message>
     <message>
         <source>Collecting groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen werden ermittelt</translation>
     </message>
     <message>
         <source>collect groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermitteln der Gruppen</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.setupTsGroup failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Ausführung von yumIO.setupTsGroup fehlgeschlagen</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.collectGroupInfo failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Ausführung von yumIO.collectGroupInfo fehlgeschlagen</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.visible_groups not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: groupInfo.visible_groups nicht auswertbar</translation>
     </message>
     <message>
         <source>Internal error: group without name</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Gruppe ohne Namen</translation>
     </message>
     <message>
         <source>Internal error: cannot find group&apos;s installed flag</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Installationskennzeichen der Gruppe nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: cannot find groupInfo.group_installed[&apos;%s&apos;]</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: groupInfo.group_installed[&apos;%s&apos;] nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: YumIO::pyString called with NULL</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::pyString mit NULL aufgerufen</translation>
     </message>
     <message>
         <source>Internal error: YumIO::pyString did not understand type</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::pyString hat den Typ nicht verstanden</translation>
     </message>
     <message>
         <source>Internal error: YumIO::pyStringX did not understand type</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::pyStringX hat den Typ nicht verstanden</translation>
     </message>
     <message>
         <source>Internal error: time not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Zeitangabe nicht verstanden: %1</translation>
     </message>
     <message>
         <source>Internal error: time not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Zeitangabe nicht verstanden</translation>
     </message>
     <message>
         <source>Internal error: package size not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Paketgröße nicht verstanden: %1</translation>
     </message>
     <message>
         <source>Internal error: package size not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Paketgröße nicht verstanden</translation>
     </message>
     <message>
         <source>Internal error: package size result not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Ergebnis zur Paketgröße nicht verstanden</translation>
     </message>
     <message>
         <source>Available for update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierung verfügbar</translation>
     </message>
     <message>
         <source>Available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Installation verfügbar</translation>
     </message>
     <message>
         <source>Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Installiert</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Suite von Paketen</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe von Paketen</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfaches Paket</translation>
     </message>
     <message>
         <source>Internal error: cannot find rpm.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: rpm.%1 nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: cannot find package&apos;s prco.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: prco.%1 des Pakets nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: cannot find package&apos;s files</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Dateien des Pakets nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: cannot find package&apos;s changelog</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Änderungsprotokoll des Pakets nicht gefunden</translation>
     </message>
     <message>
         <source>Collecting File Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateilisten werden geladen</translation>
     </message>
     <message>
         <source>Loading file lists: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden der Dateilisten: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>collect filelists</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden der Dateilisten</translation>
     </message>
     <message>
         <source>Collecting Miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Daten werden geladen</translation>
     </message>
     <message>
         <source>Loading miscellaneous data: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden weiterer Daten: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>collect miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden weiterer Daten</translation>
     </message>
     <message>
         <source>Internal error: unexpected progress name</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: unerwartete Bezeichnung des Fortschritts</translation>
     </message>
     <message>
         <source>Reading installed packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierte Pakete werden gelesen</translation>
     </message>
     <message>
         <source>Reading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle %1 wird gelesen</translation>
     </message>
     <message>
         <source>mirror list</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelliste</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen</translation>
     </message>
     <message>
         <source>Downloading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle %1 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Downloading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle: %1 für %2 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Internal error: collect grab size not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Größe eines Downloads beim Einlesen nicht verstanden</translation>
     </message>
     <message>
         <source>Downloading %1 header</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketkopf von %1 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Internal error: unexpected progress filename</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: unerwarteter Dateiname eines Downloads</translation>
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Internal error: apply grab size not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Größe eines Downloads beim Anwenden nicht verstanden</translation>
     </message>
     <message>
         <source>Finishing RPM rebuild from deltas</source>
-        <translation type="unfinished"></translation>
+        <translation>RPM-Pakete werden aus Deltas zusammengesetzt</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Preparing to Run Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorbereitung der Transaktion</translation>
     </message>
     <message>
         <source>Preparing to Test Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorbereitung des Transaktionstests</translation>
     </message>
     <message>
         <source>Transaction Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Transaktionstest</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback UNINST of %1 not expected</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::tsCallback UNINST von %1 nicht erwartet</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback UNINST of %1 too many times</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::tsCallback UNINST von %1 zu oft</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback what=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::tsCallback what=%1 nicht verstanden; wird übergangen</translation>
     </message>
     <message>
         <source>Internal error: Unable to find package for install/update of %1.%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Zur Installation oder Aktualisierung von %1.%2 ist kein Paket zu finden</translation>
     </message>
     <message>
         <source>Updating %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird aktualisiert</translation>
     </message>
     <message>
         <source>Installing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird installiert</translation>
     </message>
     <message>
         <source>Completing update for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierung wird abgeschlossen: %1</translation>
     </message>
     <message>
         <source>Removing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird entfernt</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback REMOVE/COMPLETE of %1 not expected</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::tsCallback REMOVE/COMPLETE von %1 nicht erwartet</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsEvent action=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::tsEvent action=%1 nicht verstanden; wird übergangen</translation>
     </message>
     <message>
         <source>Internal error: Unable to find package for %1 of %2.%3</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Für den Schritt „%1“ von %2.%3 ist kein Paket zu finden</translation>
     </message>
     <message>
         <source>update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierung</translation>
     </message>
     <message>
         <source>install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation</translation>
     </message>
     <message>
         <source>VOK Yum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Yum-Fehler</translation>
     </message>
     <message>
         <source>VOK Yum Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Yum-Warnung</translation>
     </message>
     <message>
         <source>Unable to %1: I/O Error: %2
 
 Emitting a walkback to the Log window.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nicht möglich: E/A-Fehler: %2
+
+Die Aufrufkette steht im Protokollfenster.</translation>
     </message>
     <message>
         <source>Unable to %1: KeyboardInterrupt
@@ -2559,361 +2709,392 @@ This usually means VOK was sent signal SIGINT, SIGTERM, or similar.
 
 But urlgrabber also can raise this error for several situations where it is just guessing.
 So, emitting a walkback to the Log window.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nicht möglich: KeyboardInterrupt
+
+Das bedeutet meist, dass VOK ein Signal wie SIGINT oder SIGTERM bekam.
+
+Doch auch urlgrabber meldet diesen Fehler in mehreren Lagen, in denen es nur rät.
+Daher steht die Aufrufkette im Protokollfenster.</translation>
     </message>
     <message>
         <source>Internal error: python assertion failed
 When reporting this issue, please include the contents of the
 Log window, which should contain a walkback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Annahme verletzt
+Bitte geben Sie, wenn Sie dies melden, den Inhalt des
+Protokollfensters mit an; dort sollte die Aufrufkette stehen.</translation>
     </message>
     <message>
         <source>Unable to %1: metadata unavailable from all repo mirrors:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nicht möglich: Metadaten von keinem Spiegel der Paketquelle zu bekommen:
+%2</translation>
     </message>
     <message>
         <source>Unable to %1: a repository&apos;s sqlite database was locked unexpectedly
 On some distributions, PackageKit has been known to cause this.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nicht möglich: Die SQLite-Datenbank einer Paketquelle war unerwartet gesperrt
+Mit manchen Distributionen liegt das bekanntlich an PackageKit.</translation>
     </message>
     <message>
         <source>Unable to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nicht möglich</translation>
     </message>
     <message>
         <source>Unable to reap children; errno=%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kindprozesse lassen sich nicht abwarten; errno=%1 (%2)</translation>
     </message>
     <message>
         <source>Reaped zombie child %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kindprozess %1 war ein Zombie und ist abgeräumt</translation>
     </message>
     <message>
         <source>Unable to disable SIGCHLD signal handler; errno=%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Behandlung des Signals SIGCHLD lässt sich nicht abschalten; errno=%1 (%2)</translation>
     </message>
     <message>
         <source>Unable to restore SIGCHLD signal handler; errno=%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Behandlung des Signals SIGCHLD lässt sich nicht wiederherstellen; errno=%1 (%2)</translation>
     </message>
     <message>
         <source>Kb</source>
-        <translation type="unfinished"></translation>
+        <translation>Kb</translation>
     </message>
     <message>
         <source>Mb</source>
-        <translation type="unfinished"></translation>
+        <translation>Mb</translation>
     </message>
     <message>
         <source>Gb</source>
-        <translation type="unfinished"></translation>
+        <translation>Gb</translation>
     </message>
     <message>
         <source>Tb</source>
-        <translation type="unfinished"></translation>
+        <translation>Tb</translation>
     </message>
     <message>
         <source>Pb</source>
-        <translation type="unfinished"></translation>
+        <translation>Pb</translation>
     </message>
     <message>
         <source>Eb</source>
-        <translation type="unfinished"></translation>
+        <translation>Eb</translation>
     </message>
     <message>
         <source>b</source>
-        <translation type="unfinished"></translation>
+        <translation>b</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: groupInfo.%1 nicht auswertbar</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1[%2] not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: groupInfo.%1[%2] nicht auswertbar</translation>
     </message>
     <message>
         <source>Internal error: group %1.%2 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: group %1.%2 nicht auswertbar</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>ERROR</source>
-        <translation type="unfinished"></translation>
+        <translation>FEHLER</translation>
     </message>
     <message>
         <source>the package is optional</source>
-        <translation type="unfinished"></translation>
+        <translation>das Paket optional ist</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it was marked individually for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 gehört zur Gruppe %2, die zum %3 vorgemerkt ist;
+damit wäre das Paket zum %4 vorzumerken,
+es ist aber selbst zum %5 vorgemerkt.
+Wie möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but you resolved an earlier conflict by marking it for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 gehört zur Gruppe %2, die zum %3 vorgemerkt ist;
+damit wäre das Paket zum %4 vorzumerken,
+Sie haben es aber bei einem früheren Widerspruch zum %5 vorgemerkt.
+Wie möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it also was part of group %5 and so was marked for %6.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 gehört zur Gruppe %2, die zum %3 vorgemerkt ist;
+damit wäre das Paket zum %4 vorzumerken,
+es gehört aber auch zur Gruppe %5 und ist daher zum %6 vorgemerkt.
+Wie möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Manually resolving conflict: marking package %1 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerspruch von Hand gelöst: Paket %1 wird zum %3 vorgemerkt</translation>
     </message>
     <message>
         <source>For group %1, marking package %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Für Gruppe %1 wird Paket %2 zum %3 vorgemerkt</translation>
     </message>
     <message>
         <source>For group %1, package %2 already was marked for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Für Gruppe %1: Paket %2 war schon zum %3 vorgemerkt</translation>
     </message>
     <message>
         <source>For group %1, not marking package %2 for %3, becuase %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Für Gruppe %1 wird Paket %2 nicht zum %3 vorgemerkt, weil %4</translation>
     </message>
     <message>
         <source>read the members of group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen der Mitglieder der Gruppe %1</translation>
     </message>
     <message>
         <source>find the packages that %1 stands for in a group</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermitteln der Pakete, für die %1 in einer Gruppe steht,</translation>
     </message>
     <message>
         <source>Unable to release yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Die yum-Sperre lässt sich nicht freigeben</translation>
     </message>
     <message>
         <source>Internal error: cannot create python module yumIOC</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Modul yumIOC lässt sich nicht anlegen</translation>
     </message>
     <message>
         <source>Internal error: cannot find python rpm module</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Modul rpm nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: cannot find python rpm dict</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Verzeichnis des Python-Moduls rpm nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: unable to open YumIO.py</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO.py lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>Internal error: unable to execute YumIO.py</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO.py lässt sich nicht ausführen</translation>
     </message>
     <message>
         <source>Internal error: cannot find python YumIO</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Klasse YumIO nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: cannot create python yumIO</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Python-Objekt yumIO lässt sich nicht anlegen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Query</source>
-        <translation type="unfinished"></translation>
+        <translation>Frage</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Applying: OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden: OK</translation>
     </message>
     <message>
         <source>Not Applying: Canceled</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht angewendet: abgebrochen</translation>
     </message>
     <message>
         <source>Confirmation: Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigung: Ja</translation>
     </message>
     <message>
         <source>Confirmation: No</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigung: Nein</translation>
     </message>
     <message>
         <source>Total download size: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamte Downloadgröße: %1
+</translation>
     </message>
     <message>
         <source>Taken from directories of this machine: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Verzeichnissen dieses Rechners: %1
+</translation>
     </message>
     <message>
         <source>Not all that rpm would do is in the listing. It would also remove what cannot stand beside the new packages:
 %1
 Go on?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufstellung enthält nicht alles, was rpm tun würde. Es würde auch entfernen, was sich mit den neuen Paketen nicht verträgt:
+%1
+Fortfahren?</translation>
     </message>
     <message>
         <source>Transaction to be performed:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Auszuführende Transaktion:
+</translation>
     </message>
     <message>
         <source>Performing the following to resolve dependencies:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Um Abhängigkeiten zu erfüllen, kommt hinzu:
+</translation>
     </message>
     <message>
         <source>Other Transactions:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Änderungen:
+</translation>
     </message>
     <message>
         <source>Obsoleting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt</translation>
     </message>
     <message>
         <source>Dependency Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Abhängigkeit entfernt</translation>
     </message>
     <message>
         <source>Dependency Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Abhängigkeit installiert</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisiert</translation>
     </message>
     <message>
         <source>Dependency Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Abhängigkeit aktualisiert</translation>
     </message>
     <message>
         <source>Obsoleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt</translation>
     </message>
     <message>
         <source>%1 %3-%4 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3-%4 (%2)</translation>
     </message>
     <message>
         <source>%1 %3:%4-%5 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3:%4-%5 (%2)</translation>
     </message>
     <message>
         <source> [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]</translation>
     </message>
     <message>
         <source>	%1: %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2
+</translation>
     </message>
     <message>
         <source>	%1: %2 with %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2 durch %3
+</translation>
     </message>
     <message>
         <source>Internal error: tsInfo.%1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: tsInfo.%1 nicht gefunden</translation>
     </message>
     <message>
         <source>Installed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Installiert: %1</translation>
     </message>
     <message>
         <source>Removed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt: %1</translation>
     </message>
     <message>
         <source>Changed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert: %1</translation>
     </message>
     <message>
         <source>Not applying: another program changed the installed packages:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts angewendet: Ein anderes Programm hat die installierten Pakete verändert:
+%1</translation>
     </message>
     <message>
         <source>Internal error: yum version not understood: %1 errno=%2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yum-Version nicht verstanden: %1 errno=%2 (%3)</translation>
     </message>
     <message>
         <source>%1 (process %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Prozess %2)</translation>
     </message>
     <message>
         <source>VOK Package Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Paketsperre</translation>
     </message>
     <message>
         <source>Another program is working on the packages of this system:
 %1
 
 Wait for it to finish, or give up?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm arbeitet an den Paketen dieses Systems:
+%1
+
+Warten, bis es fertig ist, oder aufgeben?</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten</translation>
     </message>
     <message>
         <source>Give Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgeben</translation>
     </message>
     <message>
         <source>Waiting for process %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Prozess %1 wird gewartet</translation>
     </message>
     <message>
         <source>Waiting for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf %1 wird gewartet</translation>
     </message>
     <message>
         <source>Not waiting for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf %1 wird nicht gewartet</translation>
     </message>
     <message>
         <source>Something is signed with a key that this system does not know.
@@ -2924,556 +3105,575 @@ Fingerprint: %3
 Source: %4
 
 Import the key, and trust what is signed with it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwas ist mit einem Schlüssel signiert, den dieses System nicht kennt.
+
+Schlüssel: %1
+Inhaber: %2
+Fingerabdruck: %3
+Herkunft: %4
+
+Den Schlüssel importieren und dem vertrauen, was damit signiert ist?</translation>
     </message>
     <message>
         <source>VOK Key Import</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Schlüsselimport</translation>
     </message>
     <message>
         <source>Importing key %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel %1 wird importiert</translation>
     </message>
     <message>
         <source>Not importing key %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel %1 wird nicht importiert</translation>
     </message>
     <message>
         <source>Transaction: %1 done, %2 failed, %3 skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>Transaktion: %1 erledigt, %2 fehlgeschlagen, %3 ausgelassen</translation>
     </message>
     <message>
         <source>Failed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen:</translation>
     </message>
     <message>
         <source>Skipped:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen:</translation>
     </message>
     <message>
         <source>Done, with errors:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigt, mit Fehlern:</translation>
     </message>
     <message>
         <source>Done:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigt:</translation>
     </message>
     <message>
         <source>VOK Transaction Report</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Bericht der Transaktion</translation>
     </message>
     <message>
         <source>VOK Interrupted Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK – Unterbrochene Transaktion</translation>
     </message>
     <message>
         <source>Testing a repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Paketquelle wird getestet</translation>
     </message>
     <message>
         <source>Testing the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle wird getestet</translation>
     </message>
     <message>
         <source>test the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Test der Paketquelle</translation>
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche</translation>
     </message>
     <message>
         <source>Searching: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>The search was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche wurde abgebrochen.</translation>
     </message>
     <message>
         <source>Searching packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete werden durchsucht</translation>
     </message>
     <message>
         <source>%1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht schreiben.</translation>
     </message>
     <message>
         <source>Reading packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete werden gelesen</translation>
     </message>
     <message>
         <source>Internal error: unexpected TSINFO: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: TSINFO unerwartet: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions package %1 which does not appear to be a valid envra; interpreting as package name</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: TSINFO nennt das Paket %1, das keine gültige envra zu sein scheint; als Paketname gedeutet</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions unknown package: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: TSINFO nennt ein unbekanntes Paket: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions intent to install or upgrade package that already seems up-to-date: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: TSINFO kündigt Installation oder Aktualisierung eines Pakets an, das schon aktuell zu sein scheint: %1</translation>
     </message>
     <message>
         <source>Resolve Dependencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeiten werden aufgelöst</translation>
     </message>
     <message>
         <source>Internal error: Unable to find package for install/update/remove of %1.%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Zum Installieren, Aktualisieren oder Entfernen von %1.%2 ist kein Paket zu finden</translation>
     </message>
     <message>
         <source>Running Transaction: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Transaktion läuft: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>getRpmHdrValue called for package with no hdr (i.e. not installed)</source>
-        <translation type="unfinished"></translation>
+        <translation>getRpmHdrValue für ein Paket ohne hdr aufgerufen (also nicht installiert)</translation>
     </message>
     <message numerus="yes">
         <source>Downloading repository contents for %n repositories</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Inhalt von %n Paketquelle wird heruntergeladen</numerusform>
+            <numerusform>Inhalt von %n Paketquellen wird heruntergeladen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Downloading %n packages</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Paket wird heruntergeladen</numerusform>
+            <numerusform>%n Pakete werden heruntergeladen</numerusform>
         </translation>
     </message>
     <message>
         <source>getGroupItem_22 called for incorrect version of yum</source>
-        <translation type="unfinished"></translation>
+        <translation>getGroupItem_22 für die falsche yum-Version aufgerufen</translation>
     </message>
     <message>
         <source>getGroupItem_25 called for incorrect version of yum</source>
-        <translation type="unfinished"></translation>
+        <translation>getGroupItem_25 für die falsche yum-Version aufgerufen</translation>
     </message>
     <message>
         <source>Internal error: applyGrpConflict unexpected package state
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: applyGrpConflict: unerwarteter Paketzustand
+</translation>
     </message>
     <message>
         <source>Internal error: txmbr lacks pkgtup
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: txmbr hat kein pkgtup
+</translation>
     </message>
     <message>
         <source>Internal error: package has no relatedto
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: das Paket hat kein relatedto
+</translation>
     </message>
     <message>
         <source>Internal error: couldn&apos;t find obsoletedby package
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: obsoletedby-Paket nicht gefunden
+</translation>
     </message>
     <message>
         <source>Internal error: yumIO.tsInfo not found
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yumIO.tsInfo nicht gefunden
+</translation>
     </message>
     <message>
         <source>Internal error: yumIO.makelists() did not return a tuple
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yumIO.makelists() gab kein Tupel zurück
+</translation>
     </message>
     <message>
         <source>Internal error: yumIO.makelists() returned tuple of incorrect size
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yumIO.makelists() gab ein Tupel falscher Länge zurück
+</translation>
     </message>
 </context>
 <context>
     <name>YumIO script</name>
     <message>
         <source>There is no room left in the cache directory %s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Zwischenspeicher-Verzeichnis %s ist kein Platz mehr.</translation>
     </message>
     <message>
         <source>The packages have not been read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pakete sind noch nicht eingelesen.</translation>
     </message>
     <message>
         <source>%s
 The repository is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%s
+Die Paketquelle wird ausgelassen.</translation>
     </message>
     <message>
         <source>Closing the package session: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Schließen der Paketsitzung: %s</translation>
     </message>
     <message>
         <source>There is no repository %s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Paketquelle %s.</translation>
     </message>
     <message>
         <source>Repository %s: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle %s: %s</translation>
     </message>
     <message>
         <source>bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Removed files: %d. Freed: %s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelöschte Dateien: %d. Gewonnen: %s.</translation>
     </message>
     <message>
         <source>%s cannot be removed: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>%s lässt sich nicht löschen: %s</translation>
     </message>
     <message>
         <source>%s replaces the installed %s</source>
-        <translation type="unfinished"></translation>
+        <translation>%s ersetzt die installierten %s</translation>
     </message>
     <message>
         <source>a value is not UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Wert ist nicht UTF-8</translation>
     </message>
     <message>
         <source>The repository file %s is left out: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquellen-Datei %s wird ausgelassen: %s</translation>
     </message>
     <message>
         <source>There is no main configuration file; none of these exists: %s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Hauptkonfigurationsdatei; keine von diesen ist vorhanden: %s.</translation>
     </message>
     <message>
         <source>Unable to read the main configuration file %s: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hauptkonfigurationsdatei %s ist nicht lesbar: %s</translation>
     </message>
     <message>
         <source>The main configuration file %s is malformed: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hauptkonfigurationsdatei %s ist fehlerhaft: %s</translation>
     </message>
     <message>
         <source>Unable to make the directory %s: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Verzeichnis %s lässt sich nicht anlegen: %s</translation>
     </message>
     <message>
         <source>%s cannot be read: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>%s ist nicht lesbar: %s</translation>
     </message>
     <message>
         <source>Run &quot;rpm --rebuilddb&quot; as the administrator, or restore the directory from a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Führen Sie als Administrator „rpm --rebuilddb“ aus, oder spielen Sie das Verzeichnis aus einer Sicherung zurück.</translation>
     </message>
     <message>
         <source>The administrator can mend it by &quot;rpm --rebuilddb&quot; or from a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Administrator kann sie mit „rpm --rebuilddb“ oder aus einer Sicherung wiederherstellen.</translation>
     </message>
     <message>
         <source>The rpm database cannot be read: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Die rpm-Datenbank ist nicht lesbar: %s</translation>
     </message>
     <message>
         <source>The rpm database in %s cannot be read:</source>
-        <translation type="unfinished"></translation>
+        <translation>Die rpm-Datenbank in %s ist nicht lesbar:</translation>
     </message>
     <message>
         <source>Running the final scriptlets</source>
-        <translation type="unfinished"></translation>
+        <translation>Die letzten Skripte laufen</translation>
     </message>
     <message>
         <source>Removing %s</source>
-        <translation type="unfinished"></translation>
+        <translation>%s wird entfernt</translation>
     </message>
     <message>
         <source>Internal error: transaction report: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Bericht der Transaktion: %s</translation>
     </message>
     <message>
         <source>%s is excluded by the configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>%s ist durch die Konfiguration ausgeschlossen.</translation>
     </message>
     <message>
         <source>{1} needs {0}, which no enabled repository offers.</source>
-        <translation type="unfinished"></translation>
+        <translation>{1} benötigt {0}, und keine aktivierte Paketquelle bietet es an.</translation>
     </message>
     <message>
         <source>No enabled repository offers {0}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine aktivierte Paketquelle bietet {0} an.</translation>
     </message>
     <message>
         <source>{0} needs {1}, and nothing that offers it can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} benötigt {1}, und nichts, was es bereitstellt, lässt sich installieren.</translation>
     </message>
     <message>
         <source>{0} and {1} cannot be installed together.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} und {1} lassen sich nicht zusammen installieren.</translation>
     </message>
     <message>
         <source>{0} conflicts with itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} ist mit sich selbst unverträglich.</translation>
     </message>
     <message>
         <source>{0} cannot be there together with {2}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} und {2} vertragen sich nicht.</translation>
     </message>
     <message>
         <source>{0} replaces {2}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} ersetzt {2}.</translation>
     </message>
     <message>
         <source>{0} and {1} both replace {2}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} und {1} ersetzen beide {2}.</translation>
     </message>
     <message>
         <source>The installed package {0} would be left without what it needs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem installierten Paket {0} würde fehlen, was es benötigt.</translation>
     </message>
     <message>
         <source>{0} cannot be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} lässt sich nicht installieren.</translation>
     </message>
     <message>
         <source>{0} is for another kind of machine.</source>
-        <translation type="unfinished"></translation>
+        <translation>{0} ist für eine andere Art von Rechner.</translation>
     </message>
     <message>
         <source>The newest version cannot be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neueste Version lässt sich nicht installieren.</translation>
     </message>
     <message>
         <source>The removal would take {0}, which is protected because this system needs it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Entfernen nähme {0} mit, das geschützt ist, weil dieses System es benötigt.</translation>
     </message>
     <message>
         <source>The removal would leave {0}, which is protected because this system needs it, without what it needs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch das Entfernen fehlte {0}, das geschützt ist, weil dieses System es benötigt, etwas, das es selbst benötigt.</translation>
     </message>
     <message>
         <source>What was marked cannot be had all together: %s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was vorgemerkt ist, lässt sich nicht zusammen haben: %s.</translation>
     </message>
     <message>
         <source>and %d more</source>
-        <translation type="unfinished"></translation>
+        <translation>und %d weitere</translation>
     </message>
     <message>
         <source>%s is excluded by the settings of the repository %s (exclude=%s).</source>
-        <translation type="unfinished"></translation>
+        <translation>%s ist durch die Einstellungen der Paketquelle %s ausgeschlossen (exclude=%s).</translation>
     </message>
     <message>
         <source>%s is excluded by the main configuration file (exclude=%s).</source>
-        <translation type="unfinished"></translation>
+        <translation>%s ist durch die Hauptkonfigurationsdatei ausgeschlossen (exclude=%s).</translation>
     </message>
     <message>
         <source>DNF&apos;s group records cannot be read: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gruppenaufzeichnungen von DNF sind nicht lesbar: %s</translation>
     </message>
     <message>
         <source>The last transaction was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die letzte Transaktion wurde unterbrochen.</translation>
     </message>
     <message>
         <source>Steps that had been done: %d of %d.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigte Schritte: %d von %d.</translation>
     </message>
     <message>
         <source>Repeat the transaction to complete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen Sie die Transaktion, um sie abzuschließen.</translation>
     </message>
     <message>
         <source>&quot;dnf remove --duplicates&quot; removes the older of what is installed twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>„dnf remove --duplicates“ entfernt die ältere Version dessen, was doppelt installiert ist.</translation>
     </message>
     <message>
         <source>Nothing is missing; scriptlets may not have run to their end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt nichts; möglicherweise sind Paketskripte nicht zu Ende gelaufen.</translation>
     </message>
     <message>
         <source>Not installed: %s. If rpm was unpacking it, files of it may be there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht installiert: %s. Wenn rpm es gerade entpackte, können Dateien davon schon vorhanden sein.</translation>
     </message>
     <message>
         <source>%s cannot be written: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>%s lässt sich nicht schreiben: %s</translation>
     </message>
     <message>
         <source>A transaction was interrupted; what it was to do cannot be read: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Transaktion wurde unterbrochen; was sie tun sollte, ist nicht lesbar: %s</translation>
     </message>
     <message>
         <source>Installed twice: %s beside %s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelt installiert: %s neben %s.</translation>
     </message>
     <message>
         <source>Not removed: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht entfernt: %s</translation>
     </message>
     <message>
         <source>%s (metadata of the repository %s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%s (Metadaten der Paketquelle %s)</translation>
     </message>
     <message>
         <source>its signature is wrong or the file is damaged (%s)</source>
-        <translation type="unfinished"></translation>
+        <translation>die Signatur ist falsch oder die Datei beschädigt (%s)</translation>
     </message>
     <message>
         <source>%s cannot be trusted: %s. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%s ist nicht vertrauenswürdig: %s. Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>%s (package %s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%s (Paket %s)</translation>
     </message>
     <message>
         <source>The key 0x%s of the repository %s was not imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schlüssel 0x%s der Paketquelle %s wurde nicht importiert.</translation>
     </message>
     <message>
         <source>%s cannot be trusted: %s. %s
 Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%s ist nicht vertrauenswürdig: %s. %s
+Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>The package database is in use by process %d (%s).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketdatenbank wird vom Prozess %d (%s) benutzt.</translation>
     </message>
     <message>
         <source>unknown command</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannter Befehl</translation>
     </message>
     <message>
         <source>Looking for the fastest of %s mirrors of %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Der schnellste von %s Spiegeln von %s wird gesucht</translation>
     </message>
     <message>
         <source>%s is rebuilt from a delta</source>
-        <translation type="unfinished"></translation>
+        <translation>%s wird aus einem Delta zusammengesetzt</translation>
     </message>
     <message>
         <source>download failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Download fehlgeschlagen</translation>
     </message>
     <message>
         <source>%s (the package needs %s, and a file system has only %s left)</source>
-        <translation type="unfinished"></translation>
+        <translation>%s (das Paket braucht %s, und auf einem Dateisystem sind nur noch %s frei)</translation>
     </message>
     <message>
         <source>rpm left it out because another package failed</source>
-        <translation type="unfinished"></translation>
+        <translation>rpm hat es ausgelassen, weil ein anderes Paket fehlschlug</translation>
     </message>
     <message>
         <source>%s was not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>%s wurde nicht installiert</translation>
     </message>
     <message>
         <source>The plug-in %s fails and is left out: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Erweiterung %s versagt und bleibt außen vor: %s</translation>
     </message>
     <message>
         <source>A plug-in of DNF fails and is left out: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Erweiterung von DNF versagt und bleibt außen vor: %s</translation>
     </message>
     <message>
         <source>Import the key 0x%s?
   Owner: %s
   Fingerprint: %s
   From: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Schlüssel 0x%s importieren?
+  Inhaber: %s
+  Fingerabdruck: %s
+  Herkunft: %s</translation>
     </message>
     <message>
         <source>DNF finds no repository in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF findet darin keine Paketquelle.</translation>
     </message>
     <message>
         <source>Also needed, as a downgrade: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Außerdem nötig, als Rückkehr zu einer älteren Version: %s</translation>
     </message>
     <message>
         <source>Also needed, installed once more: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Außerdem nötig, erneut installiert: %s</translation>
     </message>
     <message>
         <source>Also needed: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Außerdem nötig: %s</translation>
     </message>
     <message>
         <source>The solver says:%s</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abhängigkeitsauflösung sagt:%s</translation>
     </message>
     <message>
         <source>Do the rest?</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Rest ausführen?</translation>
     </message>
     <message>
         <source>Do it that way?</source>
-        <translation type="unfinished"></translation>
+        <translation>So ausführen?</translation>
     </message>
     <message>
         <source>The rest can be done without:</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rest ist möglich ohne:</translation>
     </message>
     <message>
         <source>Remove it too?</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch das entfernen?</translation>
     </message>
     <message>
         <source>%s is installed as marked, although %s replaces it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%s wird wie vorgemerkt installiert, obwohl %s es ersetzt.</translation>
     </message>
     <message>
         <source>The transaction cannot be done:</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Transaktion ist nicht möglich:</translation>
     </message>
     <message>
         <source>It can be done by removing:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist möglich, wenn entfernt wird:</translation>
     </message>
     <message>
         <source>What is marked for installation cannot be there together with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zum Installieren vorgemerkt ist, verträgt sich nicht mit:</translation>
     </message>
     <message>
         <source>The transaction cannot be done as marked:</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Transaktion ist so, wie sie vorgemerkt ist, nicht möglich:</translation>
     </message>
     <message>
         <source>The package database in %s cannot be written: this needs the rights of the administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketdatenbank in %s lässt sich nicht schreiben: Dazu sind die Rechte des Administrators nötig.</translation>
     </message>
     <message>
         <source>The package database in %s cannot be written: the file system is read-only, or the directory is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketdatenbank in %s lässt sich nicht schreiben: Das Dateisystem ist schreibgeschützt, oder das Verzeichnis fehlt.</translation>
     </message>
     <message>
         <source>A transaction has run already; the packages must be read again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es lief schon eine Transaktion; die Pakete müssen neu eingelesen werden.</translation>
     </message>
     <message>
         <source>Nothing to do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu tun.</translation>
     </message>
     <message>
         <source>rpm would also remove:</source>
-        <translation type="unfinished"></translation>
+        <translation>rpm würde auch entfernen:</translation>
     </message>
     <message>
         <source>Go on?</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortfahren?</translation>
     </message>
     <message>
         <source>The report of the transaction failed: %s</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bericht der Transaktion ist fehlgeschlagen: %s</translation>
     </message>
     <message>
         <source>rpm waits for its database, which is locked by process %d (%s).</source>
-        <translation type="unfinished"></translation>
+        <translation>rpm wartet auf seine Datenbank, die vom Prozess %d (%s) gesperrt ist.</translation>
     </message>
     <message>
         <source>Cancelled by the user</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Benutzer abgebrochen</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,44 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CountLine</name>
+    <message numerus="yes">
+        <source>%Ln listed</source>
+        <translation>
+            <numerusform>%Ln listed</numerusform>
+            <numerusform>%Ln listed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln selected</numerusform>
+            <numerusform>%Ln selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln to update</source>
+        <translation>
+            <numerusform>%Ln to update</numerusform>
+            <numerusform>%Ln to update</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln to install</source>
+        <translation>
+            <numerusform>%Ln to install</numerusform>
+            <numerusform>%Ln to install</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln to remove</source>
+        <translation>
+            <numerusform>%Ln to remove</numerusform>
+            <numerusform>%Ln to remove</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Log::Window</name>
     <message numerus="yes">
         <source> ... (%n characters more; Save writes them all)</source>
@@ -52,9 +90,9 @@
     <name>YumIO</name>
     <message numerus="yes">
         <source>Downloading repository contents for %n repositories</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Downloading repository contents for %n repository</numerusform>
+            <numerusform>Downloading repository contents for %n repositories</numerusform>
         </translation>
     </message>
     <message numerus="yes">
