@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 namespace PackageTable {
 
@@ -87,7 +86,7 @@ void View::describeStep(int rows)
     if (!next.isValid())
         return;
     // Several selected rows are a choice that reading does not undo.
-    if (View::selectedRows().size() > 1)
+    if (selectedRows().size() > 1)
         selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
     else
         setCurrentIndex(next);
@@ -166,33 +165,15 @@ const QAbstractItemModel *View::measuredModel() const
     return m_measureAll ? static_cast<const QAbstractItemModel *>(m_model) : model();
 }
 
-QModelIndexList View::selectedRows() const
+QModelIndex View::source(const QModelIndex &index) const
 {
-    QModelIndexList rows = HTableView::selectedRows();
-    for (QModelIndex &row : rows)
-        row = m_proxy->mapToSource(row);
-    return rows;
+    return m_proxy->mapToSource(index);
 }
 
-// A reset drops the current row without telling.
 void View::reset()
 {
     HTableView::reset();
-    tellCurrent(m_proxy->mapToSource(currentIndex()).row());
     tellEmpty();
-}
-
-void View::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    HTableView::currentChanged(current, previous);
-    tellCurrent(m_proxy->mapToSource(current).row());
-}
-
-void View::tellCurrent(int row)
-{
-    const int previous = std::exchange(m_currentRow, row);
-    if (row != previous)
-        Q_EMIT currentChanged(row, previous);
 }
 
 // An empty table says why, also to who cannot see it.

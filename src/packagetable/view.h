@@ -33,7 +33,6 @@ class View : public HTableView
 public:
     View(Model *model, SortFilterProxyModel *proxy, QWidget *parent);
 
-    QModelIndexList selectedRows() const override;
     void reset() override;
     // Looks through the names, whatever the current column.
     void keyboardSearch(const QString &search) override;
@@ -47,8 +46,6 @@ public:
     void setColumns(const QVariantMap &columns);
 
 Q_SIGNALS:
-    // Row -1 is none.
-    void currentChanged(int currentRow, int previousRow);
     // The action of the row may have changed; -1 for any row.
     void stateChanged(int row);
 
@@ -61,7 +58,6 @@ public Q_SLOTS:
     void handleHorizontalHeaderClicked(int column);
     void handleActivated(const QModelIndex &index);
     void handleCustomContextMenuRequested(const QPoint &pos);
-    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 protected:
     bool event(QEvent *event) override;
@@ -69,6 +65,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     const QAbstractItemModel *measuredModel() const override;
+    QModelIndex source(const QModelIndex &index) const override;
 
 private:
     void showColumnMenu(const QPoint &pos);
@@ -76,7 +73,6 @@ private:
     void showAllColumns();
     void copySelection() const;
     const Package::Entry *entryAt(int proxyRow) const;
-    void tellCurrent(int row);
     void tellEmpty();
     void describeStep(int rows);
     void tellDescribeSteps();
@@ -87,7 +83,6 @@ private:
     SortFilterProxyModel *m_proxy;
     ActionContextMenu *m_actionContextMenu = nullptr;
     OtherContextMenu *m_otherContextMenu = nullptr;
-    int m_currentRow = -1; // the model's
     bool m_measureAll = false;
     QString m_emptyText; // in the place of rows; empty when there are some
 };

@@ -12,7 +12,6 @@
 #include <QSortFilterProxyModel>
 
 #include <algorithm>
-#include <utility>
 
 namespace RepoEditor {
 
@@ -94,7 +93,7 @@ View::View(Model *model, QSortFilterProxyModel *proxy, QWidget *parent)
 
 void View::followSelection()
 {
-    const QModelIndexList rows = HTableView::selectedRows();
+    const QModelIndexList rows = selectedProxyRows();
     if (rows.size() == 1 && rows.first().row() != currentIndex().row())
         selectionModel()->setCurrentIndex(
             rows.first().siblingAtColumn(std::max(currentIndex().column(), 0)),
@@ -111,12 +110,9 @@ void View::setCurrentRow(int row)
     setCurrentIndex(m_proxy->mapFromSource(m_model->createIndex(row)));
 }
 
-QModelIndexList View::selectedRows() const
+QModelIndex View::source(const QModelIndex &index) const
 {
-    QModelIndexList rows = HTableView::selectedRows();
-    for (QModelIndex &row : rows)
-        row = m_proxy->mapToSource(row);
-    return rows;
+    return m_proxy->mapToSource(index);
 }
 
 ContextMenu *View::getContextMenu()
@@ -151,7 +147,7 @@ void View::toggleSelected()
     const QModelIndex current = currentIndex();
     toggle(current);
     const bool marked = m_model->isMarked(m_proxy->mapToSource(current));
-    for (const QModelIndex &row : HTableView::selectedRows()) {
+    for (const QModelIndex &row : selectedProxyRows()) {
         const QModelIndex cell = row.siblingAtColumn(current.column());
         if (m_model->isMarked(m_proxy->mapToSource(cell)) != marked)
             toggle(cell);
@@ -218,26 +214,6 @@ void View::keyboardSearch(const QString &search)
     goToColumn(IdColumn);
     HTableView::keyboardSearch(search);
     goToColumn(column);
-}
-
-// A reset drops the current row without telling.
-void View::reset()
-{
-    HTableView::reset();
-    tellCurrent(currentRow());
-}
-
-void View::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    HTableView::currentChanged(current, previous);
-    tellCurrent(m_proxy->mapToSource(current).row());
-}
-
-void View::tellCurrent(int row)
-{
-    const int previous = std::exchange(m_currentRow, row);
-    if (row != previous)
-        Q_EMIT currentChanged(row, previous);
 }
 
 } // namespace RepoEditor

@@ -22,15 +22,11 @@ public:
     // -1 for none.
     int currentRow() const;
     void setCurrentRow(int row);
-    QModelIndexList selectedRows() const override;
     ContextMenu *getContextMenu();
-    void reset() override;
     // Looks through the identifiers, whatever the current column.
     void keyboardSearch(const QString &search) override;
 
 Q_SIGNALS:
-    // Row -1 is none.
-    void currentChanged(int currentRow, int previousRow);
     // A repository is to be edited; the index is the model's and may be invalid.
     void activated(const QModelIndex &index);
     void addAsked();
@@ -45,20 +41,16 @@ public Q_SLOTS:
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-
-protected Q_SLOTS:
-    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    QModelIndex source(const QModelIndex &index) const override;
 
 private:
     void followSelection();
     void toggle(const QModelIndex &index);
     void toggleSelected();
-    void tellCurrent(int row);
 
     Model *m_model;
     QSortFilterProxyModel *m_proxy;
     ContextMenu *m_contextMenu = nullptr;
-    int m_currentRow = -1; // the model's
 };
 
 } // namespace RepoEditor

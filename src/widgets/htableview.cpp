@@ -9,6 +9,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 HTableView::HTableView(QStyleOptionViewItem::Position decorationPosition, int minRows, int maxRows,
                        QWidget *parent)
@@ -108,7 +109,36 @@ void HTableView::resizeColumnsToContents()
     keepOnScreen(top);
 }
 
+// A reset drops the current row without telling.
+void HTableView::reset()
+{
+    QTableView::reset();
+    tellCurrent(currentIndex());
+}
+
+void HTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    tellCurrent(current);
+}
+
+void HTableView::tellCurrent(const QModelIndex &current)
+{
+    const int row = source(current).row();
+    const int previous = std::exchange(m_currentRow, row);
+    if (row != previous)
+        Q_EMIT currentChanged(row, previous);
+}
+
 QModelIndexList HTableView::selectedRows() const
+{
+    QModelIndexList rows = selectedProxyRows();
+    for (QModelIndex &row : rows)
+        row = source(row);
+    return rows;
+}
+
+QModelIndexList HTableView::selectedProxyRows() const
 {
     QModelIndexList rows;
     if (!selectionModel())

@@ -25,18 +25,31 @@ public:
     void sortByColumn(int column);
     void sortByColumn(int column, Qt::SortOrder order);
 
-    // One index for each selected row.
-    virtual QModelIndexList selectedRows() const;
+    // One index for each selected row, of source().
+    QModelIndexList selectedRows() const;
+    void reset() override;
+
+Q_SIGNALS:
+    // Rows are those of source(); -1 is none.
+    void currentChanged(int currentRow, int previousRow);
+
+public Q_SLOTS:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 protected:
+    // What an index of the model stands for where that is a proxy.
+    virtual QModelIndex source(const QModelIndex &index) const { return index; }
+    QModelIndexList selectedProxyRows() const;
     void initViewItemOption(QStyleOptionViewItem *option) const override;
     // The model whose rows decide the widths.
     virtual const QAbstractItemModel *measuredModel() const { return model(); }
 
 private:
     int frameOnlyAroundContentsPixels() const;
+    void tellCurrent(const QModelIndex &current);
 
     QStyleOptionViewItem::Position m_decorationPosition;
     mutable int m_minRows;
     mutable int m_maxRows;
+    int m_currentRow = -1; // of source()
 };
