@@ -1485,6 +1485,10 @@ Protokollfensters mit an; dort sollte die Aufrufkette stehen.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
 </context>
 <context>
     <name>RepoBrowse</name>

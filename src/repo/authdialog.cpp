@@ -30,6 +30,13 @@ void showKey(QLabel *label, const QString &key, const QString &fallback)
     label->setText(key.isEmpty() ? fallback : harmless(key).replace(u'&', QLatin1String("&&")));
 }
 
+// Screen readers tell an empty label by the text of the label beside it.
+void showValue(QLabel *label, const QString &text)
+{
+    label->setText(text);
+    label->setAccessibleName(text.isEmpty() ? Dialog::tr("none") : QString());
+}
+
 } // namespace
 
 Dialog::Dialog(QWidget *parent) : HDialog(parent)
@@ -139,8 +146,8 @@ int Dialog::exec(Repo::Entry *entry, const QString &warning)
     m_nameKey.clear();
     m_passwordKey.clear();
     Repo::Kivvet::getAuth(*entry, m_nameKey, name, m_passwordKey, password);
-    m_id->setText(harmless(entry->id));
-    m_repoName->setText(harmless(entry->name));
+    showValue(m_id, harmless(entry->id));
+    showValue(m_repoName, harmless(entry->name));
     showKey(m_nameLabel, m_nameKey, tr("Name"));
     showKey(m_passwordLabel, m_passwordKey, tr("Password"));
     m_name->setText(name);
@@ -171,8 +178,8 @@ void Dialog::authChanged(const QString &)
         return Repo::Kivvet::replaceAuth(maskPasswords(harmless(urls)), m_nameKey, m_name->text(),
                                          m_passwordKey, QString(m_password->text().size(), mask));
     };
-    m_baseurl->setText(shown(m_entry->baseurl));
-    m_mirrorlist->setText(shown(m_entry->mirrorlist));
+    showValue(m_baseurl, shown(m_entry->baseurl));
+    showValue(m_mirrorlist, shown(m_entry->mirrorlist));
     if (isVisible()) { // else they have no width yet
         for (HWrapLabel *label : {m_id, m_repoName, m_baseurl, m_mirrorlist})
             fit(label);

@@ -123,6 +123,7 @@ private:
         QSet<QString> used; // the paths of files with repositories
         QStringList refusals;
         QStringList notes;
+        bool drops = false; // repositories without a name of their own
     };
 
     // What the reader makes of the bytes of one file.
@@ -179,7 +180,8 @@ private:
     QStringList changedOnDisk(const Plan &plan) const;
     static QString changedOnDiskNote(const QStringList &files);
 
-    bool ask(const QString &question);
+    // `loses`: a yes takes something away.
+    bool ask(const QString &question, bool loses);
     // `more` is shown behind the reason.
     void error(const QString &message, const QString &more = QString()) const;
 

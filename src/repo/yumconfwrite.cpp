@@ -39,6 +39,7 @@ YumConfIO::Plan YumConfIO::makePlan()
     Plan plan;
     plan.list = repos;
     plan.notes = checkErrors(plan.list);
+    plan.drops = !plan.notes.isEmpty();
     cleanupWrite(plan.list);
     plan.notes += warnings(plan.list);
 
@@ -95,10 +96,10 @@ bool YumConfIO::write(QWidget *parent)
                            .arg(plan.refusals.join(u'\n')));
         return false;
     }
-    if (!plan.notes.isEmpty() && !ask(plan.notes.join(u'\n') + tr("  Proceed?")))
+    if (!plan.notes.isEmpty() && !ask(plan.notes.join(u'\n') + tr("  Proceed?"), plan.drops))
         return false;
     const QStringList changed = changedOnDisk(plan);
-    if (!changed.isEmpty() && !ask(changedOnDiskNote(changed) + tr("  Proceed?")))
+    if (!changed.isEmpty() && !ask(changedOnDiskNote(changed) + tr("  Proceed?"), true))
         return false;
 
     if (!writeContents(plan.contents))
@@ -360,8 +361,9 @@ bool YumConfIO::removeUnusedFiles(const QSet<QString> &usedFiles)
     return !failed;
 }
 
-bool YumConfIO::ask(const QString &question)
+bool YumConfIO::ask(const QString &question, bool loses)
 {
-    return showMessageBox(QMessageBox::Critical, m_parent, tr("Repository Editor"), question,
-                          tr("Yes"), tr("No"), QString(), 1, 1) == 0;
+    return showMessageBox(loses ? QMessageBox::Critical : QMessageBox::Warning, m_parent,
+                          tr("Repository Editor"), question, tr("Yes"), tr("No"), QString(), 1,
+                          1) == 0;
 }
