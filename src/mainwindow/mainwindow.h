@@ -24,6 +24,7 @@ class QComboBox;
 class QLabel;
 class QLayout;
 class QLineEdit;
+class QMessageBox;
 class QPushButton;
 class YumConfIO;
 
@@ -69,10 +70,11 @@ public:
     using QMainWindow::resize;
 
 public Q_SLOTS:
-    // Ends the program; while a job runs, as soon as it has stopped. A job that can be cancelled
-    // is. What an rpm transaction has to report is shown before.
+    // Ends the program, unless the user wants to keep what that would lose; while a job runs, as soon
+    // as it has stopped. A job that can be cancelled is. What an rpm transaction has to report is
+    // shown before.
     void quit();
-    // As quit, with nobody there to read: the next start shows the report.
+    // As quit, with nobody there to answer or to read: the next start shows the report.
     void terminate();
     void displayLog();
     void cleanHeaders();
@@ -148,12 +150,18 @@ private:
     void showMode();
 
     // quit.cpp
+    void leave();
     void finish();
     void askToQuit();
     void decline();
     void showKeptReport();
     bool recallGeometry();
     void tell(const QString &text);
+
+    // quitquestion.cpp
+    qsizetype marked() const;
+    bool waitsForAnAnswer() const;
+    bool askBeforeQuit();
 
     void note(const QString &text) { m_notes.append(text); }
     // repositories.cpp
@@ -193,12 +201,14 @@ private:
     QPointer<QWidget> m_focusBeforeJob;
     bool m_inTransaction = false; // rpm is at work
     bool m_rpmBegan = false;      // in the running job
-    bool m_quitAsked = false;     // quit when the job has ended
-    bool m_unattended = false;    // nobody is there to read
-    bool m_finished = false;      // the engine is gone
-    bool m_dialogRuns = false;    // a dialog that uses the engine is open
-    bool m_reposChanged = false;  // the editor, which is closing, has changed something
-    QString m_repoToEdit;         // whose form is to be opened when the job has ended
+    bool m_downloads = false;     // packages are being downloaded
+    QPointer<QMessageBox> m_quitQuestion;
+    bool m_quitAsked = false;    // quit when the job has ended
+    bool m_unattended = false;   // nobody is there to read
+    bool m_finished = false;     // the engine is gone
+    bool m_dialogRuns = false;   // a dialog that uses the engine is open
+    bool m_reposChanged = false; // the editor, which is closing, has changed something
+    QString m_repoToEdit;        // whose form is to be opened when the job has ended
     int m_exitCode = 0;
     Marks m_marks;               // between two collections
     QStringList m_unreadable;    // configuration files that were named

@@ -21,6 +21,8 @@ public:
     void take(const YumIO &yumIO);
     // When there are rows again; without any the marks wait for the next time.
     Told giveBack(const YumIO &yumIO);
+    // Of the marks that wait.
+    qsizetype count() const { return m_marks.size(); }
     void clear() { m_marks.clear(); }
 
 private:

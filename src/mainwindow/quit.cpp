@@ -79,6 +79,7 @@ void MainWindow::jobState(const QString &state, bool canCancel)
         return;
     m_canCancel = canCancel;
     m_inTransaction = state == QStringLiteral("transaction");
+    m_downloads = state == QStringLiteral("download");
     m_rpmBegan = m_rpmBegan || m_inTransaction;
     if (!m_inTransaction)
         m_closeRefused = false;
@@ -116,6 +117,12 @@ void MainWindow::cancel()
 
 void MainWindow::quit()
 {
+    if (!askBeforeQuit())
+        leave();
+}
+
+void MainWindow::leave()
+{
     if (m_finished)
         return;
     if (m_busy || m_dialogRuns)
@@ -127,7 +134,7 @@ void MainWindow::quit()
 void MainWindow::terminate()
 {
     m_unattended = true;
-    quit();
+    leave();
 }
 
 // Nobody may be there any more to answer what the job asks, now or later, before it ends. Only what
@@ -193,12 +200,14 @@ void MainWindow::askToQuit()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if ((!m_busy && !m_dialogRuns) || m_finished) {
+    if (!askBeforeQuit() && ((!m_busy && !m_dialogRuns) || m_finished)) {
         event->accept();
         finish();
         return;
     }
     event->ignore();
+    if (m_quitQuestion)
+        return;
     if (m_inTransaction && !m_closeRefused && !m_quitAsked) {
         m_closeRefused = true;
         tell(tr("An rpm transaction is running and cannot be stopped. Close again to quit when it "

@@ -10,6 +10,8 @@ namespace {
 constexpr qsizetype longestText = 2000;
 constexpr qsizetype mostLines = 25;
 
+const QString buttonName = QStringLiteral("button%1");
+
 void setText(QMessageBox &box, const QString &text)
 {
     box.setTextFormat(Qt::PlainText);
@@ -29,16 +31,11 @@ void setText(QMessageBox &box, const QString &text)
     }
 }
 
-} // namespace
-
-int showMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
-                   const QString &text, const QString &button0, const QString &button1,
-                   const QString &button2, int defaultButton, int escapeButton)
+void fill(QMessageBox &box, const QString &text, const QString (&texts)[3], int defaultButton,
+          int escapeButton)
 {
-    QMessageBox box(icon, title, QString(), QMessageBox::NoButton, parent);
     box.setObjectName(QStringLiteral("messageBox"));
     setText(box, text);
-    const QString texts[] = {button0, button1, button2};
     QPushButton *buttons[3] = {};
     for (int i = 0; i < 3; ++i) {
         if (!texts[i].isEmpty())
@@ -51,17 +48,47 @@ int showMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title
         if (!buttons[i])
             continue;
         buttons[i]->setIcon(QIcon());
-        buttons[i]->setObjectName(QStringLiteral("button%1").arg(i));
+        buttons[i]->setObjectName(buttonName.arg(i));
         if (i == defaultButton)
             box.setDefaultButton(buttons[i]);
         if (i == escapeButton)
             box.setEscapeButton(buttons[i]);
     }
     summon(&box);
-    box.exec();
+}
+
+int pressed(const QMessageBox &box, int escapeButton)
+{
+    const QAbstractButton *clicked = box.clickedButton();
     for (int i = 0; i < 3; ++i) {
-        if (buttons[i] && buttons[i] == box.clickedButton())
+        if (clicked && clicked->objectName() == buttonName.arg(i))
             return i;
     }
     return escapeButton;
+}
+
+} // namespace
+
+int showMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
+                   const QString &text, const QString &button0, const QString &button1,
+                   const QString &button2, int defaultButton, int escapeButton)
+{
+    QMessageBox box(icon, title, QString(), QMessageBox::NoButton, parent);
+    fill(box, text, {button0, button1, button2}, defaultButton, escapeButton);
+    box.exec();
+    return pressed(box, escapeButton);
+}
+
+QMessageBox *openMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
+                            const QString &text, const QString &button0, const QString &button1,
+                            int defaultButton, int escapeButton,
+                            const std::function<void(int)> &answered)
+{
+    auto *box = new QMessageBox(icon, title, QString(), QMessageBox::NoButton, parent);
+    fill(*box, text, {button0, button1, QString()}, defaultButton, escapeButton);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(box, &QDialog::finished, parent,
+                     [=] { answered(pressed(*box, escapeButton)); });
+    box->open();
+    return box;
 }

@@ -2,6 +2,8 @@
 
 #include <QMessageBox>
 
+#include <functional>
+
 // Shows a modal message box with up to three buttons and returns the number of the one pressed.
 // Empty texts give no button; three empty texts give one OK button, number 0. `defaultButton` is
 // pressed by Return, `escapeButton` by Escape and by closing the box; -1 for none, so that a choice
@@ -11,3 +13,10 @@ int showMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title
                    const QString &text, const QString &button0 = QString(),
                    const QString &button1 = QString(), const QString &button2 = QString(),
                    int defaultButton = 0, int escapeButton = -1);
+
+// The same beside the work of the program, which goes on: returns at once, and calls `answered` with
+// the number when the box has closed, unless the parent has gone. The box deletes itself.
+QMessageBox *openMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
+                            const QString &text, const QString &button0, const QString &button1,
+                            int defaultButton, int escapeButton,
+                            const std::function<void(int)> &answered);
