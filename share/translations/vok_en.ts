@@ -50,6 +50,16 @@
     </message>
 </context>
 <context>
+    <name>MainWindow</name>
+    <message numerus="yes">
+        <source>%Ln package(s) are marked and not applied.</source>
+        <translation>
+            <numerusform>%Ln package is marked and not applied.</numerusform>
+            <numerusform>%Ln packages are marked and not applied.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PackageTable::Describe::Dialog</name>
     <message numerus="yes">
         <source>%Ln files</source>

@@ -260,6 +260,7 @@ private Q_SLOTS:
     // Asked to quit, the window cancels what can be cancelled and goes when it has stopped.
     void quitsWhenTheJobHasStopped()
     {
+        press("clearActionsButton"); // or the user would be asked
         refreshAndThen([this] { m_window->quit(); });
         QVERIFY(!m_window->isVisible());
         QVERIFY(!QApplication::overrideCursor());

@@ -73,6 +73,7 @@ class Recorder:
     def close(self):
         """Ends the program by its menu, or by force when a job still runs; returns its exit status."""
         try:
+            self.do("answer", rules=[{"title": "VOK Quit", "button": "Quit Without Applying"}])
             self.do("press", button="quitAction", timeout=5)
             return self.process.wait(20)
         except (AssertionError, OSError, subprocess.TimeoutExpired):
