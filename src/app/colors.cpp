@@ -19,6 +19,7 @@ QPalette withBase(QPalette palette, const QColor &color)
 }
 
 constexpr double enoughContrast = 4.5;
+constexpr double enoughForHints = 3;
 constexpr double shadeStep = 0.02;
 constexpr double paleLuminance = 0.85;
 
@@ -36,6 +37,16 @@ double contrast(const QColor &one, const QColor &two)
 {
     const double first = luminance(one), second = luminance(two);
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+// A translucent colour as it looks on an opaque one.
+QColor over(const QColor &color, const QColor &background)
+{
+    const float part = color.alphaF();
+    const auto mix = [part](float one, float two) { return one * part + two * (1 - part); };
+    return QColor::fromRgbF(mix(color.redF(), background.redF()),
+                            mix(color.greenF(), background.greenF()),
+                            mix(color.blueF(), background.blueF()));
 }
 
 QColor nearestReadable(const QColor &text, const QColor &background)
@@ -108,6 +119,17 @@ QColor Colors::warningBg()
 QColor Colors::okBg()
 {
     return QColor(QStringLiteral("lightgreen"));
+}
+
+QPalette Colors::withReadableHints(QPalette palette)
+{
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor base = palette.color(group, QPalette::Base);
+        const QColor hint = palette.color(group, QPalette::PlaceholderText);
+        if (contrast(over(hint, base), base) < enoughForHints)
+            palette.setColor(group, QPalette::PlaceholderText, readable(over(hint, base), base));
+    }
+    return palette;
 }
 
 QPalette Colors::makeRequired(const QPalette &palette)

@@ -26,6 +26,9 @@ public:
     // As light as the backgrounds that the colours of status texts are made for.
     static bool isPale(const QColor &background);
 
+    // With readable hints in empty fields, whose colour some desktops leave as it is on light fields.
+    static QPalette withReadableHints(QPalette palette);
+
     // Copies with the background of fields coloured, and the text readable on it, for the active and
     // the inactive group.
     static QPalette makeRequired(const QPalette &palette);

@@ -11,6 +11,9 @@ class Application : public QApplication
 public:
     using QApplication::QApplication;
 
+    // Once the style is set; what changes later is seen to.
+    void mendPalette();
+
 Q_SIGNALS:
     void quitAsked();
 

@@ -28,6 +28,7 @@ int main(int argc, char **argv)
     Application app(argc, argv);
     installTranslations(app);
     style.set(app, QStringLiteral("plastique"));
+    app.mendPalette();
     app.setWindowIcon(programIcon());
     QGuiApplication::setDesktopFileName(QStringLiteral("vok"));
     setProgramName(argv[0]);
