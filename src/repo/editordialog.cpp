@@ -98,7 +98,8 @@ QHBoxLayout *Dialog::createFilter()
     // Return here is not meant for the default button.
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down})
         connect(new QShortcut(key, m_filter, nullptr, nullptr, Qt::WidgetShortcut),
-                &QShortcut::activated, m_view, qOverload<>(&QWidget::setFocus));
+                &QShortcut::activated, m_view,
+                [this] { m_view->setFocus(Qt::ShortcutFocusReason); });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_filter,
             qOverload<>(&QWidget::setFocus));
     return row;
@@ -229,9 +230,19 @@ void Dialog::drop()
 
 void Dialog::currentChanged(int current, int)
 {
+    if (current == -1)
+        releaseFocus({m_browseButton, m_editButton, m_copyButton, m_removeButton});
     for (QPushButton *button : {m_browseButton, m_editButton, m_copyButton, m_removeButton})
         button->setEnabled(current != -1);
     updateStatusLabel();
+}
+
+// Before buttons are disabled: the focus goes to the table, not on to the button behind.
+void Dialog::releaseFocus(const QList<QPushButton *> &buttons)
+{
+    if (std::any_of(buttons.begin(), buttons.end(),
+                    [](const QPushButton *button) { return button->hasFocus(); }))
+        m_view->setFocus();
 }
 
 void Dialog::useChanged()
@@ -264,6 +275,8 @@ void Dialog::updateButtons()
             : tr("Nothing can be applied, because these files cannot be read:\n%1")
                   .arg(m_yumConfIO->unreadable().join(u'\n'));
     const bool canApply = reason.isEmpty();
+    if (!isUnapplied())
+        releaseFocus({m_previewButton, m_resetAllButton, m_applyButton});
     m_resetAllButton->setEnabled(isUnapplied());
     m_previewButton->setEnabled(isUnapplied());
     m_applyButton->setEnabled(isUnapplied() && canApply);

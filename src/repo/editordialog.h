@@ -73,6 +73,7 @@ private:
     QHBoxLayout *createLowerRow();
     void recallGeometry();
     bool start();
+    void releaseFocus(const QList<QPushButton *> &buttons);
     bool isUnapplied() const { return m_entryHasChanged || m_configHasChanged; }
     void addEntry(Repo::Entry entry);
     bool hasEmptyId() const;

@@ -205,15 +205,34 @@ void View::keyPressEvent(QKeyEvent *event)
 
 void View::keyboardSearch(const QString &search)
 {
-    const int column = currentIndex().column();
-    const auto goToColumn = [this](int wanted) {
-        if (currentIndex().isValid() && wanted >= 0)
-            selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(wanted),
-                                              QItemSelectionModel::NoUpdate);
+    const QModelIndex before = currentIndex();
+    const auto goTo = [this](const QModelIndex &index) {
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     };
-    goToColumn(IdColumn);
+    // The row after the current one is looked at first.
+    const QModelIndex start = before.isValid() ? before.siblingAtColumn(IdColumn)
+                                               : m_proxy->index(m_proxy->rowCount() - 1, IdColumn);
+    goTo(start);
     HTableView::keyboardSearch(search);
-    goToColumn(column);
+    if (before.isValid())
+        goTo(currentIndex().siblingAtColumn(before.column()));
+    else if (currentIndex() == start && !selectionModel()->isSelected(start))
+        goTo({}); // nothing was found
+}
+
+// Where the window gives the focus, at its start or when it is active again, no row gets current by
+// itself, so that no button acts on a row that nobody has chosen.
+void View::focusInEvent(QFocusEvent *event)
+{
+    const Qt::FocusReason reason = event->reason();
+    const bool byUser = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                        reason == Qt::ShortcutFocusReason;
+    // A dialog pretends a Tab to what has its focus while it comes up.
+    if ((byUser && hasFocus()) || currentIndex().isValid())
+        return HTableView::focusInEvent(event);
+    QAbstractScrollArea::focusInEvent(event);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    viewport()->update();
 }
 
 } // namespace RepoEditor

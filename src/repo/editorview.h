@@ -41,6 +41,7 @@ public Q_SLOTS:
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     QModelIndex source(const QModelIndex &index) const override;
 
 private:

@@ -101,11 +101,15 @@ private Q_SLOTS:
         const QAbstractItemModelTester proxyTester(editor.view->model());
         QSignalSpy changed(&editor.dialog, &RepoEditor::Dialog::reposChanged);
         QCOMPARE(editor.shown(), (QStringList{u"B"_s, u"r1"_s, u"r9"_s, u"r10"_s}));
+        auto *edit = editor.dialog.findChild<QPushButton *>(u"editButton"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&editor.dialog) && editor.view->hasFocus());
+        QVERIFY(!edit->isEnabled()); // until the user has made a row current
 
         // All selected rows get the state that the current one gets: r1 and r9 off, r10 as it was.
         editor.keys({Qt::Key_Home, Qt::Key_Right, Qt::Key_Down});
         editor.keys({Qt::Key_Down | int(Qt::ShiftModifier), Qt::Key_Down | int(Qt::ShiftModifier)});
         editor.keys({Qt::Key_Space});
+        QVERIFY(edit->isEnabled());
         QCOMPARE(root.entry(u"r10"_s).enabled, Qt::Unchecked);
         QCOMPARE(root.entry(u"r1"_s).enabled, Qt::Unchecked);
         QCOMPARE(root.entry(u"B"_s).enabled, Qt::PartiallyChecked);
