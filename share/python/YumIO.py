@@ -184,6 +184,17 @@ class YumIO:
         """List of (group object, action 0 update, 1 install, 2 remove) for the next apply."""
         self._noted = [(group, int(action)) for group, action in noted]
 
+    def sources(self):
+        """Optional: what the table rests on, as a tuple of the directory of the rpm database and a list of pairs:
+        a file and "", or a directory and the pattern of its files' names. Paths as the system calls them; not
+        all need exist."""
+        return self._session.sources()
+
+    def installedChanged(self):
+        """Optional, to be asked between jobs: whether packages came or went since setupTs read them. A few
+        milliseconds; outdated names them."""
+        return self._session.installed_changed()
+
     def outdated(self):
         """Optional, to be asked before an apply is listed: what another program did to the installed packages
         since setupTs read them. A tuple (came, gone, changed) of lists of texts, all three empty when the

@@ -3,6 +3,7 @@
 #include "log/logwindow.h"
 #include "mainwindow/countline.h"
 #include "mainwindow/job.h"
+#include "mainwindow/machinewatch.h"
 #include "packagetable/model.h"
 #include "packagetable/sortfilterproxymodel.h"
 #include "packagetable/view.h"
@@ -35,6 +36,8 @@ MainWindow::MainWindow() : m_yumIO(new YumIO)
     createMenuBar();
     createCentralWidget();
     m_yumIO->setup(this, m_totalBar, m_itemBar);
+    m_watch = new MachineWatch([this] { return m_yumIO->installedChanged(); }, this);
+    connect(m_watch, &MachineWatch::raised, this, &MainWindow::lookAround);
     m_geometryKept = recallGeometry();
 }
 
@@ -101,6 +104,7 @@ bool MainWindow::start()
     const Job job(this);
     if (!job)
         return false;
+    m_watch->take();
     m_yumConfIO = new YumConfIO(m_repoRequests, m_reposUsed);
     connect(m_yumConfIO, &YumConfIO::changed, this, &MainWindow::yumConfIOChanged);
     m_model->setYumConfIO(m_yumConfIO);
@@ -112,6 +116,7 @@ bool MainWindow::start()
         return false;
     }
     m_engineReady = true;
+    m_watch->setSources(m_yumIO->sources());
     showKeptReport();
     if (m_startInEditor)
         showPlaceholder(true);
@@ -159,6 +164,7 @@ void MainWindow::collect(Refresh why)
 void MainWindow::gather(Refresh why)
 {
     const bool collected = m_yumIO->collect(m_reposUsed);
+    noteCollected(collected);
     giveMarksBack(why);
     if (!collected)
         note(m_yumIO->count() > 0
@@ -206,7 +212,9 @@ void MainWindow::recollect(Refresh why)
         return;
     m_marks.take(*m_yumIO);
     const PackageTable::Place place = m_view->place();
+    m_watch->take();
     m_yumIO->renew();
+    m_watch->setSources(m_yumIO->sources());
     m_model->reset();
     if (!m_quitAsked)
         collect(why);
@@ -325,8 +333,10 @@ void MainWindow::cleanAll()
 void MainWindow::refresh()
 {
     const Job job(this);
-    if (job)
-        recollect();
+    if (!job)
+        return;
+    readFilesAgain();
+    recollect();
 }
 
 void MainWindow::resize()
@@ -360,26 +370,19 @@ void MainWindow::clearActions()
     stateChanged(-1);
 }
 
-// When an apply did not begin because the rows are not true any more.
-bool MainWindow::askToRefresh()
-{
-    QStringList changes;
-    if (m_quitAsked || !m_yumIO->outdated(&changes))
-        return false;
-    const QString text = tr("Another program has changed the installed packages since they were "
-                            "collected. Nothing was applied.\n\nRefresh the table? What is marked "
-                            "stays marked where that is still possible.\n\n%1")
-                             .arg(changes.join(u'\n'));
-    return showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Warning"), text, tr("Refresh"),
-                          tr("Cancel"), QString(), 0, 1) == 0;
-}
-
 void MainWindow::apply()
 {
     const Job job(this);
     if (!job)
         return;
-    if (m_yumIO->apply()) {
+    m_watch->look();
+    if (m_watch->isOutdated()) {
+        m_yumIO->nameChanges();
+        if (askToRefresh()) {
+            readFilesAgain();
+            recollect();
+        }
+    } else if (m_yumIO->apply()) {
         checkCredentials();
         recollect(Refresh::AfterApply);
     } else {

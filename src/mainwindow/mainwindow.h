@@ -17,6 +17,7 @@ class HElidedLabel;
 class HFrameLabel;
 class HMenu;
 class HProgressBar;
+class MachineWatch;
 class NoticeRow;
 class QAction;
 class QCheckBox;
@@ -171,6 +172,14 @@ private:
     RepoEditor::Dialog *repoEditor();
     void showPlaceholder(bool withButton);
 
+    // around.cpp
+    void lookAround();
+    QStringList changedFiles() const;
+    bool askToRefresh();
+    void noteCollected(bool collected);
+    void readFilesAgain();
+    QHash<QString, bool> enabledInFiles() const;
+
     bool start();
     void setReady(bool ready);
     bool runJob(const std::function<void()> &work);
@@ -180,7 +189,6 @@ private:
     void gather(Refresh why);
     void recollect(Refresh why = Refresh::Asked);
     void giveMarksBack(Refresh why);
-    bool askToRefresh();
     void cleanAndCollect(bool (YumIO::*operation)());
     void showMainArea();
 
@@ -188,6 +196,7 @@ private:
     QHash<QString, bool> m_reposUsed;
     YumIO *m_yumIO = nullptr;
     YumConfIO *m_yumConfIO = nullptr;
+    MachineWatch *m_watch = nullptr;
     bool m_startInEditor = false;
     bool m_showLogAtStart = false;
     bool m_initializeScheduled = false;
@@ -210,10 +219,11 @@ private:
     bool m_reposChanged = false; // the editor, which is closing, has changed something
     QString m_repoToEdit;        // whose form is to be opened when the job has ended
     int m_exitCode = 0;
-    Marks m_marks;               // between two collections
-    QStringList m_unreadable;    // configuration files that were named
-    QStringList m_notes;         // what the line shall say when the job has ended
-    bool m_closeRefused = false; // the user was told once that a transaction runs
+    Marks m_marks;                      // between two collections
+    QHash<QString, bool> m_enabledThen; // the repositories when the packages were collected
+    QStringList m_unreadable;           // configuration files that were named
+    QStringList m_notes;                // what the line shall say when the job has ended
+    bool m_closeRefused = false;        // the user was told once that a transaction runs
 
     HMenu *m_programMenu = nullptr;
     QAction *m_quitAction = nullptr;

@@ -68,6 +68,7 @@ MainWindow::Job::~Job()
         return;
     }
     m_window->tell(std::exchange(m_window->m_notes, {}).join(QStringLiteral("  ")));
+    m_window->lookAround(); // first, for the button of a notice that goes may have the focus
     m_window->setReady(m_window->m_initialized);
     if (!m_window->m_repoToEdit.isEmpty())
         QTimer::singleShot(0, m_window, [window = m_window] { window->editRepositories(); });
@@ -103,6 +104,8 @@ void MainWindow::dialogRuns(bool runs)
     m_dialogRuns = runs;
     if (!runs && m_quitAsked && !m_busy)
         QTimer::singleShot(0, this, &MainWindow::finish);
+    else if (!runs && !m_reposChanged)
+        lookAround();
 }
 
 void MainWindow::cancel()

@@ -144,6 +144,8 @@ bool YumIO::createYumIO()
         failInitialize(tr("Internal error: cannot create python yumIO"));
     pyExceptClear();
     Py_XSETREF(m_session.yumIO, object);
+    if (object)
+        readSources();
     return object != nullptr;
 }
 

@@ -4,6 +4,47 @@
 
 #include "yumio.h"
 
+// Without an answer nothing is known to be watched.
+void YumIO::readSources()
+{
+    m_session.sources = {};
+    if (!PyObject_HasAttrString(m_session.yumIO, "sources"))
+        return;
+    const PyRef result(pyMethodCall(m_session.yumIO, "sources", "()"));
+    PyObject *database, *files;
+    if (!result || !PyTuple_Check(result.get()) ||
+        !PyArg_ParseTuple(result.get(), "OO", &database, &files)) {
+        PyErr_Clear();
+        return;
+    }
+    m_session.sources.database = pyString(database);
+    const PyRef iterator(PyObject_GetIter(files));
+    while (const PyRef file = PyRef(iterator ? PyIter_Next(iterator.get()) : nullptr)) {
+        PyObject *path, *pattern;
+        if (!PyArg_ParseTuple(file.get(), "OO", &path, &pattern))
+            break;
+        m_session.sources.files.append({pyString(path), pyString(pattern)});
+    }
+    PyErr_Clear();
+}
+
+bool YumIO::installedChanged()
+{
+    if (!m_session.yumIO || m_session.spent)
+        return false;
+    const PyGILStateWrapper lock(true);
+    if (!PyObject_HasAttrString(m_session.yumIO, "installedChanged"))
+        return false;
+    const PyRef result(pyMethodCall(m_session.yumIO, "installedChanged", "()"));
+    return result.get() == Py_True;
+}
+
+bool YumIO::nameChanges()
+{
+    const PyGILStateWrapper lock(true);
+    return findOutdated();
+}
+
 bool YumIO::outdated(QStringList *changes) const
 {
     if (changes)

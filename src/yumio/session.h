@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sources.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -43,6 +45,7 @@ struct Session
     QString basearch;
     bool fileLists = false; // are loaded
     bool otherData = false; // is loaded
+    Sources sources;
     bool spent = false;     // a transaction ran: the rows are out of date
     QStringList changes;    // of another program to what was read, in words
 };

@@ -113,6 +113,12 @@ public:
     // another program had changed the installed packages since they were collected. `changes` gets
     // a line for each package. The marks are as they were; a collection makes the rows true again.
     bool outdated(QStringList *changes = nullptr) const;
+    // For what watches the machine, to be asked between jobs: what the next collection rests on,
+    // whether packages came or went since the last one, in a few milliseconds, and the same with
+    // the changes named, for outdated().
+    const Engine::Sources &sources() const { return m_session.sources; }
+    bool installedChanged();
+    bool nameChanges();
     // Looks for an extended POSIX expression in every field of rows, of available packages in the
     // file lists and change logs only as far as they were loaded: for each row whether any field
     // holds it. Nothing when the search was cancelled.
@@ -380,6 +386,7 @@ private:
 
     // outdated.cpp
     bool findOutdated();
+    void readSources();
 
     // elements.cpp
     void endDownloads();

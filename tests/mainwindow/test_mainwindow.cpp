@@ -1,7 +1,10 @@
 #include "rows.h"
 
+#include "mainwindow/machinewatch.h"
 #include "mainwindow/mainwindow.h"
+#include "mainwindow/noticerow.h"
 #include "packagetable/view.h"
+#include "yumio/yumio.h"
 
 #include <QAction>
 #include <QApplication>
@@ -14,6 +17,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -31,6 +35,9 @@ private Q_SLOTS:
     {
         QVERIFY(m_dir.isValid());
         QDir(m_dir.path()).mkpath(u"root/etc/yum.repos.d"_s);
+        QDir(m_dir.path()).mkpath(u"root/var/lib/rpm"_s);
+        write(u"root/var/lib/rpm/db"_s, "as read");
+        write(u"root/etc/yum.repos.d/a.repo"_s, "[a]\n");
         write(u"root/etc/yum.conf"_s, "[main]\ncachedir=/cache/here\n[base]\nenabled=1\n");
         qputenv("VOKROOT", m_dir.filePath(u"root"_s).toUtf8());
         qputenv("XDG_CONFIG_HOME", m_dir.filePath(u"config"_s).toUtf8());
@@ -257,6 +264,55 @@ private Q_SLOTS:
         QVERIFY(child<QPushButton>("applyButton")->isEnabled());
     }
 
+    void tellsOfOthers_data()
+    {
+        columns<QString, QString, int, QString>("file", "content", "questions", "line");
+        ::row("read", "var/lib/rpm/db-shm", "x", 0, "");
+        ::row("written", "var/lib/rpm/db", "the same", 1, "");
+        ::row("installed", "var/lib/rpm/db", "other", 1, "The installed packages have changed.");
+        ::row("undone", "var/lib/rpm/db", "as read", 1, "");
+        ::row("touched", "etc/yum.repos.d/a.repo", "[a]\n", 0, "");
+        ::row("edited", "etc/yum.repos.d/a.repo", "[b]\n", 0, "The configuration has changed.");
+    }
+
+    // What others do is worth a line when the table is not true any more. Who only reads is not asked
+    // about, or the question would raise itself.
+    void tellsOfOthers()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, content);
+        const qsizetype before = calls("installedChanged");
+        QSignalSpy raised(m_window->findChild<MachineWatch *>(), &MachineWatch::raised);
+        write(u"root/%1~"_s.arg(file), content.toUtf8());
+        QVERIFY(rename(path(file + u'~').constData(), path(file).constData()) == 0);
+        QVERIFY(raised.wait());
+        QTEST(int(calls("installedChanged") - before), "questions");
+        QTEST(notice(), "line");
+    }
+
+    // A table that is known to be old is not applied; the refresh that is offered makes it true.
+    void refusesAnOldTable()
+    {
+        const qsizetype before = calls("apply");
+        press("setUpdateListedButton");
+        QString said;
+        QTimer probe;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            auto *box = QApplication::activeModalWidget();
+            if (!box)
+                return;
+            said = box->property("text").toString();
+            probe.stop();
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        probe.start(5);
+        press("applyButton");
+        QVERIFY(said.contains(u"Changed: /etc/yum.repos.d/a.repo"_s));
+        QCOMPARE(calls("apply"), before);
+        QCOMPARE(notice(), QString());
+        QVERIFY(child<QPushButton>("applyButton")->isEnabled());
+    }
+
     // Asked to quit, the window cancels what can be cancelled and goes when it has stopped.
     void quitsWhenTheJobHasStopped()
     {
@@ -286,6 +342,22 @@ private:
     }
     QAction *action(const char *name) { return child<QAction>(name); }
     QString message() { return child<QLabel>("message")->text(); }
+    QString notice()
+    {
+        auto *label = child<NoticeLabel>("outdatedNotice");
+        return label->isVisible() ? label->text() : QString();
+    }
+    QByteArray path(const QString &file) { return m_dir.filePath(u"root/"_s + file).toUtf8(); }
+    // How often the script was asked for something.
+    qsizetype calls(const char *method)
+    {
+        qsizetype count = 0;
+        Log::EntryList &log = m_window->findChild<YumIO *>()->logList();
+        const QMutexLocker locker(&log.mutex());
+        for (const Log::Entry &entry : log.entries())
+            count += entry.text == QLatin1String(method);
+        return count;
+    }
     void press(const char *name) { QTest::mouseClick(child<QPushButton>(name), Qt::LeftButton); }
 
     // Starts a job that waits in a state, and does something once it can be cancelled.

@@ -36,7 +36,8 @@ class Collect(Case):
         because it moves a package to another place of the database."""
         root = self.root()
         packages = pathlib.Path(root, "srv/repos/9/x86_64")
-        steps = [COLLECT, {"do": "outdated"}]
+        both = [{"do": "installedChanged"}, {"do": "outdated"}]
+        steps = [COLLECT, *both]
         for arguments in (["-e", "gpg-pubkey"],
                           ["-U", "--replacepkgs", "--nodeps", "--nosignature", *sum((list(packages.glob(
                               "*/Packages/%s*" % name)) for name in ("clock-1.0-2", "weather-1.0-1", "chess-1.2")),
@@ -44,11 +45,12 @@ class Collect(Case):
                           ["-e", "--nodeps", "kernel-6.1.0-1", "epochal"]):
             command = [str(word) for word in (SANDBOX, "rpm", root, *arguments)]
             steps += [evaluate("__import__('subprocess').run(%r, check=True).returncode" % command),
-                      {"do": "outdated"}]
+                      *both]
         result = run(root, {"steps": steps})
         self.assertEqual(result["errors"], [None] * len(steps))
         new, changed = ["chess-1.2-1.x86_64"], ["clock.x86_64 1.0-1 -> 1.0-2", "weather.noarch 1.0-1 -> 1.0-1"]
-        self.assertEqual(result["values"][1::2], [
+        self.assertEqual(result["values"][1::3], [False, False, True, True])
+        self.assertEqual(result["values"][2::3], [
             [[], [], []], [[], [], []], [new, [], changed],
             [new, ["epochal-5.0-1.noarch", "kernel-6.1.0-1.x86_64"], changed]])
 

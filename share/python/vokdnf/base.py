@@ -15,6 +15,7 @@ from . import solvcache
 from .translation import tr
 
 _SOURCES = ["src", "nosrc"]
+_MODULES = "/etc/dnf/modules.d"  # which module streams are enabled
 
 
 class Base(dnf.Base):
@@ -166,6 +167,28 @@ class Session:
         """{repository: (path, identity)} for what is kept of searchTexts."""
         return {name: (cached.search, cached.mark) for name, cached in self._cached.items()
                 if cached.mark}
+
+    def sources(self):
+        """What the collection rests on beside metadata: the directory of the rpm database, and pairs of a
+        file with "" or a directory with the pattern of its files' names. Paths are those of the system."""
+        # Of these the first that exists counts.
+        main = config.MAIN_FILES.index(root.shown(self.conf.config_file_path))
+        files = [(path, "") for path in config.MAIN_FILES[:main + 1]]
+        files += [(root.shown(path), "*.repo") for path in self.conf.reposdir]
+        files += [(path, "*") for path in self.conf.varsdir]
+        return database.directory(), [*files, (_MODULES, "*.module")]
+
+    def installed_changed(self):
+        """Whether packages came or went since the sack was filled; False before that. A few milliseconds."""
+        if self.base.sack is None:
+            return False
+        current = database.cookie(self.conf)
+        if current == self._cookie:
+            return False
+        if not current or database.numbers(self.conf) != database.numbers_read_by(self.sack):
+            return True
+        self._cookie = current
+        return False
 
     def outdated(self):
         """What differs between the rpm database and the packages that were read of it, as

@@ -13,6 +13,7 @@ from .translation import tr
 
 # rpm on some distributions keeps its database in the user's home unless told otherwise.
 _PATH = "/var/lib/rpm"
+_KEY = "gpg-pubkey"  # what rpm calls a key that it keeps among the packages
 
 
 def check(conf):
@@ -43,6 +44,21 @@ def cookie(conf):
         return ""
 
 
+def directory():
+    """The directory of the database, as the system calls it."""
+    return rpm.expandMacro("%{_dbpath}")
+
+
+def numbers(conf):
+    """The numbers under which rpm keeps the installed packages, keys left out: the keys of contents, sooner.
+    None when the database cannot be read."""
+    try:
+        index = dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot).ts.dbIndex("name")
+        return {number for name in index if name != _KEY for number, _ in index.instances()}
+    except rpm.error:
+        return None
+
+
 def contents(conf):
     """{number: (name, arch, epoch, version, release)} of the installed packages, keys left out. The number
     is rpm's own, under which a transaction removes a package; a reinstallation changes it."""
@@ -50,13 +66,18 @@ def contents(conf):
     return {header[rpm.RPMTAG_DBINSTANCE]:
             tuple(report.clean(part) for part in (header["name"], header["arch"], header["epoch"] or 0,
                                                   header["version"], header["release"]))
-            for header in reader.dbMatch() if header["name"] != "gpg-pubkey"}
+            for header in reader.dbMatch() if header["name"] != _KEY}
 
 
 def read_by(sack):
     """The same of a filled sack."""
     return {pkg.rpmdbid: tuple(map(report.clean, pkg.pkgtup))
             for pkg in sack.query(hawkey.IGNORE_EXCLUDES).installed()}
+
+
+def numbers_read_by(sack):
+    """The same of a filled sack."""
+    return {pkg.rpmdbid for pkg in sack.query(hawkey.IGNORE_EXCLUDES).installed()}
 
 
 def differences(before, after):

@@ -142,7 +142,8 @@ DEFAULTS = dict(
     requiredPkgs=lambda io, name: [name],
     pkgTree=lambda io, name: [name])
 OPTIONAL = ("collectRows", "noteGroups", "outdated", "apply", "applyFailCleanup", "cleanHeaders", "cleanPackages",
-            "cleanMetadata", "cleanPickles", "cleanSqlite", "testRepo", "repoOptions", "expanded")
+            "cleanMetadata", "cleanPickles", "cleanSqlite", "testRepo", "repoOptions", "expanded",
+            "sources", "installedChanged")
 
 
 class YumIO:

@@ -5,6 +5,7 @@ a look at a description and a transaction wait in the state that it names ("meta
 "search", "transaction") until it goes, or until the user cancels where that is allowed; NAME.held exists
 meanwhile. Where the file says "otherdata fails", that fails when it goes."""
 
+import os
 import time
 
 
@@ -52,6 +53,15 @@ available = [P("beta", "1-1", repo="extras", size=500, buildtime=86400, descript
              P("grüße", "1-1", repo="extras")]
 available[0].files = ["/bin/b"]
 groups = [Group("Workshop", True, optional=["alpha"]), Group("Attic", False, optional=["alpha"])]
+
+
+def sources(io):
+    return "/var/lib/rpm", [("/etc/yum.conf", ""), ("/etc/yum.repos.d", "*.repo")]
+
+
+def installedChanged(io):
+    with open(os.environ["VOKROOT"] + "/var/lib/rpm/db") as database:
+        return database.read() == "other"
 
 
 def isBetterThan(io, first, second):
