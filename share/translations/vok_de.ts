@@ -574,18 +574,6 @@ Eine begonnene rpm-Transaktion lässt sich nicht abbrechen.</translation>
         <translation>Löscht alle in %1 zwischengespeicherten Daten</translation>
     </message>
     <message>
-        <source>Another program has changed the installed packages since they were collected. Nothing was applied.
-
-Refresh the table? What is marked stays marked where that is still possible.
-
-%1</source>
-        <translation>Ein anderes Programm hat die installierten Pakete verändert, seit sie eingelesen wurden. Es wurde nichts angewendet.
-
-Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch möglich ist.
-
-%1</translation>
-    </message>
-    <message>
         <source>VOK Yum Warning</source>
         <translation>VOK – Yum-Warnung</translation>
     </message>
@@ -688,6 +676,73 @@ Es wird mit VOK installiert, außer wenn VOK ohne die Programme gebaut wurde, di
     <message>
         <source>Help</source>
         <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>The installed packages have changed.</source>
+        <translation>Die installierten Pakete haben sich geändert.</translation>
+    </message>
+    <message>
+        <source>Installed packages and configuration have changed.</source>
+        <translation>Installierte Pakete und Konfiguration haben sich geändert.</translation>
+    </message>
+    <message>
+        <source>The configuration has changed.</source>
+        <translation>Die Konfiguration hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>Another program did that since the packages were collected. What is marked stays marked in a refresh where that is still possible.</source>
+        <translation>Das war ein anderes Programm, seit die Pakete eingelesen wurden. Was vorgemerkt ist, bleibt beim Neueinlesen vorgemerkt, soweit es noch möglich ist.</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Geändert: %1</translation>
+    </message>
+    <message>
+        <source>Another program has changed the installed packages since they were collected. Nothing was applied.</source>
+        <translation>Ein anderes Programm hat die installierten Pakete verändert, seit sie eingelesen wurden. Es wurde nichts angewendet.</translation>
+    </message>
+    <message>
+        <source>The configuration has changed since the packages were collected. Nothing was applied.</source>
+        <translation>Die Konfiguration hat sich geändert, seit die Pakete eingelesen wurden. Es wurde nichts angewendet.</translation>
+    </message>
+    <message>
+        <source>%1
+
+Refresh the table? What is marked stays marked where that is still possible.
+
+%2</source>
+        <translation>%1
+
+Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch möglich ist.
+
+%2</translation>
+    </message>
+    <message>
+        <source>Packages are being downloaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln package(s) are marked and not applied.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>VOK Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Break Off and Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit Without Applying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep Open</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
