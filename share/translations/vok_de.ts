@@ -828,7 +828,7 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
     </message>
     <message>
         <source>Change &amp;Log</source>
-        <translation>Änderungs&amp;protokoll</translation>
+        <translation>Ände&amp;rungen</translation>
     </message>
     <message>
         <source>&amp;Required By</source>
@@ -3388,7 +3388,7 @@ Die Paketquelle wird ausgelassen.</translation>
     </message>
     <message>
         <source>%s replaces the installed %s</source>
-        <translation>%s ersetzt die installierten %s</translation>
+        <translation>%s ersetzt Installiertes: %s</translation>
     </message>
     <message>
         <source>a value is not UTF-8</source>

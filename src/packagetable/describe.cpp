@@ -96,12 +96,16 @@ Dialog::Dialog(QWidget *parent)
     // The texts keep these keys from the tabs.
     onKeys(Qt::CTRL | Qt::Key_PageDown, [this] { turnPages(1); });
     onKeys(Qt::CTRL | Qt::Key_PageUp, [this] { turnPages(-1); });
+    // The tabs themselves would go to pages that are hidden.
+    onKeys(Qt::CTRL | Qt::Key_Tab, [this] { turnPages(1); });
+    onKeys(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, [this] { turnPages(-1); });
     // A button's own shortcut would take the place of its letter.
     onKeys(Qt::ALT | Qt::Key_Up, [this] { m_previousButton->click(); });
     onKeys(Qt::ALT | Qt::Key_Down, [this] { m_nextButton->click(); });
 
     const QFontMetrics metrics(font());
-    resize(QSize(metrics.averageCharWidth() * 112, metrics.height() * 34)
+    resize(QSize(std::max(metrics.averageCharWidth() * 112, m_tabs->sizeHint().width()),
+                 metrics.height() * 34)
                .boundedTo(screen()->availableSize() * 9 / 10));
     restoreGeometry(settings().value(geometryKey).toByteArray());
 }
