@@ -719,30 +719,30 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
     </message>
     <message>
         <source>Packages are being downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete werden gerade heruntergeladen.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln package(s) are marked and not applied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Paket ist vorgemerkt und noch nicht angewendet.</numerusform>
+            <numerusform>%Ln Pakete sind vorgemerkt und noch nicht angewendet.</numerusform>
         </translation>
     </message>
     <message>
         <source>VOK Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>VOK beenden</translation>
     </message>
     <message>
         <source>&amp;Break Off and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen &amp;und beenden</translation>
     </message>
     <message>
         <source>&amp;Quit Without Applying</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden &amp;ohne Anwenden</translation>
     </message>
     <message>
         <source>&amp;Keep Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Geöffne&amp;t lassen</translation>
     </message>
 </context>
 <context>
