@@ -9,7 +9,6 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -179,20 +178,10 @@ void View::reset()
 // An empty table says why, also to who cannot see it.
 void View::tellEmpty()
 {
-    m_emptyText = m_proxy->rowCount() > 0 ? QString() : emptyText(*m_proxy);
-    setAccessibleDescription(m_emptyText.isEmpty()
-                                 ? tr("Space changes the action of the current package.")
-                                 : m_emptyText);
-}
-
-void View::paintEvent(QPaintEvent *event)
-{
-    HTableView::paintEvent(event);
-    if (m_emptyText.isEmpty())
-        return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(viewport()->rect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_emptyText);
+    const QString text = m_proxy->rowCount() > 0 ? QString() : emptyText(*m_proxy);
+    setEmptyText(text);
+    setAccessibleDescription(text.isEmpty() ? tr("Space changes the action of the current package.")
+                                            : text);
 }
 
 void View::changeEvent(QEvent *event)

@@ -62,7 +62,6 @@ public Q_SLOTS:
 protected:
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     const QAbstractItemModel *measuredModel() const override;
     QModelIndex source(const QModelIndex &index) const override;
@@ -84,7 +83,6 @@ private:
     ActionContextMenu *m_actionContextMenu = nullptr;
     OtherContextMenu *m_otherContextMenu = nullptr;
     bool m_measureAll = false;
-    QString m_emptyText; // in the place of rows; empty when there are some
 };
 
 } // namespace PackageTable

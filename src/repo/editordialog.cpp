@@ -95,14 +95,26 @@ QHBoxLayout *Dialog::createFilter()
     row->addWidget(label);
     row->addWidget(m_filter);
     connect(m_filter, &QLineEdit::textChanged, m_proxy, &SortFilterProxyModel::setFilterText);
+    connect(m_filter, &QLineEdit::textChanged, this, &Dialog::explainEmpty);
+    explainEmpty(QString());
     // Return here is not meant for the default button.
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down})
         connect(new QShortcut(key, m_filter, nullptr, nullptr, Qt::WidgetShortcut),
                 &QShortcut::activated, m_view,
                 [this] { m_view->setFocus(Qt::ShortcutFocusReason); });
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_filter,
-            qOverload<>(&QWidget::setFocus));
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_filter, [this] {
+        m_filter->setFocus(Qt::ShortcutFocusReason);
+        m_filter->selectAll();
+    });
     return row;
+}
+
+void Dialog::explainEmpty(const QString &filter)
+{
+    m_view->setEmptyText(
+        filter.isEmpty()
+            ? tr("There are no repositories.\nAdd makes the first one.")
+            : tr("No repository has \"%1\" in its identifier, name or URLs.").arg(filter));
 }
 
 template <typename Slot>

@@ -79,6 +79,7 @@ private:
     bool hasEmptyId() const;
     QString getDuplicateId() const;
     void updateStatusLabel();
+    void explainEmpty(const QString &filter);
     static QString unappliedText(int removed);
     void setEntryToOldId(const QString &id);
     void setEntryHasChanged(bool flag);

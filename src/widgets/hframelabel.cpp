@@ -1,5 +1,6 @@
 #include "hframelabel.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -15,8 +16,11 @@ HFrameLabel::HFrameLabel(const QString &text, QWidget *parent) : QLabel(parent)
     setText(text);
 }
 
-void HFrameLabel::paintEvent(QPaintEvent *)
+void HFrameLabel::paintEvent(QPaintEvent *event)
 {
+    // The toolkit repaints the inside of the frame when the text changes.
+    if (event->rect() != rect())
+        update();
     if (text().isEmpty())
         return;
     QPainter painter(this);

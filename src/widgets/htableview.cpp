@@ -5,6 +5,8 @@
 #include "widgets/onscreen.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -151,4 +153,34 @@ QModelIndexList HTableView::selectedProxyRows() const
         }
     }
     return rows;
+}
+
+void HTableView::setEmptyText(const QString &text)
+{
+    m_emptyText = text;
+    viewport()->update();
+}
+
+void HTableView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (m_emptyText.isEmpty() || !model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(viewport()->rect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_emptyText);
+}
+
+QItemSelectionModel::SelectionFlags HTableView::selectionCommand(const QModelIndex &index,
+                                                                 const QEvent *event) const
+{
+    if (event && event->type() == QEvent::KeyPress && selectionBehavior() == SelectRows) {
+        const auto *press = static_cast<const QKeyEvent *>(event);
+        const bool along = press->key() == Qt::Key_Left || press->key() == Qt::Key_Right ||
+                           press->key() == Qt::Key_Home || press->key() == Qt::Key_End;
+        if (along && !(press->modifiers() & ~Qt::KeypadModifier) &&
+            index.row() == currentIndex().row())
+            return QItemSelectionModel::NoUpdate;
+    }
+    return QTableView::selectionCommand(index, event);
 }

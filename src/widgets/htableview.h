@@ -29,6 +29,9 @@ public:
     QModelIndexList selectedRows() const;
     void reset() override;
 
+    // What is shown in the place of rows while there are none.
+    void setEmptyText(const QString &text);
+
 Q_SIGNALS:
     // Rows are those of source(); -1 is none.
     void currentChanged(int currentRow, int previousRow);
@@ -40,6 +43,10 @@ protected:
     // What an index of the model stands for where that is a proxy.
     virtual QModelIndex source(const QModelIndex &index) const { return index; }
     QModelIndexList selectedProxyRows() const;
+    // Going along the row keeps the rows that are selected.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
+    void paintEvent(QPaintEvent *event) override;
     void initViewItemOption(QStyleOptionViewItem *option) const override;
     // The model whose rows decide the widths.
     virtual const QAbstractItemModel *measuredModel() const { return model(); }
@@ -52,4 +59,5 @@ private:
     mutable int m_minRows;
     mutable int m_maxRows;
     int m_currentRow = -1; // of source()
+    QString m_emptyText;
 };
