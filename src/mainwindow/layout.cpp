@@ -308,10 +308,10 @@ QLayout *MainWindow::createBarsRow()
     QWidget *parent = m_waiting->parentWidget();
     m_totalBar = new HProgressBar(parent);
     m_totalBar->setObjectName(QStringLiteral("totalBar"));
-    m_totalBar->setAccessibleName(tr("Total progress"));
+    m_totalBar->setTitle(tr("Total progress"));
     m_itemBar = new HProgressBar(parent);
     m_itemBar->setObjectName(QStringLiteral("itemBar"));
-    m_itemBar->setAccessibleName(tr("Progress of the current step"));
+    m_itemBar->setTitle(tr("Progress of the current step"));
     m_totalBar->setEnabled(false);
     m_itemBar->setEnabled(false);
     m_cancelButton = new QPushButton(tr("Ca&ncel"), parent);

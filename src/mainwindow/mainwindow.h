@@ -159,6 +159,9 @@ private:
     bool recallGeometry();
     void tell(const QString &text);
 
+    // spokenstates.cpp
+    void speakState(const QString &state);
+
     // quitquestion.cpp
     qsizetype marked() const;
     bool waitsForAnAnswer() const;

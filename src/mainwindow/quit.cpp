@@ -8,6 +8,7 @@
 #include "repo/authdialog.h"
 #include "repo/configdialog.h"
 #include "repo/editordialog.h"
+#include "widgets/announce.h"
 #include "widgets/helidedlabel.h"
 #include "widgets/scrollabledialogs.h"
 #include "yumio/yumio.h"
@@ -59,8 +60,8 @@ MainWindow::Job::~Job()
 {
     if (!m_window)
         return;
-    m_window->jobState(QStringLiteral("done"), false);
     m_window->m_busy = false;
+    m_window->jobState(QStringLiteral("done"), false);
     m_window->m_cancelAsked = false;
     if (m_window->m_quitAsked) {
         if (!m_window->m_dialogRuns)
@@ -85,6 +86,7 @@ void MainWindow::jobState(const QString &state, bool canCancel)
     if (!m_inTransaction)
         m_closeRefused = false;
     m_cancelButton->setEnabled(canCancel && !m_quitAsked);
+    speakState(state);
     if (canCancel && m_quitAsked)
         m_yumIO->cancel();
 }
@@ -254,6 +256,9 @@ bool MainWindow::recallGeometry()
 // Shows a message under the bars; an empty one takes the last away.
 void MainWindow::tell(const QString &text)
 {
-    if (!m_finished)
-        m_message->setText(text);
+    if (m_finished)
+        return;
+    m_message->setText(text);
+    if (!text.isEmpty())
+        announce(this, text);
 }

@@ -1,10 +1,23 @@
 #include "hprogressbar.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 
+#include <algorithm>
 #include <limits>
+#include <utility>
 
-HProgressBar::HProgressBar(QWidget *parent) : QProgressBar(parent) {}
+namespace {
+
+constexpr int quietMs = 250;
+
+} // namespace
+
+HProgressBar::HProgressBar(QWidget *parent) : QProgressBar(parent)
+{
+    m_soon.setSingleShot(true);
+    m_soon.callOnTimeout(this, &HProgressBar::showNow);
+}
 
 QString HProgressBar::text() const
 {
@@ -16,32 +29,65 @@ QString HProgressBar::text() const
     return tr("%1 (%2)").arg(m_activity, base);
 }
 
+void HProgressBar::setTitle(const QString &title)
+{
+    m_title = title;
+    if (!title.isEmpty())
+        setAccessibleName(m_activity.isEmpty() ? title : tr("%1: %2").arg(title, m_activity));
+}
+
 void HProgressBar::setActivity(const QString &activity)
 {
-    if (activity == m_activity)
-        return;
-    m_activity = activity;
-    update();
+    m_pending.activity = activity;
+    showSoon();
 }
 
 void HProgressBar::setMaximumSteps(Steps max)
 {
-    m_shift = 0;
-    while ((max >> m_shift) > Steps(std::numeric_limits<int>::max()))
-        ++m_shift;
-    setMaximum(int(max >> m_shift));
+    m_pending.max = max;
+    showSoon();
 }
 
 void HProgressBar::setValueSteps(Steps value)
 {
-    value >>= m_shift;
+    m_pending.value = value;
+    showSoon();
+}
+
+void HProgressBar::showSoon()
+{
+    if (!QAccessible::isActive())
+        showNow();
+    else if (!m_soon.isActive())
+        m_soon.start(m_sinceShown.isValid() ? std::max(0, quietMs - int(m_sinceShown.elapsed()))
+                                            : 0);
+}
+
+void HProgressBar::showNow()
+{
+    m_sinceShown.start();
+    const Pending pending = std::exchange(m_pending, {});
+    if (pending.activity && *pending.activity != m_activity) {
+        m_activity = *pending.activity;
+        setTitle(m_title);
+        update();
+    }
+    if (pending.max) {
+        m_shift = 0;
+        while ((*pending.max >> m_shift) > Steps(std::numeric_limits<int>::max()))
+            ++m_shift;
+        setMaximum(int(*pending.max >> m_shift));
+    }
     // A value beyond the maximum would be ignored by the base.
-    setValue(value < Steps(maximum()) ? int(value) : maximum());
+    if (pending.value)
+        setValue(int(std::min(*pending.value >> m_shift, Steps(maximum()))));
 }
 
 void HProgressBar::reset()
 {
-    m_activity.clear();
+    m_soon.stop();
+    m_pending.activity = QString();
+    showNow();
     QProgressBar::reset();
     update();
 }

@@ -2,10 +2,15 @@
 
 #include "steps.h"
 
+#include <QElapsedTimer>
 #include <QProgressBar>
+#include <QTimer>
+
+#include <optional>
 
 // A progress bar that shows an activity beside the percentage, counts in 64 bits, and announces a
-// request for a tool tip instead of showing a fixed one.
+// request for a tool tip instead of showing a fixed one. While a screen reader listens it shows what
+// it is set to some times a second only, since all that it shows is told.
 class HProgressBar : public QProgressBar
 {
     Q_OBJECT
@@ -13,6 +18,8 @@ class HProgressBar : public QProgressBar
 public:
     explicit HProgressBar(QWidget *parent = nullptr);
 
+    // What it is the progress of, for screen readers, which are told the activity with it.
+    void setTitle(const QString &title);
     QString text() const override;
     void setActivity(const QString &activity);
 
@@ -32,6 +39,21 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    // What was set and is not shown yet.
+    struct Pending
+    {
+        std::optional<QString> activity;
+        std::optional<Steps> max;
+        std::optional<Steps> value;
+    };
+
+    void showSoon();
+    void showNow();
+
+    QString m_title;
     QString m_activity;
     int m_shift = 0;
+    Pending m_pending;
+    QTimer m_soon;
+    QElapsedTimer m_sinceShown;
 };

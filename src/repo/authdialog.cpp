@@ -43,16 +43,16 @@ Dialog::Dialog(QWidget *parent) : HDialog(parent)
 {
     setObjectName(QStringLiteral("authDialog"));
     setWindowTitle(tr("VOK Authentication"));
-    auto *heading = new QLabel(tr("Some configured repositories require authentication"), this);
-    heading->setFont(Fonts::makeHeader(heading->font()));
-    heading->setWordWrap(true);
+    m_heading = new QLabel(tr("Some configured repositories require authentication"), this);
+    m_heading->setFont(Fonts::makeHeader(m_heading->font()));
+    m_heading->setWordWrap(true);
     m_warning = new QLabel(this);
     m_warning->setObjectName(QStringLiteral("warningLabel"));
     m_warning->setTextFormat(Qt::PlainText);
     m_warning->setWordWrap(true);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(heading);
+    layout->addWidget(m_heading);
     layout->addWidget(new HSeparator(this));
     layout->addLayout(createFields(), 1);
     layout->addWidget(m_warning);
@@ -156,6 +156,8 @@ int Dialog::exec(Repo::Entry *entry, const QString &warning)
     m_warning->setText(warning);
     m_warning->setVisible(!warning.isEmpty());
     m_password->setAccessibleDescription(warning);
+    setAccessibleDescription(
+        QStringLiteral("%1: %2\n%3").arg(m_heading->text(), m_id->text(), warning));
     setButtonsEnabled(true);
     m_name->setFocus();
     if (isHidden())

@@ -75,6 +75,7 @@ private:
     QLineEdit *m_name = nullptr;
     QLabel *m_passwordLabel = nullptr;
     QLineEdit *m_password = nullptr;
+    QLabel *m_heading = nullptr;
     QLabel *m_warning = nullptr;
     QList<QPushButton *> m_buttons;
     QString m_nameKey;

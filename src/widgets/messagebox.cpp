@@ -54,6 +54,7 @@ void fill(QMessageBox &box, const QString &text, const QString (&texts)[3], int 
         if (i == escapeButton)
             box.setEscapeButton(buttons[i]);
     }
+    box.setAccessibleDescription(box.text()); // which readers speak when it opens
     summon(&box);
 }
 

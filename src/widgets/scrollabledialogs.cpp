@@ -15,6 +15,9 @@ constexpr int tabColumns = 8;
 constexpr int fewestColumns = 40;
 constexpr int fewestRows = 3;
 
+// Readers speak the text when the dialog opens; the rest is read in it.
+constexpr qsizetype mostSpoken = 2000;
+
 // Stands for the width of a line that is not worth measuring: it will be wrapped anyway.
 constexpr qsizetype longLine = 2000;
 
@@ -73,6 +76,7 @@ ScrollableDialog::ScrollableDialog(const QString &text, QWidget *parent)
     m_text->setTabChangesFocus(true);
     m_text->setTabStopDistance(tabColumns * m_text->fontMetrics().averageCharWidth());
     m_text->setPlainText(text);
+    setAccessibleDescription(text.left(mostSpoken));
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }

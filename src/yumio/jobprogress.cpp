@@ -13,9 +13,9 @@ JobProgress::JobProgress(const QString &name, const QString &cancelText, const Q
       m_cancelButton(new QPushButton(cancelText, this))
 {
     m_totalBar->setObjectName(name + QStringLiteral("TotalBar"));
-    m_totalBar->setAccessibleName(tr("Total progress"));
+    m_totalBar->setTitle(tr("Total progress"));
     m_itemBar->setObjectName(name + QStringLiteral("ItemBar"));
-    m_itemBar->setAccessibleName(tr("Progress of the current step"));
+    m_itemBar->setTitle(tr("Progress of the current step"));
     m_cancelButton->setObjectName(name + QStringLiteral("CancelButton"));
     m_cancelButton->setToolTip(cancelTip);
     m_cancelButton->setAutoDefault(false);

@@ -1,0 +1,8 @@
+#pragma once
+
+class QString;
+class QWidget;
+
+// Has screen readers speak a text that shows, if at all, where the focus is not. For what a window
+// has to tell now and then.
+void announce(QWidget *window, const QString &text);
