@@ -140,6 +140,10 @@ und ohne die Mitglieder vorgemerkter Gruppen.</translation>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>
@@ -744,6 +748,38 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
         <source>&amp;Keep Open</source>
         <translation>Geöffne&amp;t lassen</translation>
     </message>
+    <message>
+        <source>Waiting for another program</source>
+        <translation>Es wird auf ein anderes Programm gewartet</translation>
+    </message>
+    <message>
+        <source>Reading repositories and packages</source>
+        <translation>Paketquellen und Pakete werden gelesen</translation>
+    </message>
+    <message>
+        <source>Resolving dependencies</source>
+        <translation>Abhängigkeiten werden aufgelöst</translation>
+    </message>
+    <message>
+        <source>Downloading packages</source>
+        <translation>Pakete werden heruntergeladen</translation>
+    </message>
+    <message>
+        <source>Changing the installed packages</source>
+        <translation>Die installierten Pakete werden verändert</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Es wird gesucht</translation>
+    </message>
+    <message>
+        <source>Testing the repository</source>
+        <translation>Die Paketquelle wird getestet</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -1212,7 +1248,7 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation>Einfaches Paket</translation>
+        <translation>Gewöhnliches Paket</translation>
     </message>
     <message>
         <source>Installed: %1
@@ -1252,7 +1288,7 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
     </message>
     <message>
         <source>Whether the package is an ordinary package, a suite of packages, or a group of packages</source>
-        <translation>Ob es ein einfaches Paket, eine Suite von Paketen oder eine Gruppe von Paketen ist</translation>
+        <translation>Ob es ein gewöhnliches Paket, eine Suite von Paketen oder eine Gruppe von Paketen ist</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1926,6 +1962,16 @@ in einer Konfigurationsdatei mit mehreren Paketquellen richtet</translation>
         <source>&amp;Keep Editing</source>
         <translation>Weiter bearbei&amp;ten</translation>
     </message>
+    <message>
+        <source>There are no repositories.
+Add makes the first one.</source>
+        <translation>Es gibt keine Paketquellen.
+„Hinzufügen“ richtet die erste ein.</translation>
+    </message>
+    <message>
+        <source>No repository has &quot;%1&quot; in its identifier, name or URLs.</source>
+        <translation>Keine Paketquelle hat „%1“ in Kennung, Name oder URLs.</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::Model</name>
@@ -2270,7 +2316,7 @@ Was dort geändert wurde, geht verloren, wenn sie geschrieben oder entfernt werd
     </message>
     <message>
         <source>Unable to stat repository configuration file %1</source>
-        <translation>Zur Konfigurationsdatei %1 einer Paketquelle gibt es keine Angaben</translation>
+        <translation>Die Konfigurationsdatei %1 einer Paketquelle lässt sich nicht abfragen</translation>
     </message>
     <message>
         <source>Unable to read repository configuration file %1</source>
@@ -2583,7 +2629,7 @@ Im Menü „Paketquellen“ lassen sich unter „Konfiguration bearbeiten“ Pak
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation>Einfaches Paket</translation>
+        <translation>Gewöhnliches Paket</translation>
     </message>
     <message>
         <source>Internal error: cannot find rpm.%1</source>
@@ -2651,7 +2697,7 @@ Im Menü „Paketquellen“ lassen sich unter „Konfiguration bearbeiten“ Pak
     </message>
     <message>
         <source>Downloading repository %1 for %2</source>
-        <translation>Paketquelle: %1 für %2 wird heruntergeladen</translation>
+        <translation>%1 für Paketquelle %2 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Internal error: collect grab size not understood</source>
@@ -2805,7 +2851,7 @@ Mit manchen Distributionen liegt das bekanntlich an PackageKit.</translation>
     </message>
     <message>
         <source>Reaped zombie child %1</source>
-        <translation>Kindprozess %1 war ein Zombie und ist abgeräumt</translation>
+        <translation>Zombie-Kindprozess %1 abgeräumt</translation>
     </message>
     <message>
         <source>Unable to disable SIGCHLD signal handler; errno=%1 (%2)</source>
@@ -3626,11 +3672,11 @@ Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>The plug-in %s fails and is left out: %s</source>
-        <translation>Die Erweiterung %s versagt und bleibt außen vor: %s</translation>
+        <translation>Das Plugin %s versagt und wird ausgelassen: %s</translation>
     </message>
     <message>
         <source>A plug-in of DNF fails and is left out: %s</source>
-        <translation>Eine Erweiterung von DNF versagt und bleibt außen vor: %s</translation>
+        <translation>Ein Plugin von DNF versagt und wird ausgelassen: %s</translation>
     </message>
     <message>
         <source>Import the key 0x%s?
