@@ -1,6 +1,8 @@
 #include "rows.h"
 #include "scripted.h"
 
+#include <QTranslator>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,7 +12,24 @@ class TestErrors : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(m_case.start("shop.py")); }
+    void initTestCase()
+    {
+        QVERIFY(m_german.load(s("vok_de"), qEnvironmentVariable("VOKSHARE") + s("/translations")));
+        QVERIFY(m_case.start("shop.py"));
+    }
+
+    // What the script says is in the catalogue under the name that the callback asks for.
+    void translates()
+    {
+        const char *const text = "The newest version cannot be installed.";
+        const QString german = m_german.translate("YumIO script", text);
+        QVERIFY(!german.isEmpty());
+        qApp->installTranslator(&m_german);
+        Answers answers;
+        m_case.apply({}, s("yumIOC.log(9, yumIOC.tr('%1'))").arg(QLatin1String(text)), answers);
+        qApp->removeTranslator(&m_german);
+        QVERIFY(m_case.logged().contains(s("0/9 ") + german));
+    }
 
     void mapsExceptions_data()
     {
@@ -225,6 +244,7 @@ yumIOC.log(9, 'key %r' % key)
     }
 
 private:
+    QTranslator m_german;
     Scripted m_case;
 };
 
