@@ -1866,7 +1866,7 @@ in einer Konfigurationsdatei mit mehreren Paketquellen richtet</translation>
         <translation>Eine neue Paketquelle von Grund auf einrichten</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
+        <source>Co&amp;py</source>
         <translation>&amp;Kopieren</translation>
     </message>
     <message>

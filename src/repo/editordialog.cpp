@@ -141,7 +141,7 @@ QHBoxLayout *Dialog::createUpperRow()
               tr("Create a new repository configuration from scratch"), &Dialog::add)
         ->setDefault(false);
     m_copyButton =
-        addButton(row, "copyButton", tr("C&opy"),
+        addButton(row, "copyButton", tr("Co&py"),
                   tr("Create a new repository configuration based on the selected repository"),
                   &Dialog::copy);
     m_removeButton = addButton(row, "removeButton", tr("Re&move"),

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -88,21 +89,63 @@ private Q_SLOTS:
         QVERIFY(action("cleanAllAction")->toolTip().contains(u"/cache/here"_s));
     }
 
-    // No two controls answer to one key, and all tell a screen reader what they are.
+    // In no window do two controls that show together answer to one key, and all tell a screen reader
+    // what they are.
     void keysAndNames()
     {
-        QSet<QKeySequence> keys;
-        for (const auto *button : m_window->findChildren<QPushButton *>()) {
-            if (button->shortcut().isEmpty())
-                continue;
-            QVERIFY2(!keys.contains(button->shortcut()), qPrintable(button->text()));
-            keys.insert(button->shortcut());
+        QStringList clashes;
+        QSet<QWidget *> seen;
+        const auto look = [&](QWidget *window) {
+            QHash<QKeySequence, QString> keys;
+            const auto add = [&](const QWidget *widget, const QString &text, QKeySequence key) {
+                if (widget->window() != window || !widget->isVisible() || key.isEmpty())
+                    return;
+                if (keys.contains(key))
+                    clashes.append(window->windowTitle() + u": "_s + keys[key] + u", "_s + text);
+                keys.insert(key, text);
+            };
+            const auto addText = [&](const QWidget *widget, const QString &text) {
+                add(widget, text, QKeySequence::mnemonic(text));
+            };
+            for (const auto *button : window->findChildren<QAbstractButton *>())
+                add(button, button->text(), button->shortcut());
+            for (const auto *label : window->findChildren<QLabel *>())
+                addText(label, label->buddy() ? label->text() : QString());
+            for (const auto *bar : window->findChildren<QMenuBar *>()) {
+                for (const auto *title : bar->actions())
+                    addText(bar, title->text());
+            }
+            for (const auto *tabs : window->findChildren<QTabBar *>()) {
+                for (int tab = 0; tab < tabs->count(); ++tab)
+                    addText(tabs, tabs->tabText(tab));
+            }
+        };
+        look(m_window.get());
+        m_window->displayLog();
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->windowTitle() == u"VOK Log"_s)
+                look(window);
         }
-        for (const auto *menuAction : m_window->findChildren<QMenuBar *>()[0]->actions()) {
-            const QKeySequence key = QKeySequence::mnemonic(menuAction->text());
-            QVERIFY2(!keys.contains(key), qPrintable(menuAction->text()));
-            keys.insert(key);
-        }
+        QTimer probe;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (!dialog)
+                return;
+            const bool isNew = !seen.contains(dialog);
+            if (isNew)
+                look(dialog);
+            seen.insert(dialog);
+            auto *form = dialog->findChild<QPushButton *>(u"addButton"_s);
+            if (isNew && form)
+                QMetaObject::invokeMethod(form, &QPushButton::click, Qt::QueuedConnection);
+            else
+                dialog->close();
+        });
+        probe.start(5);
+        m_window->editRepositories();
+        press("describeButton");
+        QCOMPARE(clashes.join(u'\n'), QString());
+        QCOMPARE(seen.size(), 3);
         for (const char *name :
              {"modeCombo", "regexpEdit", "stateCombo", "view", "totalBar", "itemBar"})
             QVERIFY2(!child<QWidget>(name)->accessibleName().isEmpty(), name);
