@@ -50,8 +50,8 @@ class Screen:
         for name in ("WAYLAND_DISPLAY", "XAUTHORITY", "AT_SPI_BUS_ADDRESS", "SESSION_MANAGER"):
             os.environ.pop(name, None)
         os.environ.update(XDG_RUNTIME_DIR=self.runtime, QT_QPA_PLATFORM="xcb",
-                          QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LC_ALL="C.UTF-8", LANGUAGE="", NO_AT_BRIDGE="0",
-                          XDG_CURRENT_DESKTOP="")
+                          QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LC_ALL="C.UTF-8", LANGUAGE="",
+                          VOKLANGUAGE="", NO_AT_BRIDGE="0", XDG_CURRENT_DESKTOP="")
         bus = self._start(["dbus-daemon", "--session", "--nofork", "--print-address=1"],
                           stdout=subprocess.PIPE, text=True)
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()

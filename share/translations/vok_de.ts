@@ -303,7 +303,7 @@ Dies entspricht der Option debuglevel (-d) von yum.</translation>
     </message>
     <message>
         <source>Unlisted Actions</source>
-        <translation>Nicht gelistete Aktionen</translation>
+        <translation>Verdeckte Aktionen</translation>
     </message>
     <message>
         <source>Some packages have actions specified, but because of the current
@@ -728,8 +728,8 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
     <message numerus="yes">
         <source>%Ln package(s) are marked and not applied.</source>
         <translation>
-            <numerusform>%Ln Paket ist vorgemerkt und noch nicht angewendet.</numerusform>
-            <numerusform>%Ln Pakete sind vorgemerkt und noch nicht angewendet.</numerusform>
+            <numerusform>Die Aktion für %Ln Paket ist noch nicht angewendet.</numerusform>
+            <numerusform>Die Aktionen für %Ln Pakete sind noch nicht angewendet.</numerusform>
         </translation>
     </message>
     <message>
