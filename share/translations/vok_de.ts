@@ -780,6 +780,43 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
         <source>Ready</source>
         <translation>Bereit</translation>
     </message>
+    <message>
+        <source>Nothing is installed: the rpm database is empty. View Installable lists what can be installed.</source>
+        <translation>Nichts ist installiert: Die rpm-Datenbank ist leer. „Installierbare“ listet auf, was installiert werden kann.</translation>
+    </message>
+</context>
+<context>
+    <name>NextStep</name>
+    <message>
+        <source>The packages were not read, because that was cancelled.
+Refresh reads them.</source>
+        <translation>Die Pakete wurden nicht gelesen, weil das abgebrochen wurde.
+„Neu einlesen“ liest sie.</translation>
+    </message>
+    <message>
+        <source>No repositories are configured.
+Edit Configuration in the Repositories menu (Ctrl+E) adds one.</source>
+        <translation>Es sind keine Paketquellen eingerichtet.
+„Konfiguration bearbeiten“ im Menü Paketquellen (Strg+E) fügt eine hinzu.</translation>
+    </message>
+    <message>
+        <source>No repositories are enabled.
+Edit Configuration in the Repositories menu (Ctrl+E) enables one: check Perm, or Sess for this session alone.</source>
+        <translation>Es sind keine Paketquellen eingeschaltet.
+„Konfiguration bearbeiten“ im Menü Paketquellen (Strg+E) schaltet eine ein: durch ein Häkchen unter „Dauer“, oder nur für diese Sitzung unter „Sitz.“.</translation>
+    </message>
+    <message>
+        <source>The repositories could not be read.
+Refresh tries again, for example when the network is there. To do without a repository, uncheck its Sess under Edit Configuration in the Repositories menu (Ctrl+E).</source>
+        <translation>Die Paketquellen konnten nicht gelesen werden.
+„Neu einlesen“ versucht es noch einmal, zum Beispiel wenn das Netz da ist. Soll es ohne eine Paketquelle gehen, ist ihr Häkchen unter „Sitz.“ zu entfernen: „Konfiguration bearbeiten“ im Menü Paketquellen (Strg+E).</translation>
+    </message>
+    <message>
+        <source>The packages could not be read.
+The log (Ctrl+L) tells why. Refresh tries again.</source>
+        <translation>Die Pakete konnten nicht gelesen werden.
+Das Protokoll (Strg+L) nennt den Grund. „Neu einlesen“ versucht es noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -2386,6 +2423,10 @@ Was dort geändert wurde, geht verloren, wenn sie geschrieben oder entfernt werd
         <source>No</source>
         <translation>Nein</translation>
     </message>
+    <message>
+        <source>It stands in the file %1. The repositories can be edited here when it has been corrected.</source>
+        <translation>Sie steht in der Datei %1. Die Paketquellen können hier bearbeitet werden, wenn sie berichtigt ist.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>
@@ -3391,6 +3432,10 @@ Den Schlüssel importieren und dem vertrauen, was damit signiert ist?</translati
         <translation>Interner Fehler: yumIO.makelists() gab ein Tupel falscher Länge zurück
 </translation>
     </message>
+    <message>
+        <source>VOK needs its share directory, which is %1 (the environment variable VOKSHARE can name another one), and the Python modules dnf and rpm of this system.</source>
+        <translation>VOK braucht sein Verzeichnis mit gemeinsamen Dateien, das %1 ist (die Umgebungsvariable VOKSHARE kann ein anderes nennen), und die Python-Module dnf und rpm dieses Systems.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO script</name>
@@ -3443,10 +3488,6 @@ Die Paketquelle wird ausgelassen.</translation>
     <message>
         <source>The repository file %s is left out: %s</source>
         <translation>Die Paketquellen-Datei %s wird ausgelassen: %s</translation>
-    </message>
-    <message>
-        <source>There is no main configuration file; none of these exists: %s.</source>
-        <translation>Es gibt keine Hauptkonfigurationsdatei; keine von diesen ist vorhanden: %s.</translation>
     </message>
     <message>
         <source>Unable to read the main configuration file %s: %s</source>
@@ -3779,6 +3820,10 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>Cancelled by the user</source>
         <translation>Vom Benutzer abgebrochen</translation>
+    </message>
+    <message>
+        <source>There is no main configuration file; none of these exists: %s. One that holds nothing but the line [main] will do.</source>
+        <translation>Es gibt keine Hauptkonfigurationsdatei; keine von diesen ist vorhanden: %s. Eine, in der nichts als die Zeile [main] steht, genügt.</translation>
     </message>
 </context>
 </TS>

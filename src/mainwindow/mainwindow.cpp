@@ -4,6 +4,7 @@
 #include "mainwindow/countline.h"
 #include "mainwindow/job.h"
 #include "mainwindow/machinewatch.h"
+#include "mainwindow/nextstep.h"
 #include "packagetable/model.h"
 #include "packagetable/sortfilterproxymodel.h"
 #include "packagetable/view.h"
@@ -140,12 +141,19 @@ void MainWindow::showMainArea()
     m_waiting->hide();
     m_mainArea->show();
     m_focusBeforeJob = m_view;
+    sizeColumns();
+    anyFilterChanged();
+    m_countLine->countMarks();
+}
+
+// For the first rows, which may come later than the table.
+void MainWindow::sizeColumns()
+{
+    m_columnsSized = m_yumIO->count() > 0;
     if (m_geometryKept)
         m_view->sizeColumnsToContents();
     else
         m_view->resizeColumnsToContents();
-    anyFilterChanged();
-    m_countLine->countMarks();
 }
 
 void MainWindow::collect(Refresh why)
@@ -157,8 +165,12 @@ void MainWindow::collect(Refresh why)
     }
     gather(why);
     tellRefused();
-    if (first && !m_quitAsked)
+    if (m_quitAsked)
+        return;
+    if (first)
         showMainArea();
+    else if (!m_columnsSized)
+        sizeColumns();
 }
 
 void MainWindow::gather(Refresh why)
@@ -170,6 +182,10 @@ void MainWindow::gather(Refresh why)
         note(m_yumIO->count() > 0
                  ? tr("The packages were not collected again; the table is as before.")
                  : tr("The packages were not collected. Refresh tries again."));
+    m_view->setMissing(nextStep(m_yumIO->collected()));
+    if (collected && nothingIsInstalled(*m_yumIO))
+        note(tr("Nothing is installed: the rpm database is empty. View Installable lists what can "
+                "be installed."));
 
     // A search that is installed waits for its data, and is a job of its own. No row is listed
     // before it has ended.

@@ -194,6 +194,7 @@ private:
     void giveMarksBack(Refresh why);
     void cleanAndCollect(bool (YumIO::*operation)());
     void showMainArea();
+    void sizeColumns();
 
     QList<YumRepoEnabled> m_repoRequests;
     QHash<QString, bool> m_reposUsed;
@@ -204,6 +205,7 @@ private:
     bool m_showLogAtStart = false;
     bool m_initializeScheduled = false;
     bool m_geometryKept = false; // the user has chosen the window's size
+    bool m_columnsSized = false; // for rows
     bool m_engineReady = false;
     bool m_initialized = false;
     bool m_busy = false;        // a job runs

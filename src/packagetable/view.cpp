@@ -178,7 +178,9 @@ void View::reset()
 // An empty table says why, also to who cannot see it.
 void View::tellEmpty()
 {
-    const QString text = m_proxy->rowCount() > 0 ? QString() : emptyText(*m_proxy);
+    QString text;
+    if (m_proxy->rowCount() == 0)
+        text = m_model->rowCount() == 0 && !m_missing.isEmpty() ? m_missing : emptyText(*m_proxy);
     setEmptyText(text);
     setAccessibleDescription(text.isEmpty() ? tr("Space changes the action of the current package.")
                                             : text);

@@ -45,6 +45,10 @@ public:
     QVariantMap columns() const;
     void setColumns(const QVariantMap &columns);
 
+    // What stands in the place of rows when there is none at all, listed or not; empty when that is
+    // nothing out of the ordinary. Takes effect with the model's next reset.
+    void setMissing(const QString &missing) { m_missing = missing; }
+
 Q_SIGNALS:
     // The action of the row may have changed; -1 for any row.
     void stateChanged(int row);
@@ -83,6 +87,7 @@ private:
     ActionContextMenu *m_actionContextMenu = nullptr;
     OtherContextMenu *m_otherContextMenu = nullptr;
     bool m_measureAll = false;
+    QString m_missing;
 };
 
 } // namespace PackageTable

@@ -274,7 +274,11 @@ bool YumConfIO::readRepoFile(FILE *file, const QString &path)
         }
         if (!line.endsWith(u']')) {
             errno = 0;
-            error(tr("Malformed section name in line: %1").arg(line));
+            error(
+                tr("Malformed section name in line: %1").arg(line),
+                tr("It stands in the file %1. The repositories can be edited here when it has been "
+                   "corrected.")
+                    .arg(path));
             return false;
         }
         if (inSection)

@@ -273,6 +273,10 @@ bool YumConfIO::writeFile(const FileContent &content)
     const QByteArray target = RootPath::target(content.path);
     const bool secret = content.state.secret;
     const mode_t taken = secret && !m_files.value(content.path).secret ? S_IRWXO : 0;
+    // A directory that is read may not be there before it holds something.
+    const QString directory = content.path.section(u'/', 0, -2);
+    if (!target.isEmpty() && reposdirs.contains(directory))
+        mkdir(RootPath::target(directory).constData(), 0755);
     if (target.isEmpty() || !WholeFile::replace(target, content.bytes, secret ? 0600 : 0644, taken))
         return false;
     m_files.insert(content.path, content.state);

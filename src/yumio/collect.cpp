@@ -30,10 +30,15 @@ bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
 
     m_progress->startTotal(tr("Initializing: Total Progress"), totalUnits);
     m_progress->startItem(tr("Preparing"), preparingUnits, 1);
+    m_collected = Engine::Collected::Failed;
     const bool collected = m_session.yumIO && takeLock() && readRepositories(reposUsed) &&
                            collectPackages() && collectAllGroups();
-    if (collected)
+    if (collected) {
+        m_collected = Engine::Collected::All;
         m_progress->setTotalValue(totalUnits);
+    } else if (m_cancelled) {
+        m_collected = Engine::Collected::Cancelled;
+    }
     m_progress->reset();
     return collected;
 }
@@ -70,11 +75,13 @@ bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed)
     m_session.enabledRepos = collectRepos(dict.get());
     m_metadata = {};
     if (PyDict_Size(dict.get()) == 0) {
+        m_collected = Engine::Collected::NoRepositories;
         return fail(
             tr("No repositories are configured.\nUnder the Repositories menu, Edit Configuration "
                "can be used to configure repositories."));
     }
     if (m_session.enabledRepos.isEmpty()) {
+        m_collected = Engine::Collected::NoneEnabled;
         return fail(
             tr("No repositories are enabled.\nUnder the Repositories menu, Edit Configuration "
                "can be used to configure repositories."));
@@ -90,8 +97,10 @@ bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed)
         pyExceptMatches(result.get(), m_script.exceptionTypes[BdbQuit]))
         pythonExceptionV(tr("Unable to initialize"));
     pyExceptClear();
-    if (!result)
+    if (!result) {
+        m_collected = Engine::Collected::RepositoriesFailed;
         return false;
+    }
     m_progress->endItemActs();
     m_session.basearch = getYumVar(QStringLiteral("basearch"));
     return true;

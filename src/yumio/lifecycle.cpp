@@ -11,6 +11,7 @@
 
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
 #include <QTimer>
 
@@ -76,6 +77,20 @@ bool YumIO::failInitialize(const QString &message)
     return false;
 }
 
+// As failInitialize, for what is missing on this computer, which its user can mend.
+bool YumIO::failMissing(const QString &message, const QString &reason)
+{
+    log(Log::Kind::Error, 0, reason);
+    walkback();
+    PyErr_Clear();
+    const QString needs =
+        tr("VOK needs its share directory, which is %1 (the environment variable VOKSHARE can name "
+           "another one), and the Python modules dnf and rpm of this system.");
+    const QString share = QFileInfo(Share::absolute(QStringLiteral("python"))).path();
+    error(QStringList{message, reason, needs.arg(share)}.join(QStringLiteral("\n\n")));
+    return false;
+}
+
 bool YumIO::initialize()
 {
     if (!Python::initialize())
@@ -105,7 +120,7 @@ bool YumIO::runScript()
 {
     const PyRef rpm(PyImport_ImportModule("rpm"));
     if (!rpm)
-        return failInitialize(tr("Internal error: cannot find python rpm module"));
+        return failMissing(tr("Internal error: cannot find python rpm module"), exceptionText());
     m_script.rpmDict = PyModule_GetDict(rpm.get()); // kept alive by sys.modules
     if (!m_script.rpmDict)
         return failInitialize(tr("Internal error: cannot find python rpm dict"));
@@ -113,16 +128,19 @@ bool YumIO::runScript()
 
     QFile file(Share::absolute(QStringLiteral("python/YumIO.py")));
     if (!file.open(QIODevice::ReadOnly)) {
-        log(Log::Kind::Error, 0, QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
-        return failInitialize(tr("Internal error: unable to open YumIO.py"));
+        return failMissing(tr("Internal error: unable to open YumIO.py"),
+                           QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
     }
     const QByteArray source = file.readAll();
     file.close();
     PyObject *main = PyModule_GetDict(PyImport_AddModule("__main__"));
     const PyRef code(Py_CompileString(source.constData(), "YumIO.py", Py_file_input));
     const PyRef done(code ? PyEval_EvalCode(code.get(), main, main) : nullptr);
-    if (!done)
-        return failInitialize(tr("Internal error: unable to execute YumIO.py"));
+    if (!done) {
+        const QString message = tr("Internal error: unable to execute YumIO.py");
+        return PyErr_ExceptionMatches(PyExc_ImportError) ? failMissing(message, exceptionText())
+                                                         : failInitialize(message);
+    }
 
     Py_CLEAR(m_script.yumIOClass);
     m_script.yumIOClass = PyRef::share(PyDict_GetItemString(main, "YumIO")).release();

@@ -50,6 +50,9 @@ struct Session
     QStringList changes;    // of another program to what was read, in words
 };
 
+// How far a collection came, as far as that decides what can be done next.
+enum class Collected { All, Cancelled, NoRepositories, NoneEnabled, RepositoriesFailed, Failed };
+
 // A repository whose server refused the credentials, and what is to be told of it.
 struct RefusedRepo
 {

@@ -103,6 +103,8 @@ public:
 
     // Jobs: each runs on a worker thread while a local event loop serves the GUI thread.
     bool collect(const QHash<QString, bool> &reposUsed);
+    // How far the last collection came.
+    Engine::Collected collected() const { return m_collected; }
     // The repositories whose servers refused, in the last collection or apply, the user name and the
     // password that they were given. The engine shows no box of these: that is the caller's.
     const QList<Engine::RefusedRepo> &refusedRepos() const { return m_refused; }
@@ -281,6 +283,7 @@ private:
     bool runScript();
     bool lookUpExceptionTypes();
     bool failInitialize(const QString &message);
+    bool failMissing(const QString &message, const QString &reason);
     void publishEntries();
     bool probe(std::optional<bool> &answer, const char *method);
 
@@ -551,6 +554,7 @@ private:
     Engine::Store m_store;
     Engine::Search m_search;
     QList<Engine::RefusedRepo> m_refused;
+    Engine::Collected m_collected = Engine::Collected::Failed;
     bool m_tellsRefused = false;          // the caller of the running job shows these
     std::atomic<bool> m_clearing = false; // no row is seen
     const Package::EntryList m_noEntries = {};

@@ -31,6 +31,14 @@ private Q_SLOTS:
             QCOMPARE(root.get(all[first]), "[main]\n#" + all[first].toUtf8() + '\n');
         }
         ConfigRoot root;
+        // A directory of repositories need not be there before there are some.
+        QVERIFY(QDir().rmdir(root.real(u"/etc/yum.repos.d"_s)));
+        Repo::Entry fresh;
+        fresh.id = u"fresh"_s;
+        QVERIFY(root.io.read(nullptr));
+        root.io.repos += fresh;
+        QVERIFY(root.io.write(nullptr) && root.has(root.repo(u"fresh"_s)));
+
         QFile::remove(root.real(root.mainFile()));
         Answer answer(0);
         QVERIFY(!root.io.read(nullptr));
@@ -169,8 +177,9 @@ private Q_SLOTS:
         Answer answer(1);
         QVERIFY(!root.io.read(nullptr));
         const QString said =
-            u"Malformed section name in line: %1; errno = 0 (Success)."_s.arg(line);
-        QCOMPARE(answer.said, QStringList{said});
+            u"Malformed section name in line: %1; errno = 0 (Success).\n\n"_s.arg(line);
+        QVERIFY(answer.said.constFirst().startsWith(said));
+        QVERIFY(answer.said.constFirst().contains(root.repo(u"a"_s)));
         // What could not be read is not thrown away unasked.
         QVERIFY(!root.io.write(nullptr));
         QVERIFY(answer.said.last().contains(root.repo(u"a"_s)));

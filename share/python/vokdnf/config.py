@@ -34,7 +34,8 @@ def read_main():
     is no usable main file, or the rpm database cannot be read."""
     path = main_file()
     if path is None:
-        raise SystemExit(tr("There is no main configuration file; none of these exists: %s.")
+        raise SystemExit(tr("There is no main configuration file; none of these exists: %s. "
+                            "One that holds nothing but the line [main] will do.")
                          % ", ".join(MAIN_FILES))
     opened = root.resolve(path)
     conf = dnf.conf.Conf()
