@@ -260,6 +260,7 @@ QLayout *MainWindow::createButtonRow()
     auto *row = new WrapLayout;
     const auto add = [&](const char *name, const QString &text, const QString &toolTip) {
         auto *button = new QPushButton(text, m_mainArea);
+        button->setAutoDefault(true); // Return presses the one that has the focus
         describeControl(button, name, toolTip);
         row->addWidget(button);
         return button;
