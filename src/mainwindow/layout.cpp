@@ -137,6 +137,8 @@ void MainWindow::createStatusLine()
 {
     m_message = new HElidedLabel(this);
     m_message->setObjectName(QStringLiteral("message"));
+    // However long, it does not widen the window.
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_countLine = new CountLine(m_view, m_yumIO, this);
     QMargins beside = centralWidget()->layout()->contentsMargins();
     beside.setTop(0);

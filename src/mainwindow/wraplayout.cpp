@@ -53,10 +53,15 @@ QList<WrapLayout::Line> WrapLayout::lines(int width) const
         if (!takesRoom(item))
             continue;
         Line &line = result.last();
-        if (!line.isEmpty() && lineWidth(line) + spacing() + item->sizeHint().width() > width)
-            result.append({item});
-        else
+        if (line.isEmpty() || lineWidth(line) + spacing() + item->sizeHint().width() <= width) {
             line.append(item);
+            continue;
+        }
+        // What a stretch keeps at the end of its line is there in a further line too.
+        const bool pushed = line.last()->spacerItem();
+        Line next = pushed ? Line{line.takeLast()} : Line{};
+        next.append(item);
+        result.append(next);
     }
     return result;
 }
