@@ -221,6 +221,9 @@ QLayout *MainWindow::createFilterRow()
         m_regexpEdit->selectAll();
     });
 
+    auto *down = new QShortcut(Qt::Key_Down, m_regexpEdit, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(down, &QShortcut::activated, this, [this] { m_view->setFocus(Qt::TabFocusReason); });
+
     m_filterSearchButton = new QPushButton(tr("Filter"), m_mainArea);
     m_filterSearchButton->setDefault(true);
     describeControl(m_filterSearchButton, "filterSearchButton", QString());
