@@ -65,6 +65,9 @@ Log::Window::Window(EntryList &list, QWidget *parent)
                                 .arg(highestLevel)
                                 .arg(defaultLevel));
     createLayout();
+    // The log is there to be read, and keys are to scroll it.
+    setTabOrder(m_text, m_levelSpin);
+    m_text->setFocus();
     m_findBar->hide();
     m_sliceTimer.setSingleShot(true);
     connect(&m_sliceTimer, &QTimer::timeout, this, &Window::continueRendering);
