@@ -19,7 +19,7 @@ import yum  # noqa: F401,E402
 import yum.Errors  # noqa: F401,E402
 
 from vokdnf import base, clean, collection, errors, groups, interrupted, locks  # noqa: E402
-from vokdnf import otherdata, packages, relations, report, repotest, searchtexts  # noqa: E402
+from vokdnf import otherdata, packages, relations, report, repotest, rights, searchtexts  # noqa: E402
 from vokdnf import transaction, tsinfo  # noqa: E402
 
 import dnf.drpm  # noqa: E402
@@ -189,6 +189,11 @@ class YumIO:
         a file and "", or a directory and the pattern of its files' names. Paths as the system calls them; not
         all need exist."""
         return self._session.sources()
+
+    def missingRights(self):
+        """Optional: what this process cannot do, and why, as texts for the user, each "" where nothing is missing:
+        to change packages, and the configuration; and the user's own directory that caches are in."""
+        return rights.missing(self._session.conf)
 
     def installedChanged(self):
         """Optional, to be asked between jobs: whether packages came or went since setupTs read them. A few

@@ -784,6 +784,14 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
         <source>Nothing is installed: the rpm database is empty. View Installable lists what can be installed.</source>
         <translation>Nichts ist installiert: Die rpm-Datenbank ist leer. „Installierbare“ listet auf, was installiert werden kann.</translation>
     </message>
+    <message>
+        <source>For looking only: packages cannot be changed.</source>
+        <translation>Nur zum Ansehen: Pakete können nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Only your own cache in %1 was cleaned: the system&apos;s in %2 cannot be written.</source>
+        <translation>Nur Ihr eigener Zwischenspeicher in %1 wurde geleert: In den des Systems in %2 kann nicht geschrieben werden.</translation>
+    </message>
 </context>
 <context>
     <name>NextStep</name>
@@ -2008,6 +2016,10 @@ Add makes the first one.</source>
     <message>
         <source>No repository has &quot;%1&quot; in its identifier, name or URLs.</source>
         <translation>Keine Paketquelle hat „%1“ in Kennung, Name oder URLs.</translation>
+    </message>
+    <message>
+        <source>For looking only: nothing can be applied</source>
+        <translation>Nur zum Ansehen: Nichts kann angewendet werden</translation>
     </message>
 </context>
 <context>
@@ -3824,6 +3836,18 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>There is no main configuration file; none of these exists: %s. One that holds nothing but the line [main] will do.</source>
         <translation>Es gibt keine Hauptkonfigurationsdatei; keine von diesen ist vorhanden: %s. Eine, in der nichts als die Zeile [main] steht, genügt.</translation>
+    </message>
+    <message>
+        <source>The rpm database in %s cannot be read in place, and cannot be copied: %s</source>
+        <translation>Die rpm-Datenbank in %s kann nicht an Ort und Stelle gelesen und nicht kopiert werden: %s</translation>
+    </message>
+    <message>
+        <source>The configuration in %s cannot be written: this needs the rights of the administrator.</source>
+        <translation>In die Konfiguration in %s kann nicht geschrieben werden: Dazu braucht es die Rechte des Administrators.</translation>
+    </message>
+    <message>
+        <source>The configuration in %s cannot be written: the file system is read-only.</source>
+        <translation>In die Konfiguration in %s kann nicht geschrieben werden: Das Dateisystem ist schreibgeschützt.</translation>
     </message>
 </context>
 </TS>

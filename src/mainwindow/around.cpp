@@ -7,10 +7,38 @@
 
 #include "repo/rootpath.h"
 #include "repo/yumconfio.h"
+#include "widgets/explaindisabled.h"
 #include "widgets/messagebox.h"
 #include "yumio/yumio.h"
 
+#include <QPushButton>
+
 #include <algorithm>
+
+// Before anything is collected with a new session of the engine: what it rests on, and what this user may
+// not do.
+void MainWindow::noteSession()
+{
+    m_watch->setSources(m_yumIO->sources());
+    const Engine::MissingRights &missing = m_yumIO->missingRights();
+    m_yumConfIO->setLookOnly(missing.configuration);
+    yumConfIOChanged(); // which cache is cleaned
+    explainDisabled(m_applyButton, missing.packages);
+    if (missing.packages.isEmpty())
+        m_notices->clear(NoticeRow::Rights);
+    else
+        m_notices->setNotice(NoticeRow::Rights, tr("For looking only: packages cannot be changed."),
+                             missing.packages);
+}
+
+// After the cleaning of a cache.
+void MainWindow::noteOwnCache()
+{
+    const QString own = m_yumIO->missingRights().ownCache;
+    if (!own.isEmpty())
+        note(tr("Only your own cache in %1 was cleaned: the system's in %2 cannot be written.")
+                 .arg(own, m_yumConfIO->cachedir));
+}
 
 // Between jobs only: what a job changes is collected by it, and it has the interpreter.
 void MainWindow::lookAround()

@@ -93,6 +93,8 @@ MachineWatch::MachineWatch(const std::function<bool()> &installedChanged, QObjec
 
 void MachineWatch::setSources(const Engine::Sources &sources)
 {
+    if (sources.files.isEmpty())
+        return;
     QList<Engine::Sources::File> fresh;
     for (const Engine::Sources::File &file : sources.files) {
         if (!m_sources.files.contains(file))

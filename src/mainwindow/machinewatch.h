@@ -26,7 +26,7 @@ public:
     // look() alone, and only after something was written to the database.
     MachineWatch(const std::function<bool()> &installedChanged, QObject *parent);
 
-    // What is watched from now on.
+    // What is watched from now on; without files as before.
     void setSources(const Engine::Sources &sources);
 
     // Before the files are read for a collection: notes what they hold now.

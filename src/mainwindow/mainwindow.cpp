@@ -117,7 +117,7 @@ bool MainWindow::start()
         return false;
     }
     m_engineReady = true;
-    m_watch->setSources(m_yumIO->sources());
+    noteSession();
     showKeptReport();
     if (m_startInEditor)
         showPlaceholder(true);
@@ -230,7 +230,7 @@ void MainWindow::recollect(Refresh why)
     const PackageTable::Place place = m_view->place();
     m_watch->take();
     m_yumIO->renew();
-    m_watch->setSources(m_yumIO->sources());
+    noteSession();
     m_model->reset();
     if (!m_quitAsked)
         collect(why);
@@ -272,7 +272,8 @@ void MainWindow::setReady(bool ready)
 
 void MainWindow::yumConfIOChanged()
 {
-    const QString dir = m_yumConfIO->cachedir;
+    const QString own = m_yumIO->missingRights().ownCache;
+    const QString dir = own.isEmpty() ? m_yumConfIO->cachedir : own;
     m_cleanHeadersAction->setToolTip(tr("Clean RPM package headers cached locally in %1").arg(dir));
     m_cleanPackagesAction->setToolTip(
         tr("Clean RPM packages cached locally in %1\n(useful for recovering disk space)").arg(dir));
@@ -308,6 +309,7 @@ void MainWindow::cleanAndCollect(bool (YumIO::*operation)())
     if (!job)
         return;
     (m_yumIO->*operation)();
+    noteOwnCache();
     if (m_mainArea->isHidden())
         checkCredentials();
     recollect();
@@ -322,8 +324,10 @@ void MainWindow::cleanHeaders()
 void MainWindow::cleanPackages()
 {
     const Job job(this);
-    if (job)
-        m_yumIO->cleanPackages();
+    if (!job)
+        return;
+    m_yumIO->cleanPackages();
+    noteOwnCache();
 }
 
 void MainWindow::cleanXmlMetadata()
@@ -389,7 +393,7 @@ void MainWindow::clearActions()
 void MainWindow::apply()
 {
     const Job job(this);
-    if (!job)
+    if (!job || !m_yumIO->missingRights().packages.isEmpty())
         return;
     m_watch->look();
     if (m_watch->isOutdated()) {
@@ -423,6 +427,7 @@ void MainWindow::stateChanged(int row)
         return entry->action != Package::Action::None;
     };
     const bool known = row >= 0 && row < m_yumIO->count() && hasAction((*m_yumIO)[row]);
-    m_applyButton->setEnabled(known || std::any_of(m_yumIO->begin(), m_yumIO->end(), hasAction));
+    m_applyButton->setEnabled(m_yumIO->missingRights().packages.isEmpty() &&
+                              (known || std::any_of(m_yumIO->begin(), m_yumIO->end(), hasAction)));
     m_countLine->countMarks();
 }

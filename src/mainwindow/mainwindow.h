@@ -176,6 +176,8 @@ private:
     void showPlaceholder(bool withButton);
 
     // around.cpp
+    void noteSession();
+    void noteOwnCache();
     void lookAround();
     QStringList changedFiles() const;
     bool askToRefresh();

@@ -61,6 +61,7 @@ void Checker::check()
         }
         if (!m_dialog)
             m_dialog = new Dialog(m_parent);
+        m_dialog->setLookOnly(m_yumConfIO->lookOnly());
         const int answer = m_dialog->exec(&entry, warning(entry));
         quit = answer == Dialog::Quit;
         if (quit || answer == Dialog::SkipAll)
@@ -81,6 +82,8 @@ void Checker::check()
 // An answer for several repositories may change several files, which are not known beforehand.
 QString Checker::warning(const Repo::Entry &entry) const
 {
+    if (!m_yumConfIO->lookOnly().isEmpty())
+        return m_yumConfIO->lookOnly();
     if (!m_yumConfIO->losesReaders(entry.file))
         return QString();
     return tr("The password will be written to %1. A file that gets its first password can no "

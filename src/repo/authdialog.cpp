@@ -4,6 +4,7 @@
 #include "app/harmless.h"
 #include "kivvet/kivvet.h"
 #include "repoentry.h"
+#include "widgets/explaindisabled.h"
 #include "widgets/hscrollarea.h"
 #include "widgets/hseparator.h"
 #include "widgets/hwraplabel.h"
@@ -23,6 +24,7 @@ namespace {
 
 constexpr int wideness = 40; // in letters
 constexpr int urlsRow = 2;
+constexpr int firstAnswer = 3; // of the buttons
 
 // A key of a URL may hold what a label would take for the mark of a shortcut.
 void showKey(QLabel *label, const QString &key, const QString &fallback)
@@ -137,6 +139,17 @@ void Dialog::createButtons()
     add("okButton", tr("OK"), &Dialog::handleOK);
     m_buttons.constLast()->setDefault(true);
     static_cast<QVBoxLayout *>(layout())->addLayout(row);
+}
+
+void Dialog::setLookOnly(const QString &reason)
+{
+    m_lookOnly = reason;
+    for (QLineEdit *edit : {m_name, m_password}) {
+        edit->setEnabled(reason.isEmpty());
+        explainDisabled(edit, reason);
+    }
+    for (QPushButton *button : m_buttons.mid(firstAnswer))
+        explainDisabled(button, reason);
 }
 
 int Dialog::exec(Repo::Entry *entry, const QString &warning)
@@ -267,8 +280,8 @@ void Dialog::done(int result)
 
 void Dialog::setButtonsEnabled(bool enabled)
 {
-    for (QPushButton *button : std::as_const(m_buttons))
-        button->setEnabled(enabled);
+    for (int i = 0; i < m_buttons.size(); ++i)
+        m_buttons[i]->setEnabled(enabled && (i < firstAnswer || m_lookOnly.isEmpty()));
 }
 
 void Dialog::setVisible(bool visible)

@@ -30,6 +30,8 @@ public:
 
     explicit Dialog(QWidget *parent);
 
+    // Nothing can be answered, for a reason that is shown; an empty one takes that back.
+    void setLookOnly(const QString &reason);
     // Waits for an answer. With OK, ApplyAll and ApplyHost what was typed stands in the entry's
     // URLs. Quit also when the program ended the wait. `warning` is shown below the fields. The
     // dialog stays on the screen for the next question.
@@ -78,6 +80,7 @@ private:
     QLabel *m_heading = nullptr;
     QLabel *m_warning = nullptr;
     QList<QPushButton *> m_buttons;
+    QString m_lookOnly;
     QString m_nameKey;
     QString m_passwordKey;
     Repo::Entry *m_entry = nullptr; // null while nothing is asked

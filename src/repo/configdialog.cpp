@@ -6,6 +6,7 @@
 #include "entrycheck.h"
 #include "rootpath.h"
 #include "testrow.h"
+#include "widgets/explaindisabled.h"
 #include "widgets/hframelabel.h"
 #include "widgets/hscrollarea.h"
 #include "widgets/hwraplabel.h"
@@ -91,10 +92,10 @@ QHBoxLayout *ConfigDialog::createButtons()
     add("cancelButton", tr("&Cancel"),
         tr("Undo changes to this repository configuration and close the window"),
         &ConfigDialog::cancel);
-    add("okButton", tr("&OK"),
-        tr("Apply changes to all repository configurations, and close the window"),
-        &ConfigDialog::ok)
-        ->setDefault(true);
+    m_okButton = add("okButton", tr("&OK"),
+                     tr("Apply changes to all repository configurations, and close the window"),
+                     &ConfigDialog::ok);
+    m_okButton->setDefault(true);
     return row;
 }
 
@@ -120,6 +121,8 @@ void ConfigDialog::setVisible(bool visible)
     if (visible && !isVisible()) {
         m_form->setDefaults(m_yumConfIO->mainEnabled, m_yumConfIO->mainGpgcheck);
         askEngine();
+        m_okButton->setEnabled(m_yumConfIO->lookOnly().isEmpty());
+        explainDisabled(m_okButton, m_yumConfIO->lookOnly());
         setHasChanged(false);
         m_area->ensureVisible(0, 0);
         m_form->setFocus();
@@ -223,9 +226,11 @@ void ConfigDialog::reject()
 {
     if (m_closeAsked)
         return;
-    if (m_hasChanged && showMessageBox(QMessageBox::Question, this, windowTitle(),
-                                       tr("Discard the changes to this repository configuration?"),
-                                       tr("&Discard"), tr("&Keep Editing"), QString(), 1, 1) != 0)
+    // What was typed to be tried out by somebody who may only look is lost in any case.
+    if (m_hasChanged && m_okButton->isEnabled() &&
+        showMessageBox(QMessageBox::Question, this, windowTitle(),
+                       tr("Discard the changes to this repository configuration?"), tr("&Discard"),
+                       tr("&Keep Editing"), QString(), 1, 1) != 0)
         return;
     cancel();
 }

@@ -68,6 +68,7 @@ private:
     HWrapLabel *m_fileNotice = nullptr;
     HFrameLabel *m_status = nullptr;
     QPushButton *m_resetButton = nullptr;
+    QPushButton *m_okButton = nullptr;
 };
 
 } // namespace RepoEditor

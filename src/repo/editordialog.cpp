@@ -8,6 +8,7 @@
 #include "editorproxy.h"
 #include "editorview.h"
 #include "repobrowse.h"
+#include "widgets/explaindisabled.h"
 #include "widgets/hframelabel.h"
 #include "widgets/messagebox.h"
 #include "yumconfio.h"
@@ -137,9 +138,8 @@ QHBoxLayout *Dialog::createUpperRow()
     m_editButton =
         addButton(row, "editButton", tr("&Edit"), tr("Edit the selected repository configuration"),
                   qOverload<>(&Dialog::edit));
-    addButton(row, "addButton", tr("A&dd"),
-              tr("Create a new repository configuration from scratch"), &Dialog::add)
-        ->setDefault(false);
+    m_addButton = addButton(row, "addButton", tr("A&dd"),
+                            tr("Create a new repository configuration from scratch"), &Dialog::add);
     m_copyButton =
         addButton(row, "copyButton", tr("Co&py"),
                   tr("Create a new repository configuration based on the selected repository"),
@@ -244,8 +244,10 @@ void Dialog::currentChanged(int current, int)
 {
     if (current == -1)
         releaseFocus({m_browseButton, m_editButton, m_copyButton, m_removeButton});
-    for (QPushButton *button : {m_browseButton, m_editButton, m_copyButton, m_removeButton})
+    for (QPushButton *button : {m_browseButton, m_editButton})
         button->setEnabled(current != -1);
+    for (QPushButton *button : {m_copyButton, m_removeButton})
+        button->setEnabled(current != -1 && m_yumConfIO->lookOnly().isEmpty());
     updateStatusLabel();
 }
 
@@ -281,12 +283,16 @@ void Dialog::setConfigHasChanged(bool flag)
 
 void Dialog::updateButtons()
 {
+    const QString lookOnly = m_yumConfIO->lookOnly();
     const QString reason =
-        m_yumConfIO->unreadable().isEmpty()
-            ? QString()
+        !lookOnly.isEmpty() || m_yumConfIO->unreadable().isEmpty()
+            ? lookOnly
             : tr("Nothing can be applied, because these files cannot be read:\n%1")
                   .arg(m_yumConfIO->unreadable().join(u'\n'));
     const bool canApply = reason.isEmpty();
+    m_addButton->setEnabled(lookOnly.isEmpty());
+    for (QPushButton *button : {m_addButton, m_copyButton, m_removeButton})
+        explainDisabled(button, lookOnly);
     if (!isUnapplied())
         releaseFocus({m_previewButton, m_resetAllButton, m_applyButton});
     m_resetAllButton->setEnabled(isUnapplied());
@@ -296,7 +302,7 @@ void Dialog::updateButtons()
         canApply ? tr("Apply changes to all repository configurations, but do not close the window")
                  : reason);
     // Without changes it writes nothing.
-    m_okButton->setEnabled(canApply || !isUnapplied());
+    m_okButton->setEnabled(canApply || (lookOnly.isEmpty() && !isUnapplied()));
     m_okButton->setToolTip(
         canApply ? tr("Apply changes to all repository configurations, and close the window")
                  : reason);
@@ -343,6 +349,9 @@ void Dialog::updateStatusLabel()
     } else if (isUnapplied()) {
         m_status->setPalette(Colors::makeOK(m_status->palette()));
         text = unappliedText(m_removed);
+    } else if (!m_yumConfIO->lookOnly().isEmpty()) {
+        m_status->setPalette(Colors::makeWarning(m_status->palette()));
+        text = tr("For looking only: nothing can be applied");
     } else if (!m_yumConfIO->unreadable().isEmpty()) {
         m_status->setPalette(Colors::makeWarning(m_status->palette()));
         text = tr("Some files cannot be read, so nothing can be applied");
@@ -400,6 +409,8 @@ void Dialog::copy()
 
 void Dialog::addEntry(Repo::Entry entry)
 {
+    if (!m_yumConfIO->lookOnly().isEmpty())
+        return;
     m_configDialog->setEntry(&entry);
     if (m_configDialog->exec() != Accepted)
         return;
@@ -414,6 +425,8 @@ void Dialog::addEntry(Repo::Entry entry)
 
 void Dialog::remove()
 {
+    if (!m_yumConfIO->lookOnly().isEmpty())
+        return;
     QList<int> rows;
     for (const QModelIndex &index : m_view->selectedRows())
         rows.append(index.row());

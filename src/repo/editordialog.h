@@ -94,6 +94,7 @@ private:
     QLineEdit *m_filter = nullptr;
     QPushButton *m_browseButton = nullptr;
     QPushButton *m_editButton = nullptr;
+    QPushButton *m_addButton = nullptr;
     QPushButton *m_copyButton = nullptr;
     QPushButton *m_removeButton = nullptr;
     QPushButton *m_previewButton = nullptr;

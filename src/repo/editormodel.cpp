@@ -71,14 +71,7 @@ QVariant Model::data(const QModelIndex &index, int role) const
             return {};
         return isMarked(index) ? m_checkIcon : m_noneIcon;
     case Qt::ToolTipRole:
-        // Both tell of this session.
-        if (column == SessColumn)
-            return isUsed(index) ? tr("Repository is enabled for this session")
-                                 : tr("Repository is not enabled for this session");
-        if (column == PermColumn)
-            return isUsed(index) ? tr("Repository is configured to be enabled")
-                                 : tr("Repository is not configured to be enabled");
-        return {};
+        return toolTip(index);
     case Qt::FontRole:
         return column == IdColumn && entry.id.isEmpty() ? QVariant(m_viewFont) : QVariant();
     case MarkRole:
@@ -86,6 +79,23 @@ QVariant Model::data(const QModelIndex &index, int role) const
     default:
         return {};
     }
+}
+
+// Both columns tell of this session.
+QVariant Model::toolTip(const QModelIndex &index) const
+{
+    const bool used = isUsed(index);
+    QString text;
+    if (index.column() == SessColumn)
+        text = used ? tr("Repository is enabled for this session")
+                    : tr("Repository is not enabled for this session");
+    else if (index.column() == PermColumn)
+        text = used ? tr("Repository is configured to be enabled")
+                    : tr("Repository is not configured to be enabled");
+    else
+        return {};
+    const QString lookOnly = m_yumConfIO->lookOnly();
+    return lookOnly.isEmpty() ? text : text + QStringLiteral("\n\n") + lookOnly;
 }
 
 QVariant Model::headerData(int section, Qt::Orientation orientation, int role) const
@@ -144,7 +154,7 @@ QModelIndex Model::createIndex(int row) const
 
 void Model::toggleUse(const QModelIndex &index)
 {
-    if (!has(index))
+    if (!has(index) || !m_yumConfIO->lookOnly().isEmpty())
         return;
     bool &used = m_yumConfIO->reposUsed[entry(index.row()).id];
     used = !used;
@@ -155,7 +165,7 @@ void Model::toggleUse(const QModelIndex &index)
 
 void Model::toggleEnabled(const QModelIndex &index)
 {
-    if (!has(index))
+    if (!has(index) || !m_yumConfIO->lookOnly().isEmpty())
         return;
     const QModelIndex cell = index.siblingAtColumn(PermColumn);
     m_yumConfIO->repos[index.row()].enabled = isMarked(cell) ? Qt::Unchecked : Qt::Checked;

@@ -61,6 +61,7 @@ Q_SIGNALS:
 
 private:
     bool has(const QModelIndex &index) const;
+    QVariant toolTip(const QModelIndex &index) const;
     bool isUsed(const QModelIndex &index) const;
 
     YumIO *m_yumIO;

@@ -39,6 +39,9 @@ public:
     bool read(QWidget *parent);
     // The files that the last read() left out, to be shown. Nothing is written while there are any.
     const QStringList &unreadable() const { return m_unreadable; }
+    // Why nothing may be written, in words, for those that would offer it; empty when it may.
+    void setLookOnly(const QString &reason) { m_lookOnly = reason; }
+    const QString &lookOnly() const { return m_lookOnly; }
     // Checks, asks, writes all files and removes those that hold no repository any more. False when
     // the user declined, or when it was shown why nothing or not everything was written; what was
     // written until then stays written, and `repos` is as it was.
@@ -191,6 +194,7 @@ private:
     bool m_latin1 = false;      // how the file at hand is decoded and encoded
     QHash<QString, FileState> m_files;
     QStringList m_unreadable;
+    QString m_lookOnly;
     QList<Repo::Entry> m_asRead; // or as last written
     QString *m_fault = nullptr;  // where given, failures go there and are not shown
 };

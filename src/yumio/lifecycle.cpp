@@ -162,8 +162,10 @@ bool YumIO::createYumIO()
         failInitialize(tr("Internal error: cannot create python yumIO"));
     pyExceptClear();
     Py_XSETREF(m_session.yumIO, object);
-    if (object)
+    if (object) {
         readSources();
+        readRights();
+    }
     return object != nullptr;
 }
 

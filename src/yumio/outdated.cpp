@@ -28,6 +28,19 @@ void YumIO::readSources()
     PyErr_Clear();
 }
 
+void YumIO::readRights()
+{
+    m_script.missing = {};
+    if (!PyObject_HasAttrString(m_session.yumIO, "missingRights"))
+        return;
+    const PyRef result(pyMethodCall(m_session.yumIO, "missingRights", "()"));
+    PyObject *packages, *configuration, *cache;
+    if (result && PyTuple_Check(result.get()) &&
+        PyArg_ParseTuple(result.get(), "OOO", &packages, &configuration, &cache))
+        m_script.missing = {pyString(packages), pyString(configuration), pyString(cache)};
+    PyErr_Clear();
+}
+
 bool YumIO::installedChanged()
 {
     if (!m_session.yumIO || m_session.spent)

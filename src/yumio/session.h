@@ -34,6 +34,7 @@ struct Script
     bool locked = false;
     std::optional<QString> version;
     std::optional<bool> sqlite, presto, multiProgress;
+    MissingRights missing;
 };
 
 // One object of the script with what was read through it. An owner of the reference releases it

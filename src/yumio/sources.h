@@ -20,4 +20,12 @@ struct Sources
     QList<File> files;
 };
 
+// What this process may not do, and why, in words; each is empty where nothing is missing.
+struct MissingRights
+{
+    QString packages;      // to change what is installed
+    QString configuration; // to change the configuration files
+    QString ownCache;      // the user's directory for caches where the system's cannot be written
+};
+
 } // namespace Engine

@@ -119,6 +119,8 @@ public:
     // whether packages came or went since the last one, in a few milliseconds, and the same with
     // the changes named, for outdated().
     const Engine::Sources &sources() const { return m_session.sources; }
+    // As when the last session was made.
+    const Engine::MissingRights &missingRights() const { return m_script.missing; }
     bool installedChanged();
     bool nameChanges();
     // Looks for an extended POSIX expression in every field of rows, of available packages in the
@@ -390,6 +392,7 @@ private:
     // outdated.cpp
     bool findOutdated();
     void readSources();
+    void readRights();
 
     // elements.cpp
     void endDownloads();

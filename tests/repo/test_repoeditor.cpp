@@ -173,6 +173,30 @@ private Q_SLOTS:
         QVERIFY(changed.size() == 1 && !editor.dialog.isVisible());
     }
 
+    // Who may not write sees everything, the form too, and can change nothing.
+    void looksOnly()
+    {
+        ConfigRoot root;
+        root.put(root.repo(u"a"_s), "[a]\n");
+        root.io.setLookOnly(u"why"_s);
+        Editor editor(root);
+        editor.keys({Qt::Key_Home, Qt::Key_Space, Qt::Key_Right, Qt::Key_Space, Qt::Key_Delete,
+                     Qt::Key_Insert});
+        QCOMPARE(editor.shown(), QStringList{u"a"_s});
+        QVERIFY(root.used.value(u"a"_s) && root.entry(u"a"_s).enabled == Qt::PartiallyChecked);
+        for (const char *name :
+             {"addButton", "copyButton", "removeButton", "applyButton", "okButton"}) {
+            const auto *button = editor.dialog.findChild<QPushButton *>(QLatin1String(name));
+            QVERIFY2(!button->isEnabled() && button->toolTip() == u"why"_s, name);
+        }
+        editor.fillForm(u"other"_s);
+        QTimer::singleShot(0, &editor.dialog, [&] {
+            editor.dialog.findChild<RepoEditor::ConfigDialog *>()->reject(); // without a question
+        });
+        editor.press("editButton");
+        QCOMPARE(root.io.repos[0].id, u"a"_s);
+    }
+
     void badInput_data()
     {
         // said: of the box; written: the file afterwards, empty where nothing is written

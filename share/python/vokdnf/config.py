@@ -133,7 +133,8 @@ def _directories(conf):
         else:
             setattr(conf, option, libdnf.conf.ConfigParser.substitute(getattr(conf, option),
                                                                        conf.substitutions))
-    if not root.writable(conf.cachedir):
+    conf.own_cache = not root.writable(conf.cachedir)
+    if conf.own_cache:
         conf.cachedir = root.user_cache()
     if not root.writable(conf.logdir):
         conf.logdir = root.user_cache()

@@ -8,18 +8,37 @@ import dnf.rpm.transaction
 import hawkey
 import rpm
 
-from . import packages, report, root
+from . import databasecopy, packages, report, root
 from .translation import tr
 
 # rpm on some distributions keeps its database in the user's home unless told otherwise.
 _PATH = "/var/lib/rpm"
 _KEY = "gpg-pubkey"  # what rpm calls a key that it keeps among the packages
+_UP = "/.." * 64     # out of the root directory that rpm puts in front
+_place = {"directory": _PATH, "copy": None}
+
+
+def _reach():
+    """Sees to it that rpm opens the database of the system, or a copy of it. OSError."""
+    if rpm.expandMacro("%{_dbpath}") == _place["copy"]:
+        rpm.delMacro("_dbpath")
+    if root.prefix() and rpm.expandMacro("%{_dbpath}") != _PATH:
+        rpm.addMacro("_dbpath", _PATH)
+    _place["directory"] = rpm.expandMacro("%{_dbpath}")
+    _place["copy"] = None
+    if databasecopy.wanted(root.resolve(_place["directory"])):
+        copy = databasecopy.make(root.resolve(_place["directory"]))
+        _place["copy"] = (_UP if root.prefix() else "") + copy
+        rpm.addMacro("_dbpath", _place["copy"].replace("%", "%%"))
 
 
 def check(conf):
     """Raises SystemExit with the reason when the database cannot be opened for reading."""
-    if root.prefix() and rpm.expandMacro("%{_dbpath}") != _PATH:
-        rpm.addMacro("_dbpath", _PATH)
+    try:
+        _reach()
+    except OSError as error:
+        raise SystemExit(tr("The rpm database in %s cannot be read in place, and cannot be copied: %s")
+                         % (directory(), error.strerror)) from error
     if rpm.TransactionSet(conf.installroot).openDB() == 0:
         return
     with tempfile.TemporaryFile("w+", errors="replace") as log:  # rpm tells reasons in its log alone
@@ -31,22 +50,24 @@ def check(conf):
     advice = tr("Run \"rpm --rebuilddb\" as the administrator, or restore the directory from a backup.") \
         if os.geteuid() == 0 else tr("The administrator can mend it by \"rpm --rebuilddb\" or from a backup.")
     raise SystemExit(report.told("\n".join([tr("The rpm database in %s cannot be read:")
-                                            % rpm.expandMacro("%{_dbpath}")]
+                                            % directory()]
                                            + ["  " + line for line in lines] + [advice])))
 
 
 def cookie(conf):
-    """A text that changes with the database; "" when it cannot be read."""
+    """A text that changes with the database; "" when it cannot be read. What is read afterwards is read of the
+    same place."""
     try:
+        _reach()
         return dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot).dbCookie()
-    except rpm.error as error:
+    except (rpm.error, OSError) as error:
         report.errorlog(2, tr("The rpm database cannot be read: %s") % report.clean(error))
         return ""
 
 
 def directory():
     """The directory of the database, as the system calls it."""
-    return rpm.expandMacro("%{_dbpath}")
+    return _place["directory"]
 
 
 def numbers(conf):

@@ -8,12 +8,11 @@ import traceback  # noqa: F401
 import dnf.drpm
 import dnf.exceptions
 import dnf.repo
-import rpm
 
 from yum import Errors
 
 from . import credentials, display, elements, errors, groups, interrupted, keys, language, locks, meters
-from . import outcome, packages, report, resolve, root, unlisted, waiting
+from . import outcome, packages, report, resolve, rights, root, unlisted, waiting
 from .base import full_cache
 from .translation import tr
 
@@ -36,7 +35,9 @@ class Transaction:
         the callback transactionReport tells what failed."""
         if self._session.spent:
             raise Errors.YumBaseError(tr("A transaction has run already; the packages must be read again."))
-        _check_writable()
+        reason = rights.to_change_packages()
+        if reason:
+            raise Errors.YumBaseError(reason)
         try:
             with language.english():
                 with errors.translated():
@@ -182,17 +183,6 @@ class Transaction:
         for name, result, reason in rows:
             if reason:
                 report.errorlog(0, "%s %s: %s" % (name, result, reason))
-
-
-def _check_writable():
-    """Says early that this user, or this file system, takes no transaction."""
-    path = rpm.expandMacro("%{_dbpath}")
-    if not os.access(root.resolve(path), os.W_OK):
-        text = tr("The package database in %s cannot be written: this needs the rights of the "
-                  "administrator.") if os.geteuid() else \
-            tr("The package database in %s cannot be written: the file system is read-only, or the "
-               "directory is missing.")
-        raise Errors.YumBaseError(text % path)
 
 
 class HistoryOutput:

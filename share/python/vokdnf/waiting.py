@@ -4,9 +4,7 @@ import os
 import threading
 import time
 
-import rpm
-
-from . import locks, report, root
+from . import database, locks, report, root
 from .translation import tr
 
 _SILENCE = 3.0  # seconds without a word of rpm
@@ -20,7 +18,7 @@ class Watcher:
     def __init__(self, last_word):
         """`last_word` gives the time.monotonic() of rpm's last report."""
         self._last_word = last_word
-        self._directory = root.resolve(rpm.expandMacro("%{_dbpath}"))
+        self._directory = root.resolve(database.directory())
         self._told = set()
         self._ready = threading.Event()
         self._ended = threading.Event()

@@ -1,0 +1,12 @@
+#include "explaindisabled.h"
+
+#include <QVariant>
+#include <QWidget>
+
+void explainDisabled(QWidget *control, const QString &reason)
+{
+    static const char usual[] = "usualToolTip";
+    if (!control->property(usual).isValid())
+        control->setProperty(usual, control->toolTip());
+    control->setToolTip(reason.isEmpty() ? control->property(usual).toString() : reason);
+}
