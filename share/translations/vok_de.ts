@@ -810,8 +810,8 @@ Edit Configuration in the Repositories menu (Ctrl+E) adds one.</source>
     <message>
         <source>No repositories are enabled.
 Edit Configuration in the Repositories menu (Ctrl+E) enables one: check Perm, or Sess for this session alone.</source>
-        <translation>Es sind keine Paketquellen eingeschaltet.
-„Konfiguration bearbeiten“ im Menü Paketquellen (Strg+E) schaltet eine ein: durch ein Häkchen unter „Dauer“, oder nur für diese Sitzung unter „Sitz.“.</translation>
+        <translation>Es sind keine Paketquellen aktiviert.
+„Konfiguration bearbeiten“ im Menü Paketquellen (Strg+E) aktiviert eine: durch ein Häkchen unter „Dauer“, oder nur für diese Sitzung unter „Sitz.“.</translation>
     </message>
     <message>
         <source>The repositories could not be read.
@@ -1425,13 +1425,13 @@ Die Einstellung „%1“ blendet die meisten aus.</translation>
         <source>No packages are listed.
 Most of them are hidden because &quot;Include Duplicates&quot; is not checked.</source>
         <translation>Es sind keine Pakete gelistet.
-Die meisten sind ausgeblendet, weil „Mit Duplikaten“ nicht angekreuzt ist.</translation>
+Die meisten sind ausgeblendet, weil bei „Mit Duplikaten“ kein Häkchen steht.</translation>
     </message>
     <message>
         <source>No packages are listed.
 Most of them are hidden because &quot;Include Groups&quot; is not checked.</source>
         <translation>Es sind keine Pakete gelistet.
-Die meisten sind ausgeblendet, weil „Mit Gruppen“ nicht angekreuzt ist.</translation>
+Die meisten sind ausgeblendet, weil bei „Mit Gruppen“ kein Häkchen steht.</translation>
     </message>
     <message>
         <source>No packages are listed.
@@ -2242,7 +2242,7 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
     </message>
     <message>
         <source>Space toggles the check mark of the current cell, Return edits the repository, Delete removes, Insert adds.</source>
-        <translation>Die Leertaste setzt und löscht das Kreuz der aktuellen Zelle, Eingabe bearbeitet die Paketquelle, Entf entfernt sie, Einfg fügt eine hinzu.</translation>
+        <translation>Die Leertaste setzt und löscht das Häkchen der aktuellen Zelle, Eingabe bearbeitet die Paketquelle, Entf entfernt sie, Einfg fügt eine hinzu.</translation>
     </message>
 </context>
 <context>
