@@ -11,7 +11,7 @@ import unittest
 import scriptdriver
 from httpserver import Server
 from recorder import INSTALL, NONE, SANDBOX, Recorder, start_program
-from guidriver import Screen, wait_for
+from guidriver import Screen, key, wait_for
 from scriptdriver import mounted
 
 # Takes a lock file as the program and DNF do, and holds it until its standard input ends.
@@ -273,6 +273,11 @@ class FileSystems(Case):
 
 
 class Termination(Case):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.enterClassContext(Screen())
+
     def settled(self):
         """Nothing is left that only a running program has, and rpm's database is sound."""
         self.assertEqual((self.root / "run/vok/vok.lock").read_text(), "")
@@ -282,7 +287,7 @@ class Termination(Case):
     def test_terminated(self):
         """By SIGTERM, while it downloads and when it is at rest."""
         before = (self.root / "etc/yum.conf").read_bytes()
-        with Server(self.repositories) as server, Screen():
+        with Server(self.repositories) as server:
             self.serve(server.url("bulk/", "only=*primary*;stall=50"), timeout=60)
             program = start_program(self, self.root)
             wait_for(lambda: any("primary" in path for _, path, _ in server.requests()), "the download")
@@ -297,6 +302,48 @@ class Termination(Case):
             self.assertEqual(program.end(), 0)
         self.settled()
         self.assertEqual((self.root / "etc/yum.conf").read_bytes(), before)
+
+    def speaks(self, program):
+        """What a screen reader has to work with: each control has a role and a name, and both bars say
+        what they are at and how far."""
+        nameless = [program.role(item) for item in program.walk()
+                    if program.has(item, "SHOWING") and program.has(item, "FOCUSABLE")
+                    and (not item.get_name() or program.role(item) in ("unknown", "filler", "panel"))]
+        self.assertEqual(nameless, [])
+        bars = [item for item in program.walk() if program.role(item) == "progress bar"]
+        wait_for(lambda: all(bar.get_value_iface().get_current_value() > 0 for bar in bars), "both bars")
+        self.assertRegex("|".join(bar.get_name() for bar in bars),
+                         "Total progress: Running .*[|]Progress of the current step: .* heavy")
+
+    def test_closed(self):
+        """Who closes the window is asked when marks or downloads would be lost; a signal asks nothing."""
+        marked = "1 package is marked and not applied."
+        with Server(self.repositories) as server:
+            self.serve(server.url("extras/"))
+            for way, marks, downloads, asked in (
+                    ("alt+F4", False, False, None), ("ctrl+q", True, False, marked),
+                    ("SIGTERM", True, False, None),
+                    ("alt+F4", True, True, "Packages are being downloaded.\n" + marked)):
+                with self.subTest(way=way, marks=marks, downloads=downloads):
+                    program = start_program(self, self.root, "-s", "all", "-e", "^heavy ")
+                    program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
+                    if marks:
+                        key("Home", "space")
+                        program.wait_enabled(program.find("push button", "Apply Actions"), "Apply")
+                    if downloads:
+                        server.misbehave("rate=20000;only=*.rpm")
+                        key("alt+a")
+                        program.click(program.find("push button", "OK", program.find("dialog", "Apply")))
+                        program.wait_enabled(program.find("push button", "Cancel"), "Cancel")
+                        self.speaks(program)
+                    program.process.terminate() if way == "SIGTERM" else key(way)
+                    if asked:
+                        box = program.find(("alert", "dialog"), "VOK Quit")
+                        self.assertIn(asked, map(program.texts, program.walk(box)))
+                        key("alt+b" if downloads else "alt+q")
+                    self.assertEqual(program.end(), 0)
+                    self.settled()
+        self.assertFalse(self.installed("heavy"))
 
 
 if __name__ == "__main__":
