@@ -248,6 +248,11 @@ private Q_SLOTS:
         QVERIFY(!m_case.collect("installed = [Package('p')]\n" + scenario));
         QTEST(answers.texts().join(u'|'), "texts");
         QCOMPARE(m_case.engine.count(), 0);
+        const auto collected = m_case.engine.collected();
+        QCOMPARE(collected == Engine::Collected::NoRepositories, scenario.startsWith("repos = {}"));
+        QCOMPARE(collected == Engine::Collected::NoneEnabled, scenario.startsWith("repos = {'a'"));
+        QCOMPARE(collected == Engine::Collected::RepositoriesFailed,
+                 scenario.contains("setupRepos"));
         QTEST(m_case.calls().value(m_case.calls().size() - 1), "last");
         QVERIFY(!m_case.totalBar.isEnabled());
 

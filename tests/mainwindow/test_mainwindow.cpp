@@ -1,3 +1,4 @@
+#include "answers.h"
 #include "rows.h"
 
 #include "mainwindow/machinewatch.h"
@@ -87,6 +88,27 @@ private Q_SLOTS:
         QVERIFY(action("cleanSqliteCacheAction")->isEnabled());
         QVERIFY(action("editConfigurationAction")->isEnabled());
         QVERIFY(action("cleanAllAction")->toolTip().contains(u"/cache/here"_s));
+    }
+
+    // They lie beside the share directory, and are opened by its programs.
+    void opensManuals()
+    {
+        QDir(m_dir.path()).mkpath(u"share/vok"_s);
+        const QString seen = m_dir.filePath(u"seen"_s);
+        const QString manual = m_dir.filePath(u"share/doc/vok-1.11.10/manual.pdf"_s);
+        write(u"share/vok/mimeviewer"_s, "#!/bin/sh\necho \"$*\" >> " + seen.toUtf8());
+        QFile::setPermissions(m_dir.filePath(u"share/vok/mimeviewer"_s),
+                              QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("VOKSHARE", m_dir.filePath(u"share/vok"_s).toUtf8());
+        Answers answers;
+        action("manualPdfAction")->trigger();
+        QVERIFY(answers.texts().value(0).contains(manual));
+        QDir().mkpath(manual);
+        action("manualPdfAction")->trigger();
+        const QString words = u"application/pdf %1\n"_s.arg(manual);
+        QTRY_COMPARE(read(seen), u"--check %1%1"_s.arg(words));
+        QCOMPARE(answers.shown.size(), 1);
+        qputenv("VOKSHARE", VOK_DOUBLE);
     }
 
     // In no window do two controls that show together answer to one key, and all tell a screen reader
@@ -458,6 +480,11 @@ private:
     {
         QFile file(m_dir.filePath(name));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+    static QString read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
     void hold(const char *state) { write(u"hold"_s, state); }
     void release() { QFile::remove(m_dir.filePath(u"hold"_s)); }
