@@ -622,14 +622,6 @@ Eine begonnene rpm-Transaktion lässt sich nicht abbrechen.</translation>
         <translation>Mangels Leserecht ausgelassen: %1</translation>
     </message>
     <message>
-        <source>Wrong user name or password for repository %1.
-
-%2</source>
-        <translation>Falscher Benutzername oder falsches Passwort für die Paketquelle %1.
-
-%2</translation>
-    </message>
-    <message>
         <source>VOK Yum Error</source>
         <translation>VOK – Yum-Fehler</translation>
     </message>
@@ -791,6 +783,18 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
     <message>
         <source>Only your own cache in %1 was cleaned: the system&apos;s in %2 cannot be written.</source>
         <translation>Nur Ihr eigener Zwischenspeicher in %1 wurde geleert: In den des Systems in %2 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Repository %1 needs a user name and a password.</source>
+        <translation>Die Paketquelle %1 verlangt Benutzernamen und Passwort.</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password for repository %1.</source>
+        <translation>Falscher Benutzername oder falsches Passwort für die Paketquelle %1.</translation>
+    </message>
+    <message>
+        <source>The repository is left out.</source>
+        <translation>Die Paketquelle wird ausgelassen.</translation>
     </message>
 </context>
 <context>

@@ -171,6 +171,7 @@ private:
     // repositories.cpp
     bool checkCredentials();
     void noteUnreadable();
+    bool lacksCredentials(const QString &id) const;
     void tellRefused();
     RepoEditor::Dialog *repoEditor();
     void showPlaceholder(bool withButton);

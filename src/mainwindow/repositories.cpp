@@ -5,6 +5,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "app/harmless.h"
+#include "kivvet/kivvet.h"
 #include "repo/authchecker.h"
 #include "repo/editordialog.h"
 #include "repo/yumconfio.h"
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
 
 // Asks for what is missing. True when an answer changed the configuration, of which the engine has
@@ -41,15 +43,34 @@ void MainWindow::noteUnreadable()
     note(text);
 }
 
+// Whether a repository has room for a user name and a password in its URLs, and neither stands there:
+// the question for them was skipped.
+bool MainWindow::lacksCredentials(const QString &id) const
+{
+    const auto &repos = std::as_const(m_yumConfIO->repos);
+    return std::any_of(repos.begin(), repos.end(), [&](const Repo::Entry &entry) {
+        QString nameKey, name, passwordKey, password;
+        return entry.id == id &&
+               Repo::Kivvet::getAuth(entry, nameKey, name, passwordKey, password) &&
+               name.isEmpty() && password.isEmpty();
+    });
+}
+
 // Tells whose user name or password is wrong. The form that may be asked for opens when the job has
 // ended.
 void MainWindow::tellRefused()
 {
-    for (const Engine::RefusedRepo &repo : m_yumIO->refusedRepos()) {
+    for (const Engine::RefusedRepo &repo : m_yumIO->takeRefusedRepos()) {
         if (m_quitAsked)
             return;
-        const QString text = tr("Wrong user name or password for repository %1.\n\n%2")
-                                 .arg(harmless(repo.id), harmless(maskPasswords(repo.text)));
+        const QString why = lacksCredentials(repo.id)
+                                ? tr("Repository %1 needs a user name and a password.")
+                                : tr("Wrong user name or password for repository %1.");
+        const QString text =
+            QStringList{why.arg(harmless(repo.id)),
+                        repo.failed.isEmpty() ? tr("The repository is left out.") : repo.failed,
+                        harmless(maskPasswords(repo.text))}
+                .join(QStringLiteral("\n\n"));
         if (showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Error"), text,
                            tr("Edit Repository"), tr("Close"), QString(), 0, 1) == 0) {
             m_repoToEdit = repo.id;

@@ -454,26 +454,32 @@ QString YumIO::getYumVar(const QString &name)
     return value ? pyStringX(value.get()) : QString();
 }
 
-bool YumIO::collectFileLists()
+bool YumIO::collectFileLists(Refusals refusals)
 {
     if (m_session.fileLists)
         return true;
     QEventLoop loop;
     CollectFileListsThread thread(this, loop);
-    execWorkThread(loop, thread);
+    if (refusals == Refusals::Kept)
+        execTellingRefused(loop, thread);
+    else
+        execWorkThread(loop, thread);
     m_session.fileLists = thread.result();
     if (m_session.fileLists)
         Q_EMIT collectedExtraData();
     return m_session.fileLists;
 }
 
-bool YumIO::collectOtherData()
+bool YumIO::collectOtherData(Refusals refusals)
 {
     if (m_session.otherData)
         return true;
     QEventLoop loop;
     CollectOtherDataThread thread(this, loop);
-    execWorkThread(loop, thread);
+    if (refusals == Refusals::Kept)
+        execTellingRefused(loop, thread);
+    else
+        execWorkThread(loop, thread);
     m_session.otherData = thread.result();
     if (m_session.otherData)
         Q_EMIT collectedExtraData();

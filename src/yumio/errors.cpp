@@ -146,10 +146,19 @@ bool YumIO::isCancellation() const
     return false;
 }
 
-// True when the pending exception tells what the job's caller shows.
-bool YumIO::isRefusal()
+// True when the pending exception, because of which something `failed`, tells what the job's caller
+// shows.
+bool YumIO::isRefusal(const QString &failed)
 {
-    return m_tellsRefused && !m_refused.isEmpty() && m_refused.constLast().text == exceptionText();
+    bool found = false;
+    const QString text = m_tellsRefused ? exceptionText() : QString();
+    for (Engine::RefusedRepo &repo : m_refused) {
+        if (!m_tellsRefused || repo.text != text)
+            continue;
+        repo.failed = failed;
+        found = true;
+    }
+    return found;
 }
 
 bool YumIO::commExceptRaised(PyObject *result, const QString &what)
@@ -184,7 +193,7 @@ bool YumIO::commExceptRaised(PyObject *result, const QString &what)
     } else if (raised(m_script.exceptionTypes[NoMoreMirrorsRepoError])) {
         const QString text = tr("Unable to %1: metadata unavailable from all repo mirrors:\n%2")
                                  .arg(what, exceptionText());
-        if (isRefusal())
+        if (isRefusal(tr("Unable to %1").arg(what)))
             log(Log::Kind::Error, 0, text);
         else
             error(text);
@@ -253,7 +262,7 @@ void YumIO::pythonExceptionV(const QString &text)
         log(Log::Kind::Warning, 0, exceptionText());
         return;
     }
-    if (isRefusal()) {
+    if (isRefusal(text)) {
         if (m_progress)
             m_progress->reset();
         log(Log::Kind::Error, 0, exceptionText());

@@ -218,7 +218,6 @@ void YumIO::execWorkThread(QEventLoop &loop, QThread &thread)
 
 void YumIO::execTellingRefused(QEventLoop &loop, QThread &thread)
 {
-    m_refused.clear();
     m_tellsRefused = true;
     execWorkThread(loop, thread);
     m_tellsRefused = false;
@@ -234,6 +233,7 @@ bool YumIO::collect(const QHash<QString, bool> &reposUsed)
     m_session.fileLists = false;
     m_session.otherData = false;
     m_search = {};
+    m_refused.clear();
     QEventLoop loop;
     CollectThread thread(this, loop, reposUsed);
     execTellingRefused(loop, thread);

@@ -52,8 +52,11 @@ PyObject *YumIO::credentialsRefused(PyObject *, PyObject *args)
     const char *id, *text;
     if (!PyArg_ParseTuple(args, "ss", &id, &text))
         return nullptr;
-    if (m_tellsRefused)
-        m_refused.append({QString::fromUtf8(id), QString::fromUtf8(text)});
+    if (!m_tellsRefused)
+        Py_RETURN_NONE;
+    const QString repo = QString::fromUtf8(id);
+    m_refused.removeIf([&](const Engine::RefusedRepo &refused) { return refused.id == repo; });
+    m_refused.append({repo, QString::fromUtf8(text), QString()});
     Py_RETURN_NONE;
 }
 

@@ -58,7 +58,8 @@ enum class Collected { All, Cancelled, NoRepositories, NoneEnabled, Repositories
 struct RefusedRepo
 {
     QString id;
-    QString text;
+    QString text;   // the reason
+    QString failed; // what the job could not do because of it; empty when it went on without it
 };
 
 } // namespace Engine

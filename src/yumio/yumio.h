@@ -21,6 +21,7 @@
 #include <functional>
 #include <initializer_list>
 #include <optional>
+#include <utility>
 #include <vector>
 
 class Expression;
@@ -105,11 +106,13 @@ public:
     bool collect(const QHash<QString, bool> &reposUsed);
     // How far the last collection came.
     Engine::Collected collected() const { return m_collected; }
-    // The repositories whose servers refused, in the last collection or apply, the user name and the
-    // password that they were given. The engine shows no box of these: that is the caller's.
-    const QList<Engine::RefusedRepo> &refusedRepos() const { return m_refused; }
-    bool collectFileLists();
-    bool collectOtherData();
+    // The repositories whose servers refused the user name and the password that they were given,
+    // each once, in the collection or apply and the loads with Refusals::Kept since the last call.
+    // The engine shows no box of these: that is the caller's.
+    QList<Engine::RefusedRepo> takeRefusedRepos() { return std::exchange(m_refused, {}); }
+    enum class Refusals { Shown, Kept };
+    bool collectFileLists(Refusals refusals = Refusals::Shown);
+    bool collectOtherData(Refusals refusals = Refusals::Shown);
     bool apply();
     // After an apply that returned false: true when it ended before anything was asked because
     // another program had changed the installed packages since they were collected. `changes` gets
@@ -472,7 +475,7 @@ private:
     void reportPending(const QString &what);
     QString exceptionText();
     bool isCancellation() const;
-    bool isRefusal();
+    bool isRefusal(const QString &failed);
     void walkback();
     QString errorLinesSince(qsizetype start);
     void pythonException(const QString &text);

@@ -35,6 +35,11 @@ class Credentials(scriptdriver.Case):
     def press(self, name, top=None):
         self.program.click(self.program.find("push button", name, top))
 
+    def press_apply(self):
+        self.program.wait_enabled(self.program.find("push button", "Apply Actions"), "Apply Actions")
+        self.press("Apply Actions")
+        self.press("OK")
+
     def assertHidden(self, *passwords, told=""):
         """None of these is on the screen, in the log window among it, or where other users see it."""
         key("ctrl+l")
@@ -46,8 +51,8 @@ class Credentials(scriptdriver.Case):
             self.assertNotIn(password, "\n".join(seen))
 
     def test_asked_once(self):
-        """One answer for the host is written, and serves to collect from both and to install; after a start in
-        the editor that ends with Cancel."""
+        """One answer for the host is written, and serves to collect from both and to install, when it is refused
+        once too; after a start in the editor that ends with Cancel."""
         self.configure()
         self.program = start_program(self, self.root, "-r", "-s", "installable", "-e", "^bulk-001 ")
         self.press("Cancel", self.program.find("dialog", "VOK Repository Configuration Editor"))
@@ -59,11 +64,16 @@ class Credentials(scriptdriver.Case):
         self.press("Apply to All with this Host")
         self.program.wait_enabled(self.program.find("push button", "Refresh"), "Refresh")
         key("space")
-        self.press("Apply Actions")
-        self.press("OK")
+        self.server.misbehave("status=401;only=*.rpm")
+        self.press_apply()
+        told = self.program.texts(self.program.find("label", top=self.program.find("alert")))
+        self.assertRegex(told, "(?s)^Wrong user name or password for repository bulk.*Unable to apply changes\n")
+        self.press("Close")
+        self.server.misbehave("")
+        self.press_apply()
         wait_for(lambda: "bulk-001-" in tool(self.root, "rpm", "-qa"), "the package")
         self.program.wait_enabled(self.program.find("push button", "Refresh"), "Refresh")
-        self.assertEqual({status for _, _, status in self.server.requests()}, {200})
+        self.assertEqual({status for _, path, status in self.server.requests() if ".rpm" not in path}, {200})
         self.assertEqual([file.stat().st_mode & 0o777 for file in self.files], [0o640] * 2)
         self.assertHidden(PASSWORD, "S3cr")
 
