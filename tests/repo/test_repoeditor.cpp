@@ -8,6 +8,7 @@
 #include "rows.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -195,6 +196,34 @@ private Q_SLOTS:
         });
         editor.press("editButton");
         QCOMPARE(root.io.repos[0].id, u"a"_s);
+    }
+
+    void table()
+    {
+        ConfigRoot root;
+        root.put(root.repo(u"a"_s), "[an-identifier-that-needs-more-room-than-others]\n");
+        Editor editor(root);
+        RepoEditor::View *view = editor.view;
+        const int needed = view->sizeHintForColumn(RepoEditor::IdColumn);
+        QVERIFY(view->columnWidth(RepoEditor::IdColumn) >= needed);
+
+        for (int column = 0; column < RepoEditor::ColumnCount; ++column) {
+            bool opened = false;
+            QTimer::singleShot(0, view, [&] {
+                opened = QApplication::activePopupWidget();
+                if (opened)
+                    QApplication::activePopupWidget()->close();
+            });
+            const QRect cell = view->visualRect(view->model()->index(0, column));
+            view->handleCustomContextMenuRequested(cell.center());
+            QCoreApplication::processEvents();
+            QCOMPARE(opened, column >= RepoEditor::IdColumn);
+        }
+
+        QSignalSpy told(view->model(), &QAbstractItemModel::dataChanged);
+        editor.fillForm(u"b"_s);
+        editor.keys({Qt::Key_Home, Qt::Key_Return});
+        QVERIFY(editor.shown() == QStringList{u"b"_s} && !told.isEmpty());
     }
 
     void badInput_data()
