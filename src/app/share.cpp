@@ -1,7 +1,9 @@
 #include "share.h"
 
+#include "app/version.h"
+
 QString Share::absolute(const QString &relative)
 {
-    const QString dir = qEnvironmentVariable("VOKSHARE", QStringLiteral("/usr/share/vok"));
+    const QString dir = qEnvironmentVariable("VOKSHARE", QStringLiteral(VOK_SHARE));
     return QStringLiteral("%1/%2").arg(dir, relative);
 }
