@@ -131,6 +131,14 @@ class YumIO:
         """Optional. The installed packages of other names that `po` replaces, as a sorted list of texts."""
         return self._texts(relations.replaced(self._session.sack, po.pkg))
 
+    def replacements(self):
+        """Optional: the available packages that DNF's upgrade of everything would install in the place of installed
+        ones of other names, as a list of tuples (name, family, package, what it replaces) of texts. Before the
+        packages are marked; the collection must have been read."""
+        with errors.translated():
+            return [(name, family, report.clean(pkg), ", ".join(self._texts(old)))
+                    for name, family, pkg, old in self._collected().replacements()]
+
     @staticmethod
     def _texts(pkgs):
         return sorted(map(report.clean, pkgs))

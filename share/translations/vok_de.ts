@@ -796,6 +796,25 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
         <source>The repository is left out.</source>
         <translation>Die Paketquelle wird ausgelassen.</translation>
     </message>
+    <message>
+        <source>%1 replaces %2</source>
+        <translation>%1 ersetzt %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln package(s) would replace installed ones of other names.</source>
+        <translation>
+            <numerusform>%Ln Paket würde installierte mit anderen Namen ersetzen.</numerusform>
+            <numerusform>%Ln Pakete würden installierte mit anderen Namen ersetzen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>An upgrade by DNF would install them. They are no updates, so &quot;Set Update of Listed&quot; passes them over.</source>
+        <translation>DNF würde sie bei einer Aktualisierung installieren. Sie sind keine Aktualisierungen, daher übergeht „Aufgeführte aktualisieren“ sie.</translation>
+    </message>
+    <message>
+        <source>Mark for Installation</source>
+        <translation>Zum Installieren vormerken</translation>
+    </message>
 </context>
 <context>
     <name>NextStep</name>
@@ -3451,6 +3470,10 @@ Den Schlüssel importieren und dem vertrauen, was damit signiert ist?</translati
     <message>
         <source>VOK needs its share directory, which is %1 (the environment variable VOKSHARE can name another one), and the Python modules dnf and rpm of this system.</source>
         <translation>VOK braucht sein Verzeichnis mit gemeinsamen Dateien, das %1 ist (die Umgebungsvariable VOKSHARE kann ein anderes nennen), und die Python-Module dnf und rpm dieses Systems.</translation>
+    </message>
+    <message>
+        <source>find replacements</source>
+        <translation>Ermitteln der Ersetzungen</translation>
     </message>
 </context>
 <context>

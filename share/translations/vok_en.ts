@@ -58,6 +58,13 @@
             <numerusform>%Ln packages are marked and not applied.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln package(s) would replace installed ones of other names.</source>
+        <translation>
+            <numerusform>%Ln package would replace installed ones of other names.</numerusform>
+            <numerusform>%Ln packages would replace installed ones of other names.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::Describe::Dialog</name>

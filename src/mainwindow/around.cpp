@@ -94,6 +94,7 @@ bool MainWindow::askToRefresh()
 // What the table rests on now, when a collection has ended.
 void MainWindow::noteCollected(bool collected)
 {
+    findReplacements();
     if (!collected && m_yumIO->count() > 0)
         return; // it is the former one
     m_watch->keep();

@@ -144,6 +144,7 @@ void MainWindow::showMainArea()
     sizeColumns();
     anyFilterChanged();
     m_countLine->countMarks();
+    showReplacements();
 }
 
 // For the first rows, which may come later than the table.
@@ -430,4 +431,5 @@ void MainWindow::stateChanged(int row)
     m_applyButton->setEnabled(m_yumIO->missingRights().packages.isEmpty() &&
                               (known || std::any_of(m_yumIO->begin(), m_yumIO->end(), hasAction)));
     m_countLine->countMarks();
+    showReplacements();
 }

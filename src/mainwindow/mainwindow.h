@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QList>
 #include <QMainWindow>
+#include <QMap>
 #include <QPointer>
 #include <QStringList>
 
@@ -176,6 +177,12 @@ private:
     RepoEditor::Dialog *repoEditor();
     void showPlaceholder(bool withButton);
 
+    // replacements.cpp
+    void findReplacements();
+    QList<int> unmarkedReplacements() const;
+    void showReplacements();
+    void markReplacements();
+
     // around.cpp
     void noteSession();
     void noteOwnCache();
@@ -228,6 +235,7 @@ private:
     QString m_repoToEdit;        // whose form is to be opened when the job has ended
     int m_exitCode = 0;
     Marks m_marks;                      // between two collections
+    QMap<int, QString> m_replacements;  // rows, with words about them
     QHash<QString, bool> m_enabledThen; // the repositories when the packages were collected
     QStringList m_unreadable;           // configuration files that were named
     QStringList m_notes;                // what the line shall say when the job has ended

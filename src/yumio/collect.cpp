@@ -34,6 +34,7 @@ bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
     const bool collected = m_session.yumIO && takeLock() && readRepositories(reposUsed) &&
                            collectPackages() && collectAllGroups();
     if (collected) {
+        collectReplacements();
         m_collected = Engine::Collected::All;
         m_progress->setTotalValue(totalUnits);
     } else if (m_cancelled) {
@@ -369,6 +370,24 @@ bool YumIO::collectRow(PyObject *row)
     foldPackage(m_store.byKey, nameText, archText, familyText, static_cast<Package::State>(state),
                 po, create);
     return true;
+}
+
+// The rows do without them, so whatever fails leaves the list short.
+void YumIO::collectReplacements()
+{
+    m_session.replacements.clear();
+    if (!PyObject_HasAttrString(m_session.yumIO, "replacements"))
+        return;
+    const PyRef result(bracketedOrError("replacements", tr("find replacements")));
+    const PyRef iterator(result ? PyObject_GetIter(result.get()) : nullptr);
+    while (const PyRef item = PyRef(iterator ? PyIter_Next(iterator.get()) : nullptr)) {
+        PyObject *name, *family, *package, *replaced;
+        if (!PyArg_ParseTuple(item.get(), "OOOO", &name, &family, &package, &replaced))
+            break;
+        m_session.replacements.append(
+            {pyString(name), pyString(family), pyString(package), pyString(replaced)});
+    }
+    PyErr_Clear();
 }
 
 // Few distinct texts, which all rows share.

@@ -47,6 +47,7 @@ struct Session
     bool fileLists = false; // are loaded
     bool otherData = false; // is loaded
     Sources sources;
+    QList<Replacement> replacements;
     bool spent = false;     // a transaction ran: the rows are out of date
     QStringList changes;    // of another program to what was read, in words
 };

@@ -20,6 +20,15 @@ struct Sources
     QList<File> files;
 };
 
+// A package that replaces installed ones of other names, as the library's own upgrade would have it.
+struct Replacement
+{
+    QString name;
+    QString family; // of its architecture
+    QString package;
+    QString replaced;
+};
+
 // What this process may not do, and why, in words; each is empty where nothing is missing.
 struct MissingRights
 {

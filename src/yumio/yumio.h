@@ -134,6 +134,8 @@ public:
     // Tries to reach the repository whose section of a configuration file this is, with the options
     // of the session's main section, and writes to no file. Nothing when the test was cancelled.
     std::optional<QList<RepoAnswer>> testRepository(const QString &section);
+    // Of the last collection: packages that are no updates, and that an upgrade would install.
+    const QList<Engine::Replacement> &replacements() const { return m_session.replacements; }
     void clearEntries();
     void clear();
     // As clear, but rows that are still true stay at hand, unseen: a collection that is cancelled
@@ -301,6 +303,7 @@ private:
     bool collectPackages();
     bool collectRows();
     bool collectRow(PyObject *row);
+    void collectReplacements();
     QString shared(const QString &text);
     bool collectAllGroups();
     void foldPackage(EntryHash &hash, const QString &name, const QString &arch,

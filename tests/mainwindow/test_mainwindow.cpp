@@ -23,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 using namespace PackageTable;
 using namespace Qt::StringLiterals;
@@ -327,6 +328,21 @@ private Q_SLOTS:
         QVERIFY(m_view->isEnabled());
         // Nothing was confirmed, so the marks stay.
         QVERIFY(child<QPushButton>("applyButton")->isEnabled());
+    }
+
+    // What an upgrade would install is not forgotten: one press marks it, listed or not.
+    void marksReplacements()
+    {
+        press("clearActionsButton");
+        filter(u"^alpha"_s);
+        auto *line = child<NoticeLabel>("replacementsNotice");
+        QVERIFY(line->isVisible() && line->text().startsWith(u'1'));
+        QTest::mouseClick(child<QToolButton>("replacementsNoticeButton"), Qt::LeftButton);
+        QVERIFY(!line->isVisible() && child<QPushButton>("applyButton")->isEnabled());
+        QVERIFY(!child<QLabel>("unlistedLabel")->text().isEmpty());
+        press("clearActionsButton");
+        QVERIFY(line->isVisible());
+        showAll();
     }
 
     void tellsOfOthers_data()

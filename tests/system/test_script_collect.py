@@ -54,6 +54,17 @@ class Collect(Case):
             [[], [], []], [[], [], []], [new, [], changed],
             [new, ["epochal-5.0-1.noarch", "kernel-6.1.0-1.x86_64"], changed]])
 
+    def test_replacements(self):
+        """What DNF's upgrade takes: not what replaces something excluded, and nothing when it cannot be done."""
+        taken = ["newname", "x86_64", "newname-2.0-1.noarch", "oldname-1.0-1.noarch"]
+        for option, wanted in (("", [taken]), ("exclude=oldname", []), ("best=1", [])):
+            with self.subTest(option):
+                root = self.root()
+                main = pathlib.Path(root, "etc/yum.conf")
+                main.write_text(main.read_text().replace("[main]", "[main]\n" + option))
+                result = run(root, {"steps": [COLLECT, {"do": "replacements"}]})
+                self.assertEqual(result["values"][1], wanted)
+
     def test_objects(self):
         code = """[[po.pkgtup, po.repoid, po.localPkg(), __import__("os").path.exists(po.localHdr()),
             hasattr(po, "hdr"), hasattr(po, "relativepath"), po.prco, po.returnFileEntries("file"),

@@ -27,6 +27,7 @@ class Base(dnf.Base):
         self._reading = 0
         self._plugins = plugins.Plugins()
         self.apart = {}
+        self.excluded = None  # query: what is installed and excluded
 
     def _add_repo_to_sack(self, repo):
         errors.check_cancelled()
@@ -43,6 +44,7 @@ class Base(dnf.Base):
         sack = super().fill_sack(load_system_repo, load_available_repos)
         everything = sack.query(flags=hawkey.IGNORE_EXCLUDES)
         installed = everything.installed().apply()
+        self.excluded = installed.difference(sack.query().installed())
         if installed:
             sack.remove_excludes(installed)
             sack.remove_module_excludes(installed)

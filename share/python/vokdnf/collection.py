@@ -7,7 +7,7 @@ import dnf.rpm
 import dnf.selector
 import hawkey
 
-from . import packages, relations, report
+from . import packages, replacements, report
 from .translation import tr
 
 UPDATABLE, INSTALLABLE, INSTALLED = 0, 1, 2  # states of a row
@@ -57,6 +57,7 @@ class Collection:
         self._sack = base.sack
         self._source = self._sack, base
         self._architectures = architectures
+        self._replacements = []
         self._installed = self._families(self._sack.query().installed())
         self._updates = self._choose_updates()
         self.updatable = {self.key(pkg) for pkg in self._updates}
@@ -158,14 +159,14 @@ class Collection:
 
     def report_replacements(self):
         """Log lines about available packages that replace installed ones of other names."""
-        installed = self._sack.query().installed()
-        query = self._sack.query().available().filterm(obsoletes=installed)
-        for pkg in query.filterm(latest_per_arch_by_priority=True):
-            if self.is_installed(pkg):
-                continue
-            old = list(map(str, relations.replaced(self._sack, pkg)))
-            if old:
-                report.log(2, tr("%s replaces the installed %s") % (pkg, ", ".join(old)))
+        self._replacements = replacements.candidates(self, self._sack)
+        for pkg, old in self._replacements:
+            report.log(2, tr("%s replaces the installed %s") % (pkg, ", ".join(map(str, old))))
+
+    def replacements(self):
+        """[(name, family, package, the installed ones that it replaces)] of those that DNF's upgrade would take."""
+        old = dict(self._replacements)
+        return [(*self.key(pkg), pkg, old[pkg]) for pkg in replacements.taken(self._base, list(old))]
 
 
 def _vendor(pkg):

@@ -143,7 +143,7 @@ DEFAULTS = dict(
     pkgTree=lambda io, name: [name])
 OPTIONAL = ("collectRows", "noteGroups", "outdated", "apply", "applyFailCleanup", "cleanHeaders", "cleanPackages",
             "cleanMetadata", "cleanPickles", "cleanSqlite", "testRepo", "repoOptions", "expanded",
-            "sources", "installedChanged")
+            "sources", "installedChanged", "replacements")
 
 
 class YumIO:

@@ -55,6 +55,10 @@ available[0].files = ["/bin/b"]
 groups = [Group("Workshop", True, optional=["alpha"]), Group("Attic", False, optional=["alpha"])]
 
 
+def replacements(io):
+    return [("beta", "x86_64", "beta-1-1.x86_64", "bravo-1-1.x86_64"), ("nowhere", "x86_64", "nowhere-1-1.x86_64", "")]
+
+
 def sources(io):
     return "/var/lib/rpm", [("/etc/yum.conf", ""), ("/etc/yum.repos.d", "*.repo")]
 
