@@ -1,9 +1,8 @@
 #include "mainwindow/noticerow.h"
 
 #include "app/harmless.h"
+#include "widgets/announce.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
@@ -15,36 +14,10 @@ namespace {
 constexpr int iconGap = 4;
 constexpr int fewestColumns = 12;
 
-// Readers speak what has this role as soon as it shows.
-class Alert : public QAccessibleWidget
-{
-public:
-    explicit Alert(NoticeLabel *label) : QAccessibleWidget(label, QAccessible::AlertMessage) {}
-
-    QString text(QAccessible::Text kind) const override
-    {
-        if (kind == QAccessible::Name)
-            return static_cast<NoticeLabel *>(widget())->text();
-        return QAccessibleWidget::text(kind);
-    }
-};
-
-QAccessibleInterface *alert(const QString &className, QObject *object)
-{
-    auto *label = qobject_cast<NoticeLabel *>(object);
-    return label && className == QLatin1String(label->metaObject()->className()) ? new Alert(label)
-                                                                                 : nullptr;
-}
-
 } // namespace
 
 NoticeLabel::NoticeLabel(QWidget *parent) : QLabel(parent)
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(alert);
-        return true;
-    }();
-    Q_UNUSED(installed);
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
 }
@@ -65,12 +38,6 @@ QSize NoticeLabel::minimumSizeHint() const
     const QSize least(iconSpace() + fewestColumns * fontMetrics().averageCharWidth(),
                       fontMetrics().height());
     return least.boundedTo(sizeHint());
-}
-
-void NoticeLabel::announce()
-{
-    QAccessibleEvent event(this, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&event);
 }
 
 void NoticeLabel::paintEvent(QPaintEvent *)
@@ -139,8 +106,8 @@ void NoticeRow::setNotice(Notice which, const QString &text, const QString &tool
     place.button->setAccessibleDescription(shown);
     place.button->setVisible(!buttonText.isEmpty());
     place.slot = slot;
-    if (isNews && place.label->isVisible())
-        place.label->announce();
+    if (isNews)
+        announce(window(), shown);
     place.widget->show();
 }
 

@@ -8,8 +8,7 @@
 
 class QToolButton;
 
-// The text of a notice behind an icon, elided where its place is too narrow. A screen reader is told
-// of it as of an alert. The text is plain.
+// The text of a notice behind an icon, elided where its place is too narrow. The text is plain.
 class NoticeLabel : public QLabel
 {
     Q_OBJECT
@@ -19,8 +18,6 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    // Tells readers the text, as it happens by itself when the label comes to be seen.
-    void announce();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -41,8 +38,9 @@ public:
 
     explicit NoticeRow(QWidget *parent);
 
-    // Shows a notice, or changes it. The tip is the text with `toolTip` behind it. Without a text for
-    // the button there is none; pressed, it calls `slot`, which may change the notices.
+    // Shows a notice, or changes it; screen readers are told what it says. The tip is the text with
+    // `toolTip` behind it. Without a text for the button there is none; pressed, it calls `slot`,
+    // which may change the notices.
     void setNotice(Notice which, const QString &text, const QString &toolTip = QString(),
                    const QString &buttonText = QString(), const std::function<void()> &slot = {});
     void clear(Notice which);
