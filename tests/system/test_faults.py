@@ -315,6 +315,39 @@ class Termination(Case):
         self.assertRegex("|".join(bar.get_name() for bar in bars),
                          "Total progress: Running .*[|]Progress of the current step: .* heavy")
 
+    def test_started(self):
+        """What is missing at the start is told with what to do next, and the editor is there to mend it."""
+        with Server(self.repositories) as server:
+            (self.root / "etc/yum.repos.d/Aster-Base.repo").unlink()
+            web, url = self.root / "etc/yum.repos.d/web.repo", server.url("extras/")
+            unread = "The repositories could not be read.\nRefresh tries again"
+            for name, prepare, box, told in (
+                    ("nothing", lambda: self.serve(url), False, ""),
+                    ("fresh metadata", lambda: (server.misbehave("status=503"), [
+                        os.utime(file, (0, 0)) for file in (self.root / "var/cache").rglob("*")]), True, unread),
+                    ("a network", lambda: self.serve(server.url("extras/", kind="closed")), True, unread),
+                    ("one that is enabled", lambda: self.serve(url, enabled=0), True,
+                     "No repositories are enabled.\nEdit Configuration"),
+                    ("repositories", web.unlink, True, "No repositories are configured.\nEdit Configuration"),
+                    ("installed packages", lambda: (server.misbehave(""), self.serve(url), subprocess.run(
+                        ["rm", "-rf", self.root / "var/lib/rpm"], check=True)), False,
+                     "Nothing is installed: the rpm database is empty.")):
+                with self.subTest(missing=name):
+                    prepare()
+                    program = start_program(self, self.root, "-s", "all")
+                    if box:
+                        program.find(("alert", "dialog"))
+                        program.click(program.find("push button", "OK"))
+                    program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
+                    said = "\n".join(filter(None, [program.find("table", "Packages").get_description(),
+                                                   *map(program.texts, program.walk())]))
+                    self.assertIn(told, said)
+                    key("ctrl+e")
+                    program.find("dialog", "VOK Repository Configuration Editor")
+                    key("Escape")
+                    program.process.terminate()
+                    self.assertEqual(program.end(), 0)
+
     def test_closed(self):
         """Who closes the window is asked when marks or downloads would be lost; a signal asks nothing."""
         marked = "1 package is marked and not applied."

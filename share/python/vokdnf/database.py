@@ -14,7 +14,7 @@ from .translation import tr
 # rpm on some distributions keeps its database in the user's home unless told otherwise.
 _PATH = "/var/lib/rpm"
 _KEY = "gpg-pubkey"  # what rpm calls a key that it keeps among the packages
-_UP = "/.." * 64     # out of the root directory that rpm puts in front
+_UP = "../" * 64     # out of the root directory that rpm puts in front; with a slash before, rpm 6 stays in it
 _place = {"directory": _PATH, "copy": None}
 
 
@@ -28,7 +28,7 @@ def _reach():
     _place["copy"] = None
     if databasecopy.wanted(root.resolve(_place["directory"])):
         copy = databasecopy.make(root.resolve(_place["directory"]))
-        _place["copy"] = (_UP if root.prefix() else "") + copy
+        _place["copy"] = _UP + copy[1:] if root.prefix() else copy
         rpm.addMacro("_dbpath", _place["copy"].replace("%", "%%"))
 
 
