@@ -48,8 +48,8 @@ struct Session
     bool otherData = false; // is loaded
     Sources sources;
     QList<Replacement> replacements;
-    bool spent = false;     // a transaction ran: the rows are out of date
-    QStringList changes;    // of another program to what was read, in words
+    bool spent = false;  // a transaction ran: the rows are out of date
+    QStringList changes; // of another program to what was read, in words
 };
 
 // How far a collection came, as far as that decides what can be done next.
