@@ -2,60 +2,13 @@
 
 #include "app/harmless.h"
 #include "widgets/announce.h"
+#include "widgets/helidedlabel.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
+#include <QLabel>
 #include <QStyle>
 #include <QStyleOption>
 #include <QToolButton>
-
-namespace {
-
-constexpr int iconGap = 4;
-constexpr int fewestColumns = 12;
-
-} // namespace
-
-NoticeLabel::NoticeLabel(QWidget *parent) : QLabel(parent)
-{
-    setTextFormat(Qt::PlainText);
-    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-}
-
-// Of the icon, which is as high as the text.
-int NoticeLabel::iconSpace() const
-{
-    return fontMetrics().height() + iconGap;
-}
-
-QSize NoticeLabel::sizeHint() const
-{
-    return QSize(iconSpace() + fontMetrics().horizontalAdvance(text()) + 1, fontMetrics().height());
-}
-
-QSize NoticeLabel::minimumSizeHint() const
-{
-    const QSize least(iconSpace() + fewestColumns * fontMetrics().averageCharWidth(),
-                      fontMetrics().height());
-    return least.boundedTo(sizeHint());
-}
-
-void NoticeLabel::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    const Qt::LayoutDirection direction = layoutDirection();
-    const QIcon icon = style()->standardIcon(QStyle::SP_MessageBoxInformation, nullptr, this);
-    const int size = fontMetrics().height();
-    const QRect iconRect(0, (height() - size) / 2, size, size);
-    icon.paint(&painter, QStyle::visualRect(direction, rect(), iconRect), Qt::AlignCenter,
-               isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    const QRect textRect = rect().adjusted(iconSpace(), 0, 0, 0);
-    style()->drawItemText(&painter, QStyle::visualRect(direction, rect(), textRect),
-                          int(QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter)),
-                          palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideRight, textRect.width()),
-                          foregroundRole());
-}
 
 NoticeRow::NoticeRow(QWidget *parent) : QWidget(parent)
 {
@@ -72,7 +25,11 @@ void NoticeRow::createPlace(Notice which, const QString &name)
 {
     Place &place = m_places[which];
     place.widget = new QWidget(this);
-    place.label = new NoticeLabel(place.widget);
+    auto *icon = new QLabel(place.widget);
+    icon->setPixmap(
+        style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(fontMetrics().height()));
+    place.label = new HElidedLabel(place.widget);
+    place.label->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     place.label->setObjectName(name);
     place.button = new QToolButton(place.widget);
     place.button->setObjectName(name + QStringLiteral("Button"));
@@ -83,6 +40,7 @@ void NoticeRow::createPlace(Notice which, const QString &name)
     });
     auto *layout = new QHBoxLayout(place.widget);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(icon);
     layout->addWidget(place.label);
     layout->addWidget(place.button);
     place.widget->hide();
@@ -96,13 +54,11 @@ void NoticeRow::setNotice(Notice which, const QString &text, const QString &tool
     const QString shown = harmless(text);
     const bool isNews = !has(which) || place.label->text() != shown;
     place.label->setText(shown);
-    QString tip = toolTip.isEmpty() ? shown : shown + QStringLiteral("\n\n") + harmless(toolTip);
-    if (Qt::mightBeRichText(tip))
-        tip = Qt::convertFromPlainText(tip);
+    const QString tip = harmless(toolTip);
     place.label->setToolTip(tip);
-    place.label->setAccessibleDescription(harmless(toolTip));
+    place.label->setAccessibleDescription(tip);
     place.button->setText(buttonText);
-    place.button->setToolTip(tip);
+    place.button->setToolTip(Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip);
     place.button->setAccessibleDescription(shown);
     place.button->setVisible(!buttonText.isEmpty());
     place.slot = slot;

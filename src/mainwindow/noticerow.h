@@ -1,30 +1,12 @@
 #pragma once
 
-#include <QLabel>
 #include <QWidget>
 
 #include <array>
 #include <functional>
 
+class HElidedLabel;
 class QToolButton;
-
-// The text of a notice behind an icon, elided where its place is too narrow. The text is plain.
-class NoticeLabel : public QLabel
-{
-    Q_OBJECT
-
-public:
-    explicit NoticeLabel(QWidget *parent);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-
-private:
-    int iconSpace() const;
-};
 
 // A row of the main window in which quiet notices stand side by side, each with at most one button.
 // Its height is that of one line, with and without notices.
@@ -54,7 +36,7 @@ private:
     struct Place
     {
         QWidget *widget = nullptr;
-        NoticeLabel *label = nullptr;
+        HElidedLabel *label = nullptr;
         QToolButton *button = nullptr;
         std::function<void()> slot;
     };

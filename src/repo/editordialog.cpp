@@ -357,7 +357,6 @@ void Dialog::updateStatusLabel()
         text = tr("Some files cannot be read, so nothing can be applied");
     }
     m_status->setText(text);
-    m_status->setToolTip(text);
 }
 
 void Dialog::browse()

@@ -23,26 +23,36 @@ QSize HElidedLabel::minimumSizeHint() const
     return {qMin(most.width(), fewestColumns * fontMetrics().averageCharWidth()), most.height()};
 }
 
+QRect HElidedLabel::room() const
+{
+    return contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+}
+
 QString HElidedLabel::elided() const
 {
-    return fontMetrics().elidedText(text().simplified(), Qt::ElideRight, contentsRect().width());
+    return fontMetrics().elidedText(text().simplified(), Qt::ElideRight, room().width());
 }
 
 bool HElidedLabel::event(QEvent *event)
 {
-    if (event->type() != QEvent::ToolTip || elided() == text())
+    if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    const QString whole =
-        toolTip().isEmpty() ? text() : text() + QStringLiteral("\n\n") + toolTip();
+    QStringList parts;
+    if (elided() != text())
+        parts += text();
+    if (!toolTip().isEmpty())
+        parts += toolTip();
+    const QString tip = parts.join(QStringLiteral("\n\n"));
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       Qt::convertFromPlainText(whole, Qt::WhiteSpaceNormal), this);
+                       tip.isEmpty() ? tip : Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal),
+                       this);
     return true;
 }
 
 void HElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    style()->drawItemText(&painter, contentsRect(),
+    style()->drawItemText(&painter, room(),
                           int(QStyle::visualAlignment(layoutDirection(), alignment())) |
                               Qt::TextSingleLine,
                           palette(), isEnabled(), elided(), foregroundRole());

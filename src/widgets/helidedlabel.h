@@ -2,7 +2,8 @@
 
 #include <QLabel>
 
-// A plain text on one line, cut where it does not fit; then the tool tip begins with the whole.
+// A plain text on one line, cut where it does not fit; then the tool tip begins with the whole. The
+// tip is plain text, too.
 class HElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -17,5 +18,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect room() const;
     QString elided() const;
 };

@@ -2,13 +2,12 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <QStyle>
 
 HFrameLabel::HFrameLabel(QWidget *parent) : HFrameLabel(QString(), parent) {}
 
-HFrameLabel::HFrameLabel(const QString &text, QWidget *parent) : QLabel(parent)
+HFrameLabel::HFrameLabel(const QString &text, QWidget *parent) : HElidedLabel(parent)
 {
-    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setMargin(2);
     setBackgroundRole(QPalette::Base);
@@ -26,8 +25,6 @@ void HFrameLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.fillRect(rect(), palette().brush(backgroundRole()));
     drawFrame(&painter);
-    const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
-    style()->drawItemText(&painter, room, int(alignment()), palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
-                          foregroundRole());
+    painter.end();
+    HElidedLabel::paintEvent(event);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QLabel>
+#include "widgets/helidedlabel.h"
 
-// A one-line status text in a frame, over the palette's Base colour; what has no room is elided.
-// Without a text nothing is drawn, but the place is kept. The text is plain.
-class HFrameLabel : public QLabel
+// A status text in a frame, over the palette's Base colour. Without a text nothing is drawn, but the
+// place is kept.
+class HFrameLabel : public HElidedLabel
 {
     Q_OBJECT
 

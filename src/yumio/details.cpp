@@ -460,10 +460,7 @@ bool YumIO::collectFileLists(Refusals refusals)
         return true;
     QEventLoop loop;
     CollectFileListsThread thread(this, loop);
-    if (refusals == Refusals::Kept)
-        execTellingRefused(loop, thread);
-    else
-        execWorkThread(loop, thread);
+    execWorkThread(loop, thread, refusals);
     m_session.fileLists = thread.result();
     if (m_session.fileLists)
         Q_EMIT collectedExtraData();
@@ -476,10 +473,7 @@ bool YumIO::collectOtherData(Refusals refusals)
         return true;
     QEventLoop loop;
     CollectOtherDataThread thread(this, loop);
-    if (refusals == Refusals::Kept)
-        execTellingRefused(loop, thread);
-    else
-        execWorkThread(loop, thread);
+    execWorkThread(loop, thread, refusals);
     m_session.otherData = thread.result();
     if (m_session.otherData)
         Q_EMIT collectedExtraData();

@@ -150,10 +150,12 @@ bool YumIO::isCancellation() const
 // shows.
 bool YumIO::isRefusal(const QString &failed)
 {
+    if (!m_tellsRefused)
+        return false;
     bool found = false;
-    const QString text = m_tellsRefused ? exceptionText() : QString();
+    const QString text = exceptionText();
     for (Engine::RefusedRepo &repo : m_refused) {
-        if (!m_tellsRefused || repo.text != text)
+        if (repo.text != text)
             continue;
         repo.failed = failed;
         found = true;

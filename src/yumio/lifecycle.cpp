@@ -189,8 +189,9 @@ bool YumIO::lookUpExceptionTypes()
     return true;
 }
 
-void YumIO::execWorkThread(QEventLoop &loop, QThread &thread)
+void YumIO::execWorkThread(QEventLoop &loop, QThread &thread, Refusals refusals)
 {
+    m_tellsRefused = refusals == Refusals::Kept;
     m_cancelled = false;
     m_blocker.prepare();
     const PyThreadStateWrapper unlocked;
@@ -213,14 +214,8 @@ void YumIO::execWorkThread(QEventLoop &loop, QThread &thread)
         setEnablePythonSIGINTHandler(false);
     }
     pthread_sigmask(SIG_SETMASK, &previous, nullptr);
-    Q_EMIT jobState(QStringLiteral("done"), false);
-}
-
-void YumIO::execTellingRefused(QEventLoop &loop, QThread &thread)
-{
-    m_tellsRefused = true;
-    execWorkThread(loop, thread);
     m_tellsRefused = false;
+    Q_EMIT jobState(QStringLiteral("done"), false);
 }
 
 void YumIO::blockerRelease()
@@ -236,7 +231,7 @@ bool YumIO::collect(const QHash<QString, bool> &reposUsed)
     m_refused.clear();
     QEventLoop loop;
     CollectThread thread(this, loop, reposUsed);
-    execTellingRefused(loop, thread);
+    execWorkThread(loop, thread, Refusals::Kept);
     if (thread.result())
         publishEntries();
     else if (m_former.yumIO)
@@ -250,7 +245,7 @@ bool YumIO::apply()
 {
     QEventLoop loop;
     ApplyThread thread(this, loop);
-    execTellingRefused(loop, thread);
+    execWorkThread(loop, thread, Refusals::Kept);
     m_session.spent = m_session.spent || thread.result();
     return thread.result();
 }

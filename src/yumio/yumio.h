@@ -279,8 +279,7 @@ private:
     using EntryPredicate = bool (YumIO::*)(Package::Entry *);
 
     // lifecycle.cpp
-    void execWorkThread(QEventLoop &loop, QThread &thread);
-    void execTellingRefused(QEventLoop &loop, QThread &thread);
+    void execWorkThread(QEventLoop &loop, QThread &thread, Refusals refusals = Refusals::Shown);
     void flush();
     void clearEntriesReal();
     void dropFormer();

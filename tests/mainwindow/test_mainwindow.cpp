@@ -335,7 +335,7 @@ private Q_SLOTS:
     {
         press("clearActionsButton");
         filter(u"^alpha"_s);
-        auto *line = child<NoticeLabel>("replacementsNotice");
+        auto *line = child<QLabel>("replacementsNotice");
         QVERIFY(line->isVisible() && line->text().startsWith(u'1'));
         QTest::mouseClick(child<QToolButton>("replacementsNoticeButton"), Qt::LeftButton);
         QVERIFY(!line->isVisible() && child<QPushButton>("applyButton")->isEnabled());
@@ -425,7 +425,7 @@ private:
     QString message() { return child<QLabel>("message")->text(); }
     QString notice()
     {
-        auto *label = child<NoticeLabel>("outdatedNotice");
+        auto *label = child<QLabel>("outdatedNotice");
         return label->isVisible() ? label->text() : QString();
     }
     QByteArray path(const QString &file) { return m_dir.filePath(u"root/"_s + file).toUtf8(); }
