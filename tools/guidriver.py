@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Drives VOK on a virtual display as a person would: real mouse and key events by xdotool, looking
 by the accessibility bus, pictures of the screen. Used by the tour and by the tests of whole
 windows."""

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The script that VOK runs in its interpreter: the class YumIO over DNF.
 
 The program calls its methods; the script calls the program through the module yumIOC. Each method is

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What happens on the machine around the window: whether the table is still true, and what makes it
 // so again.
 

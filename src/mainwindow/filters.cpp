@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the table lists: the mode, the expression and the other filters, and what they leave out.
 
 #include "mainwindow/job.h"

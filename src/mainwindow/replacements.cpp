@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Packages that replace installed ones of other names: no updates here, and yet part of an upgrade.
 
 #include "mainwindow/mainwindow.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The repositories: their editor, what they need to be told before they can be used, and what
 // follows when they change.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What screen readers are told of a job while it runs; whoever sees the window reads it off the bars.
 
 #include "mainwindow/mainwindow.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What of the table's looks and place outlives its rows: the place in it, and its columns.
 
 #include "packagetable/view.h"

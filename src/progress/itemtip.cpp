@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The tip of the item bar: the parallel downloads, a row for each.
 
 #include "generaltip.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // One transaction: from the rows' actions to the script's "apply" and back.
 
 #include "python/pyref.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the table does not hold: asked of the package's object when somebody wants to see it.
 
 #include "python/pyref.h"

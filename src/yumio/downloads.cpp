@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the script tells of downloads: metadata during a collection, packages during an apply.
 //
 // A meter is one download. Metadata comes one repository after the other, so each is an act of its

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Marks of groups, turned into marks of the packages that they hold.
 
 #include "python/pyref.h"

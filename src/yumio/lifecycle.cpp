@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The engine's life: starting the script, running jobs on a worker, clearing, ending.
 
 #include "python/pyref.h"

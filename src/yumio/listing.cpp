@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The resolved transaction as the user sees it: its listing, the confirmation and the outcome.
 
 #include "python/pyref.h"

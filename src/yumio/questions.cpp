@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the script asks for: whether to wait for a lock, to trust a key, to stop; and how far a job is.
 
 #include <Python.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the repository form asks: whether a repository can be reached, what options there are, what
 // variables stand for.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the library reports while it resolves, and what the resolved transaction weighs on the bars.
 
 #include "python/pyref.h"

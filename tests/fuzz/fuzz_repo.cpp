@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The reader and writer of the configuration files: whatever a file holds, reading and writing it
 // ends, and what was written once is read and written again without a byte changed.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Runs a fuzz target over the inputs of its corpus and over mixtures of them. What the target was
 // last given is on standard error when it crashes.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Failures of a write, produced for real: the process killed at every system call of it, a full
 // file system, a read-only one. Run by itself with arguments it is the process to which that
 // happens.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Files as distributions and vendors publish them: what is read from them is there again after a
 // write, a second write changes no byte, and a changed repository changes its file alone.
 

@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """A web server for tests that serves a directory and misbehaves on demand.
 
 It is a process of its own, ended by its parent's end: it leaves when its standard input ends. Its

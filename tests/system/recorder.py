@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Runs the program vok_recorder, VOK's window with a driver inside, on a sandbox root. The commands and
 their answers are described in tools/recorder/recorder.h."""
 

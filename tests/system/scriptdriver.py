@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Runs the script on a root in a process of its own, with a yumIOC that records what it is told.
 
 As a program: reads one JSON object, a scenario, from standard input and writes what happened to the

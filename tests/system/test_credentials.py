@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Repositories that need a user name and a password: the real program on a display, driven by real events,
 with a server in a process of its own."""
 

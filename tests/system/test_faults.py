@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Failures as the user sees them: the real window on a sandbox whose repositories, files and locks fail
 in every way. Each failure is told in one dialog that says what failed and why; the job ends, and the
 table can be used afterwards."""

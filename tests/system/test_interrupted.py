@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """A program that is killed in the middle of a transaction: what the next start tells, and that the system
 is sound and can be brought to where it was to go."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The sandbox: what a root holds, what its packages do, and that nothing else is touched."""
 
 import os

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The script's start, what it collects, the objects it hands over, and cache cleaning."""
 
 import os

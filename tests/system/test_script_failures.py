@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """What the script does when a transaction cannot be had, is stopped, or fails half-way."""
 
 import pathlib

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The table, groups, what stops a transaction before it begins, and the report after one that went wrong, as
 the window has them."""
 

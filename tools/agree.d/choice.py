@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Which rows are marked in a step."""
 
 from window import GROUP, INSTALL, INSTALLABLE, INSTALLED, NONE, REMOVE, UPDATABLE, UPDATE

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """DNF's side: the same marks, by one run of `dnf shell` on a copy of the root."""
 
 import subprocess

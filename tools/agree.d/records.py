@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """What a root holds: its packages, and what DNF's records say of them and of the groups."""
 
 import contextlib

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """VOK's side: its window on a root, marked and applied by clicks, its boxes answered by rule."""
 
 import collections

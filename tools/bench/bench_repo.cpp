@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Measures reading and writing many repository files, against the budgets and against a loop that
 // writes the same bytes with the same syncs. Medians of five; tools/bench-repo builds and runs it.
 

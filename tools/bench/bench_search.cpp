@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Measures searches of a large root: how long each takes until its result is painted, how long the
 // event loop is silent meanwhile, and what memory it takes. tools/bench-search builds and runs it.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Measures the window on a large root, against the budgets: its start, and what is done to all rows.
 // Medians of five. tools/bench-table builds and runs it.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The developers of VOK
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Writes what the engine tells of every package, for tools/getters to compare: one JSON object a line.
 
 #include "progress/hprogressbar.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """A copy of the tree with a suite of tests: built, asked which of them can see a file, and run."""
 
 import hashlib

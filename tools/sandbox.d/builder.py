@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Builds, signs and publishes the packages: everything of the sandbox that roots share."""
 
 import concurrent.futures

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The packages that misbehave, each in one way, and those whose scriptlets say something."""
 
 import texts

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """One session with DNF: configuration, repositories, package sack. A session runs one transaction."""
 
 import os

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Why a server's certificate was refused. The library that downloads says no more than that it was."""
 
 import re

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The collection of packages: what is installed, its updates and what else is available."""
 
 import functools

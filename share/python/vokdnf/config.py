@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The configuration: yum's or DNF's main file and the repository files, read into DNF's objects."""
 
 import glob

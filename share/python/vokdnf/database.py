@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """rpm's database, read beside what DNF has of it: whether it is sound, and whether it changed."""
 
 import os

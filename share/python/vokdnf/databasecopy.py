@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """A copy of rpm's database in the user's cache. A database in sqlite's write-ahead mode can be opened in place
 only by who may write beside it, or while files are there that the last writer may have taken away."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """What rpm reports while it runs a transaction, told to the program as it happens.
 
 Everything here runs inside rpm, possibly with another root directory: nothing is opened or imported, and

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The elements of a transaction: plain values that the library's own items are turned into once. What
 lists, reports and remembers a transaction knows nothing else of it."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Groups of packages, from the repositories' group data and DNF's own records of what is installed."""
 
 import dnf.comps

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Transactions that were killed: a marker stands in the system while rpm works, and the next start
 that finds one tells what rpm left behind."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Signing keys and signatures. No key is imported without a yes of the user."""
 
 import concurrent.futures

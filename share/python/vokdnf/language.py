@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The language of what libraries say. Their sentences are read here, in English; the program and its
 user keep their own."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Locks: VOK's own, one for a system and held by this module, and the waiting for DNF's."""
 
 import fcntl

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Download progress: DNF's and librepo's callbacks become the download callbacks of yumIOC.
 
 Both families, collectGrab... (metadata) and applyGrab... (packages), carry the same objects:

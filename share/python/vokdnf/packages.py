@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Package objects.
 
 A package object wraps one of DNF's and computes nothing before it is asked; tens of thousands exist at

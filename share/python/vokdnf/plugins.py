@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """DNF's plug-ins. One that fails is told of once, by its name, and does no more until VOK ends; the rest
 goes on."""
 

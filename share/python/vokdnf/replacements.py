@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Available packages that DNF's own upgrade of everything would install in the place of installed ones of
 other names."""
 

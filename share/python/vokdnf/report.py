@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Everything that the script says to the program: text made safe for crossing, DNF's log records,
 the interpreter's output, and the callbacks that not every program has."""
 

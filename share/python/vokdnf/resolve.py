@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """From the user's marks to a resolved transaction, with questions where it cannot be had as marked."""
 
 import dnf.exceptions

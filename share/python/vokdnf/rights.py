@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Whether this process may change the system. Each answer is a text for the user that says why not, "" when it
 may."""
 

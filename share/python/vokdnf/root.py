@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Where the system is: "/" or the directory of VOKROOT. Paths are spoken of as they are inside it;
 the prefix is added only where a file is opened."""
 

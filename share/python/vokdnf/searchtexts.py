@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """What a search reads of many packages at once. Every text is the one that the package object's own
 methods give; only the file lists and change logs of available packages come by shorter roads."""
 

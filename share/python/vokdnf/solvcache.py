@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """DNF's cache files. What file belongs to which metadata is told by the mark that libdnf puts at the head
 of each: a digest of the repository's index, and the versions that wrote it. File lists are read of them
 with libsolv's own binding, where it is there: the library's way takes a time that grows with the square

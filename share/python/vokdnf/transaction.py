@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """One transaction: mark, resolve, list, confirm, download, check signatures, run, report."""
 
 import encodings.idna  # noqa: F401  (nothing can be imported while rpm is in another root)

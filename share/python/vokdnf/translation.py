@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The user's language, which the program speaks. What it reads again, and DNF's sentences, stay as they
 are."""
 

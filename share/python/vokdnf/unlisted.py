@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """What rpm does although a resolved transaction does not say it: to rpm, whose packages of one name may
 stand beside each other only where their programs differ in kind, an update of one architecture may
 replace the other."""

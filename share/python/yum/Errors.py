@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """The exceptions that the script raises. `value` and str() are the text for the user."""
 
 from vokdnf.translation import tr

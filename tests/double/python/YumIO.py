@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """A script whose packages, groups, repositories and failures are those of a scenario.
 
 A scenario is Python source in the file named by VOK_TEST_SCENARIO, run afresh for every script object

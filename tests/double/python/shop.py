@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Packages and groups for transactions that the test cases write.
 
 Loading the metadata, `apply` and the clean methods run the Python source in the file named by

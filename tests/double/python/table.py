@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The developers of VOK
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Packages for the table and the window.
 
 While the file named by VOK_TEST_HOLD exists, the reading of repositories, of file lists or of change logs,
