@@ -62,8 +62,10 @@ class CommandLine(unittest.TestCase):
             XDG_RUNTIME_DIR=str(self.folder), LC_ALL="C.UTF-8")
 
     def complain(self, program, *arguments):
-        """Runs the program, which must end at once; returns what it says on standard error."""
-        done = subprocess.run([program, *arguments], env=self.environment, timeout=LIMIT,
+        """Runs the program, which must end at once, also without a display; returns what it says on standard error."""
+        environment = {name: value for name, value in self.environment.items()
+                       if name not in ("QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE")}
+        done = subprocess.run([program, *arguments], env=environment, timeout=LIMIT,
                               stdin=subprocess.DEVNULL, capture_output=True, text=True)
         self.assertTrue(done.stdout.startswith(f"usage: {pathlib.Path(program).name} [options...]\n\nVOK, "))
         self.assertEqual(re.findall(r"(?<![\w-])--?[\w-]+(?:=\w)?", done.stdout.partition("options:")[2]), OPTIONS)

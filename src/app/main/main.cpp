@@ -4,6 +4,7 @@
 #include "application.h"
 #include "commandline.h"
 #include "defaultstyle.h"
+#include "display.h"
 #include "terminator.h"
 #include "translations.h"
 
@@ -12,6 +13,8 @@
 #include "mainwindow/mainwindow.h"
 
 #include <QIcon>
+
+#include <cstdio>
 
 namespace {
 
@@ -27,6 +30,9 @@ QIcon programIcon()
 
 int main(int argc, char **argv)
 {
+    const bool displayMissing = isDisplayMissing(argc, argv);
+    if (displayMissing)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     DefaultStyle style(argc, const_cast<const char **>(argv));
     Application app(argc, argv);
     installTranslations(app);
@@ -38,6 +44,10 @@ int main(int argc, char **argv)
 
     MainWindow window;
     applyCommandLine(argc, argv, window);
+    if (displayMissing) {
+        fprintf(stderr, "%s: there is no display to show a window on\n", qPrintable(programName()));
+        return 1;
+    }
 
     Terminator terminator;
     QObject::connect(&terminator, &Terminator::terminated, &window, &MainWindow::terminate);
