@@ -1,33 +1,31 @@
 # SPDX-FileCopyrightText: 2026 The developers of VOK
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# Completion of vok's options for bash.
+# Completion of vok's options for bash, by the functions of bash-completion, which loads it.
 
+# No name that a shell would read otherwise than as a word.
 _vok_repositories() {
-    sed -n 's/^\[\([^]]*\)\].*/\1/p' /etc/yum.repos.d/*.repo /etc/yum/repos.d/*.repo \
+    sed -n 's/^\[\([[:alnum:]_.:-]*\)\].*/\1/p' /etc/yum.repos.d/*.repo /etc/yum/repos.d/*.repo \
         /etc/yum/yum.conf /etc/yum.conf /etc/dnf/dnf.conf 2>/dev/null | grep -vx main | sort -u
 }
 
 _vok() {
-    local cur=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[COMP_CWORD - 1]}
-    # "=" is a word of its own here.
-    if [ "$cur" = = ]; then
-        cur=
-    elif [ "$option" = = ]; then
-        option=${COMP_WORDS[COMP_CWORD - 2]}
-    fi
-    local words
-    case $option in
-        -m | --mode) words="filter search" ;;
-        -s | --state) words="updatable installable removable all" ;;
-        --enablerepo | --disablerepo) words=$(_vok_repositories) ;;
+    # shellcheck disable=SC2034
+    local cur prev words cword split
+    _init_completion -s -n : || return
+    local choices
+    case $prev in
+        -m | --mode) choices="filter search" ;;
+        -s | --state) choices="updatable installable removable all" ;;
+        --enablerepo | --disablerepo) choices=$(_vok_repositories) ;;
         -e | --regexp) return ;;
         *)
-            words="--help --mode= --regexp= --state= --duplicates --groups --repo-editor --log
+            choices="--help --mode= --regexp= --state= --duplicates --groups --repo-editor --log
                 --enablerepo= --disablerepo="
             ;;
     esac
-    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$cur")
+    mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$cur")
+    __ltrim_colon_completions "$cur"
     case ${COMPREPLY[*]} in *=) compopt -o nospace ;; esac
 }
 

@@ -3,9 +3,10 @@
 
 # Completion of vok's options for fish.
 
+# No name that a shell would read otherwise than as a word.
 function __vok_repositories
     set -l files /etc/yum.repos.d/*.repo /etc/yum/repos.d/*.repo
-    sed -n 's/^\[\([^]]*\)\].*/\1/p' $files /etc/yum/yum.conf /etc/yum.conf /etc/dnf/dnf.conf /dev/null 2>/dev/null |
+    sed -n 's/^\[\([[:alnum:]_.:-]*\)\].*/\1/p' $files /etc/yum/yum.conf /etc/yum.conf /etc/dnf/dnf.conf /dev/null 2>/dev/null |
         string match -v main | sort -u
 end
 
