@@ -175,7 +175,11 @@ int Dialog::exec(Repo::Entry *entry, const QString &warning)
     setAccessibleDescription(
         QStringLiteral("%1: %2\n%3").arg(m_heading->text(), m_id->text(), warning));
     setButtonsEnabled(true);
-    m_name->setFocus();
+    // Where nothing can be answered the keyboard is at what ends the questions, not the program.
+    if (m_lookOnly.isEmpty())
+        m_name->setFocus();
+    else
+        m_buttons[firstAnswer - 1]->setFocus();
     if (isHidden())
         resize(sizeHint()); // by itself it would take two thirds of the screen at most
     show();
