@@ -3,10 +3,13 @@
 
 include_guard()
 
+option(VOK_WERROR "Make warnings errors" ON)
+
 # What every target is compiled with.
 add_library(vok_options INTERFACE)
 target_compile_features(vok_options INTERFACE cxx_std_20)
-target_compile_options(vok_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
+target_compile_options(vok_options INTERFACE -Wall -Wextra -Wpedantic
+    $<$<BOOL:${VOK_WERROR}>:-Werror>)
 target_compile_definitions(vok_options INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 target_include_directories(vok_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
