@@ -815,6 +815,14 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
         <source>Mark for Installation</source>
         <translation>Zum Installieren vormerken</translation>
     </message>
+    <message>
+        <source>Not everything was cleaned. The log (Ctrl+L) tells what is left.</source>
+        <translation>Es wurde nicht alles geleert. Das Protokoll (Strg+L) sagt, was übrig ist.</translation>
+    </message>
+    <message>
+        <source>Not everything could be read. The log (Ctrl+L) tells what is missing.</source>
+        <translation>Es konnte nicht alles eingelesen werden. Das Protokoll (Strg+L) sagt, was fehlt.</translation>
+    </message>
 </context>
 <context>
     <name>NextStep</name>
@@ -3801,10 +3809,6 @@ Es wurde nichts geändert.</translation>
         <translation>Der Rest ist möglich ohne:</translation>
     </message>
     <message>
-        <source>Remove it too?</source>
-        <translation>Auch das entfernen?</translation>
-    </message>
-    <message>
         <source>%s is installed as marked, although %s replaces it.</source>
         <translation>%s wird wie vorgemerkt installiert, obwohl %s es ersetzt.</translation>
     </message>
@@ -3875,6 +3879,10 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>The configuration in %s cannot be written: the file system is read-only.</source>
         <translation>In die Konfiguration in %s kann nicht geschrieben werden: Das Dateisystem ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>Remove these too?</source>
+        <translation>Auch diese entfernen?</translation>
     </message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 #include <QMutex>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 namespace Log {
 
@@ -34,6 +35,10 @@ public:
     QMutex &mutex() { return m_mutex; }
     // Only with the mutex held.
     QList<Entry> &entries() { return m_entries; }
+
+    qsizetype count();
+    // The texts of the important errors from that index on, the oldest first.
+    QStringList errors(qsizetype from);
 
     void emitAppended();
 

@@ -35,8 +35,10 @@ void MainWindow::noteSession()
 }
 
 // After the cleaning of a cache.
-void MainWindow::noteOwnCache()
+void MainWindow::noteCleaned(bool whole)
 {
+    if (!whole)
+        note(tr("Not everything was cleaned. The log (Ctrl+L) tells what is left."));
     const QString own = m_yumIO->missingRights().ownCache;
     if (!own.isEmpty())
         note(tr("Only your own cache in %1 was cleaned: the system's in %2 cannot be written.")

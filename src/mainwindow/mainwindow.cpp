@@ -186,6 +186,8 @@ void MainWindow::gather(Refresh why)
         note(m_yumIO->count() > 0
                  ? tr("The packages were not collected again; the table is as before.")
                  : tr("The packages were not collected. Refresh tries again."));
+    else if (!m_yumIO->logList().errors(m_logBefore).isEmpty())
+        note(tr("Not everything could be read. The log (Ctrl+L) tells what is missing."));
     m_view->setMissing(nextStep(m_yumIO->collected()));
     if (collected && nothingIsInstalled(*m_yumIO))
         note(tr("Nothing is installed: the rpm database is empty. View Installable lists what can "
@@ -233,6 +235,7 @@ void MainWindow::recollect(Refresh why)
     m_marks.take(*m_yumIO);
     const PackageTable::Place place = m_view->place();
     m_watch->take();
+    m_logBefore = m_yumIO->logList().count();
     m_yumIO->renew();
     noteSession();
     m_model->reset();
@@ -312,8 +315,7 @@ void MainWindow::cleanAndCollect(bool (YumIO::*operation)())
     const Job job(this);
     if (!job)
         return;
-    (m_yumIO->*operation)();
-    noteOwnCache();
+    noteCleaned((m_yumIO->*operation)());
     if (m_mainArea->isHidden())
         checkCredentials();
     recollect();
@@ -330,8 +332,7 @@ void MainWindow::cleanPackages()
     const Job job(this);
     if (!job)
         return;
-    m_yumIO->cleanPackages();
-    noteOwnCache();
+    noteCleaned(m_yumIO->cleanPackages());
 }
 
 void MainWindow::cleanXmlMetadata()

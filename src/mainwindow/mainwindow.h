@@ -188,7 +188,7 @@ private:
 
     // around.cpp
     void noteSession();
-    void noteOwnCache();
+    void noteCleaned(bool whole);
     void lookAround();
     QStringList changedFiles() const;
     bool askToRefresh();
@@ -238,6 +238,7 @@ private:
     QString m_repoToEdit;        // whose form is to be opened when the job has ended
     int m_exitCode = 0;
     Marks m_marks;                      // between two collections
+    qsizetype m_logBefore = 0;          // how long the log was when the last one began
     QMap<int, QString> m_replacements;  // rows, with words about them
     QHash<QString, bool> m_enabledThen; // the repositories when the packages were collected
     QStringList m_unreadable;           // configuration files that were named

@@ -8,7 +8,6 @@
 #include "yumio.h"
 
 #include <QCoreApplication>
-#include <QMutexLocker>
 
 #include <cerrno>
 #include <cstring>
@@ -85,10 +84,7 @@ bool YumIO::isHeld(const QString &text, bool isError)
 
 void YumIO::pyExceptExpect(PyObject *type)
 {
-    {
-        QMutexLocker lock(&m_log.mutex());
-        m_reports.logMark = int(m_log.entries().size());
-    }
+    m_reports.logMark = int(m_log.count());
     Python::pyExceptExpect(type);
 }
 
@@ -233,30 +229,15 @@ void YumIO::reportPending(const QString &what)
     pyExceptClear();
 }
 
-// What failed calls wrote: the important error lines from `start` on, oldest first.
-QString YumIO::errorLinesSince(qsizetype start)
-{
-    QStringList lines;
-    QMutexLocker lock(&m_log.mutex());
-    const auto &entries = m_log.entries();
-    for (qsizetype i = start; i < entries.size(); ++i) {
-        if (entries[i].kind == Log::Kind::Error && entries[i].level < 3)
-            lines.append(entries[i].text);
-    }
-    return lines.join(QLatin1Char('\n'));
-}
-
 void YumIO::pythonException(const QString &text)
 {
     if (m_progress)
         m_progress->reset();
     qsizetype start = m_reports.logMark;
-    if (start == -1) {
-        QMutexLocker lock(&m_log.mutex());
-        start = m_log.entries().size();
-    }
+    if (start == -1)
+        start = m_log.count();
     log(Log::Kind::Error, 0, text);
-    const QString lines = errorLinesSince(start);
+    const QString lines = m_log.errors(start).join(QLatin1Char('\n')); // of the failed calls too
     if (!isHeld(lines, true) && m_dialogs)
         m_dialogs->scrollable(tr("VOK Yum Error"), lines);
 }
@@ -276,10 +257,8 @@ void YumIO::pythonExceptionV(const QString &text)
     }
     // Both lines belong to the report, so the mark is set before the first when there is none.
     const int outerMark = m_reports.logMark;
-    if (m_reports.logMark == -1) {
-        QMutexLocker lock(&m_log.mutex());
-        m_reports.logMark = int(m_log.entries().size());
-    }
+    if (m_reports.logMark == -1)
+        m_reports.logMark = int(m_log.count());
     log(Log::Kind::Error, 0, exceptionText());
     pythonException(text);
     m_reports.logMark = outerMark;

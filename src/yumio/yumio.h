@@ -482,7 +482,6 @@ private:
     bool isCancellation() const;
     bool isRefusal(const QString &failed);
     void walkback();
-    QString errorLinesSince(qsizetype start);
     void pythonException(const QString &text);
     void pythonExceptionV(const QString &text);
     bool fail(const QString &text);

@@ -329,6 +329,8 @@ class Termination(Case):
                     ("fresh metadata", lambda: (server.misbehave("status=503"), [
                         os.utime(file, (0, 0)) for file in (self.root / "var/cache").rglob("*")]), True, unread),
                     ("a network", lambda: self.serve(server.url("extras/", kind="closed")), True, unread),
+                    ("one of them", lambda: self.serve(server.url("extras/", kind="closed"), skip_if_unavailable=1), False,
+                     "Not everything could be read."),
                     ("one that is enabled", lambda: self.serve(url, enabled=0), True,
                      "No repositories are enabled.\nEdit Configuration"),
                     ("repositories", web.unlink, True, "No repositories are configured.\nEdit Configuration"),

@@ -26,7 +26,7 @@ WAYS_OUT = {
                                    (), ("abacus-1.2-1.x86_64",)),
     "erasing what conflicts": ({"install": ["mail-beta"]}, "It can be done by removing:",
                                ("mail-alpha-1.0-1.noarch",), ("mail-beta-1.0-1.noarch",)),
-    "erasing beside a removal": ({"install": ["mail-beta"], "remove": ["clock"]}, "Remove it too?",
+    "erasing beside a removal": ({"install": ["mail-beta"], "remove": ["clock"]}, "Remove these too?",
                                  ("mail-alpha-1.0-1.noarch", "clock-1.0-1.x86_64"),
                                  ("mail-beta-1.0-1.noarch",)),
 }

@@ -41,8 +41,7 @@ def clear():
 
 
 def check(session):
-    """Lines about an interrupted transaction, [] when there was none. They are logged too, and told
-    once. Only the holder of the lock looks: the marker of another may be one of a running
+    """Lines about an interrupted transaction, [] when there was none, for the program to tell; once. Only the holder of the lock looks: the marker of another may be one of a running
     transaction."""
     if not locks.held():
         return []
@@ -56,8 +55,6 @@ def check(session):
         lines = [tr("A transaction was interrupted; what it was to do cannot be read: %s") % error]
     else:
         lines = _lines(planned, installed_packages(session.base))
-    for line in lines:
-        report.errorlog(0, line)
     clear()
     return lines
 

@@ -122,7 +122,7 @@ class Resolver:
         if not lost:
             return True
         return report.confirm([tr("What is marked for installation cannot be there together with:")]
-                              + _listed(lost) + [tr("Remove it too?")])
+                              + _listed(lost) + [tr("Remove these too?")])
 
 
 def _listed(pkgs):
@@ -154,13 +154,14 @@ def tell_additions(found, marks, collection):
 
 
 def replacements(base, marks):
-    """Lines about what is marked although another package on offer replaces it: the mark stands."""
-    if not base.conf.obsoletes or not marks.wanted:
+    """Lines about what is marked, and installed, although another package on offer replaces it."""
+    coming = sorted(set(marks.wanted).intersection(base.transaction.install_set))
+    if not base.conf.obsoletes or not coming:
         return []
     newest = base.sack.query().available().filterm(latest_per_arch_by_priority=True).apply()
-    replacing = newest.filter(obsoletes=marks.wanted)
+    replacing = newest.filter(obsoletes=coming)
     lines = []
-    for pkg in sorted(marks.wanted):
+    for pkg in coming:
         new = [report.clean(one) for one in replacing.filter(obsoletes=[pkg]) if one.name != pkg.name]
         if new:
             lines.append(tr("%s is installed as marked, although %s replaces it.")
