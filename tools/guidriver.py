@@ -90,6 +90,14 @@ class Program:
 
     def __init__(self, command, log):
         """Starts command, with its output in the file log."""
+        self._reach()
+        self.log = pathlib.Path(log)
+        with self.log.open("wb") as output:
+            self.process = subprocess.Popen(command, stdout=output, stderr=subprocess.STDOUT,
+                                            stdin=subprocess.DEVNULL, start_new_session=True)
+        self.application = wait_for(self._find_application, "the program's window")
+
+    def _reach(self):
         import gi
 
         # The accessibility library's newer names are not everywhere yet.
@@ -99,11 +107,6 @@ class Program:
 
         self.atspi, self.glib = Atspi, GLib
         Atspi.init()
-        self.log = pathlib.Path(log)
-        with self.log.open("wb") as output:
-            self.process = subprocess.Popen(command, stdout=output, stderr=subprocess.STDOUT,
-                                            stdin=subprocess.DEVNULL, start_new_session=True)
-        self.application = wait_for(self._find_application, "the program's window")
 
     def _find_application(self):
         if self.process.poll() is not None:

@@ -32,6 +32,8 @@ bool isDropped(const QByteArray &variable)
                                         "SUDO_USER",
                                         "SUDO_COMMAND",
                                         "PKEXEC_UID",
+                                        "PATH",
+                                        "QT_QPA_PLATFORM",
                                         "XDG_RUNTIME_DIR",
                                         "DBUS_SESSION_BUS_ADDRESS",
                                         "XDG_CONFIG_HOME",
@@ -89,7 +91,8 @@ void Invoker::makeEnvironment(const QByteArray &name, const QByteArray &home,
         if (!isDropped(*variable))
             m_variables.append(*variable);
     }
-    m_variables << "HOME=" + home << "USER=" + name << "LOGNAME=" + name << "SHELL=" + shell;
+    m_variables << "HOME=" + home << "USER=" + name << "LOGNAME=" + name << "SHELL=" + shell
+                << "PATH=/usr/local/bin:/usr/bin:/bin";
     const QByteArray runtime = "/run/user/" + QByteArray::number(m_uid);
     if (access(runtime.constData(), F_OK) == 0)
         m_variables << "XDG_RUNTIME_DIR=" + runtime;

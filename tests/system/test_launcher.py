@@ -31,17 +31,19 @@ class Launcher(unittest.TestCase):
 
     def test_hands_over_what_leads_to_the_display(self):
         told = self.launch('shift; echo "$@"', DISPLAY=":3", XAUTHORITY="auth", WAYLAND_DISPLAY="wayland-3",
-                           LANG="de_DE.UTF-8", VOKSHARE="/mine", LD_PRELOAD="")[1]
-        self.assertEqual(told, "WAYLAND_DISPLAY=PLACE/wayland-3 DISPLAY=:3 XAUTHORITY=PLACE/auth LANG=de_DE.UTF-8 "
-                               "-- -s all\n")
+                           LANG="de_DE.UTF-8", VOKSHARE="/mine", LD_PRELOAD="",
+                           QT_SCALE_FACTOR="1.5", QT_FONT_DPI="$(id)")[1]
+        self.assertEqual(told, "WAYLAND_DISPLAY=PLACE/wayland-3 DISPLAY=:3 XAUTHORITY=PLACE/auth "
+                               "QT_SCALE_FACTOR=1.5 LANG=de_DE.UTF-8 -- -s all\n")
 
     def test_tells_why_the_rights_were_not_given(self):
-        for status, word in ((126, "dismissed"), (127, "not given")):
+        for status, word in ((126, "dismissed"), (127, "not given"), (134, "error")):
             done = self.launch(f"exit {status}")
             self.assertEqual((done[0], word in done[2]), (1, True), done)
 
     def test_root_takes_nothing_that_could_load_code(self):
         for words in (["LD_PRELOAD=/x", "--"], ["VOKSHARE=/x", "--"], ["XAUTHORITY=/etc/absent", "--"],
+                      ["AT_SPI_BUS_ADDRESS=unixexec:path=/x", "--"], ["AT_SPI_BUS_ADDRESS=unix:path=/x", "--"],
                       ["LANG=$(id)", "--"], ["--", "-platformpluginpath", "/x"], ["--", "-e", "-style"], []):
             done = subprocess.run([*AS_ROOT, "sh", BUILD / "vok-as-root", *words], capture_output=True, text=True,
                                   check=False)
