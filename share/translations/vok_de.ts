@@ -840,9 +840,9 @@ Edit Configuration in the Repositories menu (Ctrl+E) adds one.</source>
     </message>
     <message>
         <source>No repositories are enabled.
-Edit Configuration in the Repositories menu (Ctrl+E) enables one: check Perm, or Sess for this session alone.</source>
+Edit Configuration in the Repositories menu (Ctrl+E) enables one: check Sess for this session, and Perm for later ones.</source>
         <translation>Es sind keine Paketquellen aktiviert.
-„Konfiguration bearbeiten“ im Menü Paketquellen (Strg+E) aktiviert eine: durch ein Häkchen unter „Dauer“, oder nur für diese Sitzung unter „Sitz.“.</translation>
+„Konfiguration bearbeiten“ im Menü Paketquellen (Strg+E) aktiviert eine: durch ein Häkchen unter „Sitz.“ für diese Sitzung, und unter „Dauer“ für spätere.</translation>
     </message>
     <message>
         <source>The repositories could not be read.

@@ -29,7 +29,7 @@ QString nextStep(Engine::Collected collected)
                          "menu (Ctrl+E) adds one.");
     case Engine::Collected::NoneEnabled:
         return Texts::tr("No repositories are enabled.\nEdit Configuration in the Repositories "
-                         "menu (Ctrl+E) enables one: check Perm, or Sess for this session alone.");
+                         "menu (Ctrl+E) enables one: check Sess for this session, and Perm for later ones.");
     case Engine::Collected::RepositoriesFailed:
         return Texts::tr("The repositories could not be read.\nRefresh tries again, for example "
                          "when the network is there. To do without a repository, uncheck its Sess "

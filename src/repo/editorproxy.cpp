@@ -28,6 +28,8 @@ void SortFilterProxyModel::setFilterText(const QString &text)
     m_filterText = text;
     invalidateFilter();
 #endif
+    // Without dynamic sorting the rows that come back would stand below the others.
+    sort(sortColumn(), sortOrder());
 }
 
 QVariant SortFilterProxyModel::data(const QModelIndex &index, int role) const

@@ -133,6 +133,7 @@ private Q_SLOTS:
         editor.fillForm(u"new"_s);
         editor.keys({Qt::Key_Insert});
         QCOMPARE(filter->text(), QString());
+        QCOMPARE(editor.shown().indexOf(u"r10"_s), 4); // in its place again
         QCOMPARE(editor.view->currentRow(), 4);
         QCOMPARE(root.get(a), before);
         editor.press("applyButton");
