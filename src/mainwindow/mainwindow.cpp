@@ -186,7 +186,9 @@ void MainWindow::gather(Refresh why)
         note(m_yumIO->count() > 0
                  ? tr("The packages were not collected again; the table is as before.")
                  : tr("The packages were not collected. Refresh tries again."));
-    else if (!m_yumIO->logList().errors(m_logBefore).isEmpty())
+    // Who may only look cannot use DNF's records, which is no news each time.
+    else if (m_yumIO->missingRights().packages.isEmpty() &&
+             !m_yumIO->logList().errors(m_logBefore).isEmpty())
         note(tr("Not everything could be read. The log (Ctrl+L) tells what is missing."));
     m_view->setMissing(nextStep(m_yumIO->collected()));
     if (collected && nothingIsInstalled(*m_yumIO))
