@@ -160,6 +160,7 @@ class Collect(Case):
         (directory / os.fsdecode(b"caf\xe9.repo")).write_text("[bytes]\nname=x\nbaseurl=file:///x\nenabled=0\n")
         (directory / os.fsdecode(b"\xe9.repo")).write_text("[open\n")
         (directory / "broken.repo").write_text("[broken\nname=x\n")
+        os.mkfifo(directory / "pipe.repo")
         (directory / "loose.repo").write_text("text\n[loose]\nbaseurl=http://127.0.0.1/\n")
         (directory / "latin.repo").write_bytes(b"[latin]\nname=caf\xe9\nbaseurl=file:///x\n")
         (directory / "odd.repo").write_text("[main]\nenabled=1\n[bad id]\nname=x\nenabled=0\n"
@@ -170,7 +171,7 @@ class Collect(Case):
         told = [text for _, text in calls(result, "errorlog")]
         for part in ("/etc/yum.repos.d/broken.repo is left out: IniParser: Missing ']'",
                      "/etc/yum.repos.d/\ufffd.repo is left out: IniParser: Missing ']'",
-                     "/etc/yum.repos.d/loose.repo is left out: ",
+                     "/etc/yum.repos.d/loose.repo is left out: ", "/etc/yum.repos.d/pipe.repo is left out: ",
                      "/etc/yum.repos.d/latin.repo is left out: a value is not UTF-8", "Bad id for repo: bad id"):
             self.assertTrue([text for text in told if part in text], part)
 

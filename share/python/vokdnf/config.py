@@ -3,8 +3,10 @@
 
 """The configuration: yum's or DNF's main file and the repository files, read into DNF's objects."""
 
+import errno
 import glob
 import os
+import stat
 
 import dnf.conf
 import dnf.conf.read
@@ -162,6 +164,8 @@ def read_repositories(conf, repositories):
         files += sorted(glob.glob(glob.escape(directory) + "/*.repo"))
     for path in files:
         try:
+            if stat.S_ISFIFO(os.stat(path).st_mode):  # which would be waited for
+                raise OSError(errno.ENOTSUP, os.strerror(errno.ENOTSUP))
             with open(path, "rb") as stream, language.english():
                 # The parser takes no name that is not UTF-8.
                 name = path if report.clean(path) == path else "/proc/self/fd/%d" % stream.fileno()
