@@ -28,8 +28,9 @@ QString nextStep(Engine::Collected collected)
         return Texts::tr("No repositories are configured.\nEdit Configuration in the Repositories "
                          "menu (Ctrl+E) adds one.");
     case Engine::Collected::NoneEnabled:
-        return Texts::tr("No repositories are enabled.\nEdit Configuration in the Repositories "
-                         "menu (Ctrl+E) enables one: check Sess for this session, and Perm for later ones.");
+        return Texts::tr(
+            "No repositories are enabled.\nEdit Configuration in the Repositories "
+            "menu (Ctrl+E) enables one: check Sess for this session, and Perm for later ones.");
     case Engine::Collected::RepositoriesFailed:
         return Texts::tr("The repositories could not be read.\nRefresh tries again, for example "
                          "when the network is there. To do without a repository, uncheck its Sess "
