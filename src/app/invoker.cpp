@@ -19,6 +19,9 @@ uid_t userFrom(const char *variable)
     return ok ? uid : 0;
 }
 
+// In front of the names of the user's own variables, where root's side was told them.
+constexpr char handedOver[] = "VOK_OWN_";
+
 // Belongs to root's session or to the way in, and would mislead the user's programs.
 bool isDropped(const QByteArray &variable)
 {
@@ -87,12 +90,19 @@ bool Invoker::lookUp(uid_t uid)
 void Invoker::makeEnvironment(const QByteArray &name, const QByteArray &home,
                               const QByteArray &shell)
 {
+    bool hasPath = false;
     for (char **variable = environ; *variable; ++variable) {
-        if (!isDropped(*variable))
-            m_variables.append(*variable);
+        const QByteArray text = *variable;
+        if (text.startsWith(handedOver)) {
+            m_variables.append(text.mid(qstrlen(handedOver)));
+            hasPath = hasPath || m_variables.last().startsWith("PATH=");
+        } else if (!isDropped(text)) {
+            m_variables.append(text);
+        }
     }
-    m_variables << "HOME=" + home << "USER=" + name << "LOGNAME=" + name << "SHELL=" + shell
-                << "PATH=/usr/local/bin:/usr/bin:/bin";
+    if (!hasPath)
+        m_variables << "PATH=/usr/local/bin:/usr/bin:/bin";
+    m_variables << "HOME=" + home << "USER=" + name << "LOGNAME=" + name << "SHELL=" + shell;
     const QByteArray runtime = "/run/user/" + QByteArray::number(m_uid);
     if (access(runtime.constData(), F_OK) == 0)
         m_variables << "XDG_RUNTIME_DIR=" + runtime;

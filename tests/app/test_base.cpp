@@ -93,7 +93,8 @@ private Q_SLOTS:
         const QByteArray uid = QByteArray::number(user->pw_uid);
         qputenv("SUDO_UID", uid);
         qputenv("SUDO_GID", QByteArray::number(user->pw_gid));
-        run("{ id -u; id -g; id -G; echo $HOME; echo \"<$SUDO_UID>\"; } > $0.tmp", {});
+        qputenv("VOK_OWN_BROWSER", "mine");
+        run("{ id -u; id -g; id -G; echo $HOME; echo \"$SUDO_UID$BROWSER\"; } > $0.tmp", {});
         char id[] = "/usr/bin/id", option[] = "-u";
         char *argv[] = {id, option, nullptr};
         QString said;
@@ -105,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(m_lines.value(1).toLatin1(), QByteArray::number(user->pw_gid));
         QVERIFY(!m_lines.value(2).split(u' ').contains(QStringLiteral("0")));
         QCOMPARE(m_lines.value(3), QString::fromLocal8Bit(user->pw_dir));
-        QCOMPARE(m_lines.value(4), QStringLiteral("<>"));
+        QCOMPARE(m_lines.value(4), QStringLiteral("mine"));
     }
 
 private:
