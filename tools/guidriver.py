@@ -183,6 +183,10 @@ class Program:
         """Waits until an object can be used."""
         wait_for(lambda: self.has(item, "SENSITIVE"), f"{what} to become usable", timeout)
 
+    def wait_active(self):
+        """Waits until keys go to the main window: the window manager may be slower than the program."""
+        wait_for(lambda: self.has(self.find("frame", "VOK"), "ACTIVE"), "the window to have the keyboard", 20)
+
     def box(self, item):
         """An object's place on the screen: (x, y, width, height) in pixels."""
         extents = item.get_component_iface().get_extents(self.atspi.CoordType.SCREEN)
