@@ -59,6 +59,8 @@ class Screen:
                           stdout=subprocess.PIPE, text=True)
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
         self._start(["openbox", "--sm-disable"])
+        wait_for(lambda: subprocess.run(["xdotool", "get_num_desktops"], stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL).returncode == 0, "the window manager", 60)
         return self
 
     def __exit__(self, *_):
@@ -182,10 +184,6 @@ class Program:
     def wait_enabled(self, item, what, timeout=120.0):
         """Waits until an object can be used."""
         wait_for(lambda: self.has(item, "SENSITIVE"), f"{what} to become usable", timeout)
-
-    def wait_active(self):
-        """Waits until keys go to the main window: the window manager may be slower than the program."""
-        wait_for(lambda: self.has(self.find("frame", "VOK"), "ACTIVE"), "the window to have the keyboard", 20)
 
     def box(self, item):
         """An object's place on the screen: (x, y, width, height) in pixels."""

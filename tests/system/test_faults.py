@@ -365,7 +365,6 @@ class Termination(Case):
                 with self.subTest(way=way, marks=marks, downloads=downloads):
                     program = start_program(self, self.root, "-s", "all", "-e", "^heavy ")
                     program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
-                    program.wait_active()
                     if marks:
                         key("Home", "space")
                         program.wait_enabled(program.find("push button", "Apply Actions"), "Apply")
