@@ -41,8 +41,8 @@ def clear():
 
 
 def check(session):
-    """Lines about an interrupted transaction, [] when there was none, for the program to tell; once. Only the holder of the lock looks: the marker of another may be one of a running
-    transaction."""
+    """Lines about an interrupted transaction, [] when there was none, for the program to tell; once. Only the
+    holder of the lock looks: the marker of another may be one of a running transaction."""
     if not locks.held():
         return []
     try:
