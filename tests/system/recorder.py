@@ -24,9 +24,9 @@ from guidriver import Program  # noqa: E402
 
 class Recorder:
     """A running window, as a context. `before` is a shell command that runs first, in a mount namespace
-    of its own when it is given; `display` False shows the window nowhere."""
+    of its own when it is given; `display` False shows the window nowhere; `errors` is a file for its standard error."""
 
-    def __init__(self, root, before="", display=False):
+    def __init__(self, root, before="", display=False, errors=None):
         program = str(BUILD / "bin" / "vok_recorder")
         command = [SANDBOX, "run", root, "--", program]
         if before:
@@ -37,7 +37,7 @@ class Recorder:
         if not display:
             environment["QT_QPA_PLATFORM"] = "offscreen"
         self.process = subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                        env=environment)
+                                        stderr=errors, env=environment)
         self._buffer = b""
 
     def do(self, what, timeout=60, **fields):
