@@ -83,7 +83,8 @@ QLayout *Dialog::createFields()
         m_urls = new HScrollArea(this);
         m_urls->setFrameShape(QFrame::NoFrame);
         m_urls->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        m_urls->setFocusPolicy(Qt::NoFocus);
+        m_urls->takeFocusToScroll();
+        m_urls->setAccessibleName(title);
         m_urls->setMinimumHeight(fontMetrics().height());
         m_urls->setWidget(value);
         grid->addWidget(m_urls, row, 1);

@@ -6,7 +6,10 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QTextLayout>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace {
 
@@ -31,9 +34,38 @@ QRect HElidedLabel::room() const
     return contentsRect().adjusted(margin(), margin(), -margin(), -margin());
 }
 
-QString HElidedLabel::elided() const
+void HElidedLabel::setMaximumLines(int lines)
 {
-    return fontMetrics().elidedText(text().simplified(), Qt::ElideRight, room().width());
+    m_maximumLines = lines;
+    updateGeometry();
+}
+
+int HElidedLabel::heightForWidth(int width) const
+{
+    const int around = this->width() - room().width();
+    const auto more = std::max<qsizetype>(linesIn(width - around).size() - 1, 0);
+    return QLabel::minimumSizeHint().height() + int(more) * fontMetrics().lineSpacing();
+}
+
+QStringList HElidedLabel::linesIn(int width) const
+{
+    const QString whole = text().simplified();
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QTextLayout layout(whole, font());
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        if (lines.size() == m_maximumLines - 1) {
+            lines += fontMetrics().elidedText(whole.mid(line.textStart()), Qt::ElideRight, width);
+            break;
+        }
+        lines += whole.mid(line.textStart(), line.textLength());
+    }
+    layout.endLayout();
+    return lines;
 }
 
 bool HElidedLabel::event(QEvent *event)
@@ -41,7 +73,7 @@ bool HElidedLabel::event(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
     QStringList parts;
-    if (elided() != text())
+    if (linesIn(room().width()).join(QString()) != text())
         parts += text();
     if (!toolTip().isEmpty())
         parts += toolTip();
@@ -56,7 +88,6 @@ void HElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     style()->drawItemText(&painter, room(),
-                          int(QStyle::visualAlignment(layoutDirection(), alignment())) |
-                              Qt::TextSingleLine,
-                          palette(), isEnabled(), elided(), foregroundRole());
+                          int(QStyle::visualAlignment(layoutDirection(), alignment())), palette(),
+                          isEnabled(), linesIn(room().width()).join(u'\n'), foregroundRole());
 }

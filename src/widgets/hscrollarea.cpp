@@ -3,12 +3,36 @@
 
 #include "hscrollarea.h"
 
+#include <QFocusFrame>
 #include <QScreen>
 #include <QScrollBar>
 
 HScrollArea::HScrollArea(QWidget *parent) : QScrollArea(parent)
 {
     setWidgetResizable(true);
+}
+
+void HScrollArea::takeFocusToScroll()
+{
+    m_focusFrame = new QFocusFrame(this);
+    setFocusPolicy(Qt::NoFocus);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int from, int to) {
+        setFocusPolicy(to > from ? Qt::StrongFocus : Qt::NoFocus);
+    });
+}
+
+void HScrollArea::focusInEvent(QFocusEvent *event)
+{
+    QScrollArea::focusInEvent(event);
+    if (m_focusFrame)
+        m_focusFrame->setWidget(this);
+}
+
+void HScrollArea::focusOutEvent(QFocusEvent *event)
+{
+    QScrollArea::focusOutEvent(event);
+    if (m_focusFrame)
+        m_focusFrame->setWidget(nullptr);
 }
 
 QSize HScrollArea::sizeHint() const

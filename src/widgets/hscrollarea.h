@@ -5,6 +5,8 @@
 
 #include <QScrollArea>
 
+class QFocusFrame;
+
 // A scroll area whose widget takes the width there is, and that wants to be as large as its widget,
 // bars included, within the screen. Without a horizontal bar it is never narrower than its widget.
 class HScrollArea : public QScrollArea
@@ -14,6 +16,17 @@ class HScrollArea : public QScrollArea
 public:
     explicit HScrollArea(QWidget *parent = nullptr);
 
+    // Where nothing inside takes the focus: Tab reaches the area itself while there is something to
+    // scroll.
+    void takeFocusToScroll();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    QFocusFrame *m_focusFrame = nullptr;
 };
