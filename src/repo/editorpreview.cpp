@@ -98,6 +98,10 @@ void PreviewDialog::putChange(const YumConfIO::FileChange &change)
                          : tr("%1 is new").arg(path),
         Heading);
 
+    if (change.kept)
+        put(tr("Its present content is kept in %1.").arg(path + QStringLiteral(".vok-orig")),
+            Plain);
+
     const QStringList before = linesOf(change.before), after = linesOf(change.after);
     const QStringList oldShown = linesOf(maskOptionPasswords(change.before));
     const QStringList newShown = linesOf(maskOptionPasswords(change.after));

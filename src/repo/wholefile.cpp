@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr char copySuffix[] = ".vok-orig";
+
 // A descriptor that closes itself and leaves errno alone.
 class Descriptor
 {
@@ -184,9 +186,16 @@ bool WholeFile::read(const QByteArray &path, QByteArray &content)
     return true;
 }
 
+bool WholeFile::willKeep(const QByteArray &path)
+{
+    struct stat status;
+    return lstat(path.constData(), &status) == 0 && S_ISREG(status.st_mode) &&
+           lstat((path + copySuffix).constData(), &status) != 0;
+}
+
 bool WholeFile::keep(const QByteArray &path)
 {
-    const QByteArray original = path + ".vok-orig";
+    const QByteArray original = path + copySuffix;
     struct stat status;
     if (lstat(original.constData(), &status) == 0)
         return true;

@@ -21,9 +21,9 @@
 // Reads the main configuration file and every repository definition file, keeps the definitions as
 // a list, and writes an edited list back. The only one that touches these files.
 //
-// Options that it does not know are kept as lines. Each file is written beside its target and
-// renamed over it, so that at any moment it is whole; what a file held before the first write stays
-// beside it with the suffix ".vok-orig". Paths are those inside the system root. GUI thread only:
+// Options that it does not know are kept as lines. Each file whose bytes change is written beside
+// its target and renamed over it, so that at any moment it is whole; what a file held before the
+// first change stays beside it with the suffix ".vok-orig". Paths are those inside the system root. GUI thread only:
 // failures and questions are modal boxes.
 class YumConfIO : public QObject
 {
@@ -61,6 +61,7 @@ public:
         bool existed = false;
         bool removed = false;
         QString before, after;
+        bool kept = false; // whether the write makes the copy ".vok-orig"
     };
     struct Preview
     {

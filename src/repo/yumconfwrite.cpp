@@ -6,6 +6,7 @@
 #include "rootpath.h"
 #include "wholefile.h"
 #include "widgets/messagebox.h"
+#include "writeprogress.h"
 #include "yumio/passwordsintext.h"
 
 #include <QRegularExpression>
@@ -73,12 +74,15 @@ YumConfIO::Preview YumConfIO::preview()
                                  .arg(RootPath::shown(content.path));
         if (content.isChange())
             preview.changes.append({content.path, content.existed, false, toText(content.before),
-                                    toText(content.bytes)});
+                                    toText(content.bytes),
+                                    WholeFile::willKeep(RootPath::target(content.path))});
     }
     for (const QString &path : unusedFiles(plan.used, nullptr)) {
         QByteArray bytes;
+        const QByteArray removed = RootPath::entry(path);
         WholeFile::read(RootPath::target(path), bytes);
-        preview.changes.append({path, true, true, toText(bytes), QString()});
+        preview.changes.append(
+            {path, true, true, toText(bytes), QString(), WholeFile::willKeep(removed)});
     }
     return preview;
 }
@@ -115,10 +119,14 @@ bool YumConfIO::write(QWidget *parent)
 // False when it failed, which is shown with what is another file by then and what is not.
 bool YumConfIO::writeContents(const QList<FileContent> &contents)
 {
+    WriteProgress progress(m_parent, int(contents.size()));
     for (qsizetype at = 0; at < contents.size(); ++at) {
-        if (writeFile(contents.at(at)))
+        if (writeFile(contents.at(at))) {
+            progress.setDone(int(at + 1));
             continue;
+        }
         const int code = errno;
+        progress.end();
         QStringList written, unwritten;
         for (qsizetype i = 0; i < contents.size(); ++i) {
             const FileContent &content = contents.at(i);
@@ -271,9 +279,15 @@ QByteArray YumConfIO::bytesOf(const FileContent &content, bool latin1, bool bom)
     return bytes;
 }
 
+// A file that has these bytes already is left alone, and gets no copy.
 bool YumConfIO::writeFile(const FileContent &content)
 {
     const QByteArray target = RootPath::target(content.path);
+    QByteArray present; // which may be newer than what the plan saw
+    if (WholeFile::read(target, present) && present == content.bytes) {
+        m_files.insert(content.path, content.state);
+        return true;
+    }
     const bool secret = content.state.secret;
     const mode_t taken = secret && !m_files.value(content.path).secret ? S_IRWXO : 0;
     // A directory that is read may not be there before it holds something.
@@ -352,9 +366,14 @@ bool YumConfIO::removeUnusedFiles(const QSet<QString> &usedFiles)
 {
     bool failed = false;
     QStringList unused = unusedFiles(usedFiles, &failed);
+    const auto count = int(unused.size());
+    WriteProgress progress(m_parent, count);
     while (!unused.isEmpty()) {
         const QString path = unused.first();
         if (!WholeFile::remove(RootPath::entry(path))) {
+            const int code = errno;
+            progress.end();
+            errno = code;
             error(
                 tr("Unable to unlink repository configuration file %1").arg(path),
                 listed(tr("Everything was written, but these files are not removed, and what they "
@@ -364,6 +383,7 @@ bool YumConfIO::removeUnusedFiles(const QSet<QString> &usedFiles)
         }
         m_files.remove(path);
         unused.removeFirst();
+        progress.setDone(count - int(unused.size()));
     }
     return !failed;
 }

@@ -57,8 +57,9 @@ void TestRoundTrip::published()
         const QByteArray &bytes = file.value();
         const bool atOnce = bytes.startsWith('[');
         QVERIFY2(counts[path] == bytes.count("\n[") + atOnce, qPrintable(path));
-        QVERIFY2(root.get(path + u".vok-orig"_s) == bytes, qPrintable(path));
         first[path] = root.get(path);
+        const QByteArray kept = first[path] == bytes ? QByteArray("(none)") : bytes;
+        QVERIFY2(root.get(path + u".vok-orig"_s) == kept, qPrintable(path));
 
         // Every line of a section is still there, in the words of the file.
         QList<QByteArray> written;
