@@ -55,6 +55,8 @@ void MainWindow::showReplacements()
         lines.append(m_replacements.value(row));
     if (lines.size() < rows.size())
         lines.append(tr("%1 more").arg(rows.size() - lines.size()));
+    // Who may mark and not apply is not asked to.
+    const bool canApply = m_yumIO->missingRights().packages.isEmpty();
     m_notices->setNotice(
         NoticeRow::Replacements,
         tr("%Ln package(s) would replace installed ones of other names.", nullptr,
@@ -62,7 +64,7 @@ void MainWindow::showReplacements()
         tr("An upgrade by DNF would install them. They are no updates, so \"Set Update of Listed\" "
            "passes them over.") +
             QStringLiteral("\n\n") + lines.join(u'\n'),
-        tr("Mark for Installation"), [this] { markReplacements(); });
+        canApply ? tr("Mark for Installation") : QString(), [this] { markReplacements(); });
 }
 
 void MainWindow::markReplacements()

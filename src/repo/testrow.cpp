@@ -41,6 +41,17 @@ bool isFound(const RepoAnswer &answer)
     return isGood(answer) || answer.kind == RepoAnswer::Kind::Nothing;
 }
 
+// Whether a server answered something else to a URL with the path in its query. librepo puts the path
+// of a file in front of the query.
+bool isAnswerToQuery(const RepoAnswer &answer)
+{
+    using enum RepoAnswer::Kind;
+    return (answer.kind == Missing || answer.kind == Password || answer.kind == Nothing ||
+            answer.kind == Other) &&
+           answer.url.contains(QLatin1String("/kivvet?")) &&
+           answer.url.contains(QLatin1String("&path="));
+}
+
 } // namespace
 
 TestRow::TestRow(QWidget *parent) : QWidget(parent)
@@ -134,6 +145,10 @@ void TestRow::showAnswers(const QList<RepoAnswer> &answers, bool hasPassword)
         lines += textOf(answer, hasPassword);
         if (!answer.detail.isEmpty() && !isDefinition(answer))
             lines += QStringLiteral("    ") + answer.detail;
+        if (isAnswerToQuery(answer))
+            lines += QStringLiteral("    ") +
+                     tr("DNF inserts the path of a file before the \"?\" of this URL.  It cannot "
+                        "use a server that expects that path in the query.");
     }
     showResult(lines.join(u'\n'), complete  ? Colors::makeOK(palette())
                                   : reached ? Colors::makeWarning(palette())
