@@ -1994,12 +1994,6 @@ in einer Konfigurationsdatei mit mehreren Paketquellen richtet</translation>
         <translation>&amp;OK</translation>
     </message>
     <message>
-        <source>Nothing can be applied, because these files cannot be read:
-%1</source>
-        <translation>Es kann nichts angewendet werden, weil diese Dateien nicht lesbar sind:
-%1</translation>
-    </message>
-    <message>
         <source>Apply changes to all repository configurations, but do not close the window</source>
         <translation>Die Änderungen an allen Paketquellen anwenden, das Fenster aber nicht schließen</translation>
     </message>
@@ -2021,10 +2015,6 @@ in einer Konfigurationsdatei mit mehreren Paketquellen richtet</translation>
             <numerusform>%1: %n entfernt</numerusform>
             <numerusform>%1: %n entfernt</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Some files cannot be read, so nothing can be applied</source>
-        <translation>Einige Dateien sind nicht lesbar, daher kann nichts angewendet werden</translation>
     </message>
     <message>
         <source>Discard the changes to the repository configurations?</source>
@@ -2049,8 +2039,34 @@ Add makes the first one.</source>
         <translation>Keine Paketquelle hat „%1“ in Kennung, Name oder URLs.</translation>
     </message>
     <message>
-        <source>For looking only: nothing can be applied</source>
-        <translation>Nur zum Ansehen: Nichts kann angewendet werden</translation>
+        <source>Discard the changes to which repositories this session uses?</source>
+        <translation>Änderungen an den in dieser Sitzung verwendeten Paketquellen verwerfen?</translation>
+    </message>
+    <message>
+        <source>Apply the changes to this session, but do not close the window</source>
+        <translation>Änderungen an dieser Sitzung anwenden, das Fenster aber nicht schließen</translation>
+    </message>
+    <message>
+        <source>Apply the changes to this session, and close the window</source>
+        <translation>Änderungen an dieser Sitzung anwenden und das Fenster schließen</translation>
+    </message>
+    <message>
+        <source>Unapplied Session Changes</source>
+        <translation>Änderungen der Sitzung noch nicht angewendet</translation>
+    </message>
+    <message>
+        <source>Read-only: the configuration cannot be changed</source>
+        <translation>Nur Lesezugriff: Die Konfiguration kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>Some files cannot be read, so nothing can be written</source>
+        <translation>Einige Dateien sind nicht lesbar, daher kann nichts geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Nothing can be written, because these files cannot be read:
+%1</source>
+        <translation>Es kann nichts geschrieben werden, weil diese Dateien nicht lesbar sind:
+%1</translation>
     </message>
 </context>
 <context>
@@ -2145,6 +2161,10 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
     <message>
         <source>%1  (another password)</source>
         <translation>%1  (ein anderes Passwort)</translation>
+    </message>
+    <message>
+        <source>Its present content is kept in %1.</source>
+        <translation>Der jetzige Inhalt bleibt in %1 erhalten.</translation>
     </message>
 </context>
 <context>
@@ -2260,6 +2280,10 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
         <source>%1 cannot be read.</source>
         <translation>%1 ist nicht lesbar.</translation>
     </message>
+    <message>
+        <source>DNF inserts the path of a file before the &quot;?&quot; of this URL.  It cannot use a server that expects that path in the query.</source>
+        <translation>DNF fügt den Pfad einer Datei vor dem „?“ dieser URL ein.  Ein Server, der diesen Pfad in der Abfrage erwartet, lässt sich nicht verwenden.</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::View</name>
@@ -2298,6 +2322,17 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
 %1
 
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>WriteProgress</name>
+    <message>
+        <source>Writing the repository files...</source>
+        <translation>Die Dateien der Paketquellen werden geschrieben...</translation>
+    </message>
+    <message>
+        <source>VOK Repository Configuration Editor</source>
+        <translation>VOK – Paketquellen einrichten</translation>
     </message>
 </context>
 <context>

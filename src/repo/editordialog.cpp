@@ -3,7 +3,6 @@
 
 #include "editordialog.h"
 
-#include "app/colors.h"
 #include "configdialog.h"
 #include "editormenu.h"
 #include "editormodel.h"
@@ -11,7 +10,6 @@
 #include "editorproxy.h"
 #include "editorview.h"
 #include "repobrowse.h"
-#include "widgets/explaindisabled.h"
 #include "widgets/hframelabel.h"
 #include "widgets/messagebox.h"
 #include "yumconfio.h"
@@ -35,6 +33,7 @@ namespace RepoEditor {
 
 namespace {
 
+constexpr int statusLines = 3;
 const QString geometryKey = QStringLiteral("repoEditor/geometry");
 
 QSettings settings()
@@ -157,7 +156,9 @@ QHBoxLayout *Dialog::createLowerRow()
     auto *row = new QHBoxLayout;
     m_status = new HFrameLabel(this);
     m_status->setObjectName(QStringLiteral("status"));
-    // Room for the usual texts; a long identifier in another must not widen the window.
+    // Room for the usual texts; a long identifier in another takes more lines and must not widen
+    // the window.
+    m_status->setMaximumLines(statusLines);
     m_status->setText(unappliedText(99));
     m_status->setMinimumWidth(m_status->sizeHint().width());
     m_status->clear();
@@ -190,19 +191,20 @@ int Dialog::exec()
 bool Dialog::start()
 {
     m_dropped = false;
-    m_usedBefore = m_yumConfIO->reposUsed;
     const bool read = m_yumConfIO->read(this);
+    m_usedBefore = m_yumConfIO->reposUsed;
     m_model->reset();
     if (!read)
         return false;
     m_filter->clear();
+    m_view->setFocus(); // not the button that closed it the last time
     m_view->horizontalHeader()->setSortIndicator(NameColumn, Qt::DescendingOrder);
     m_view->HTableView::sortByColumn(IdColumn);
     if (std::exchange(m_hasGeometry, true))
         m_view->sizeColumnsToContents();
     else
         m_view->resizeColumnsToContents();
-    m_sessionChanged = m_applied = false;
+    m_applied = false;
     setConfigHasChanged(false);
     setEntryHasChanged(false);
     currentChanged(-1, -1);
@@ -226,7 +228,7 @@ void Dialog::setVisible(bool visible)
     }
     settings().setValue(geometryKey, saveGeometry());
     HDialog::setVisible(false);
-    if (!m_dropped && (m_applied || m_sessionChanged || changed()))
+    if (!m_dropped && (m_applied || hasSessionChanged() || changed()))
         Q_EMIT reposChanged();
 }
 
@@ -254,17 +256,9 @@ void Dialog::currentChanged(int current, int)
     updateStatusLabel();
 }
 
-// Before buttons are disabled: the focus goes to the table, not on to the button behind.
-void Dialog::releaseFocus(const QList<QPushButton *> &buttons)
-{
-    if (std::any_of(buttons.begin(), buttons.end(),
-                    [](const QPushButton *button) { return button->hasFocus(); }))
-        m_view->setFocus();
-}
-
 void Dialog::useChanged()
 {
-    m_sessionChanged = true;
+    updateButtons();
 }
 
 void Dialog::configChanged()
@@ -282,84 +276,6 @@ void Dialog::setConfigHasChanged(bool flag)
 {
     m_configHasChanged = flag;
     updateButtons();
-}
-
-void Dialog::updateButtons()
-{
-    const QString lookOnly = m_yumConfIO->lookOnly();
-    const QString reason =
-        !lookOnly.isEmpty() || m_yumConfIO->unreadable().isEmpty()
-            ? lookOnly
-            : tr("Nothing can be applied, because these files cannot be read:\n%1")
-                  .arg(m_yumConfIO->unreadable().join(u'\n'));
-    const bool canApply = reason.isEmpty();
-    m_addButton->setEnabled(lookOnly.isEmpty());
-    for (QPushButton *button : {m_addButton, m_copyButton, m_removeButton})
-        explainDisabled(button, lookOnly);
-    if (!isUnapplied())
-        releaseFocus({m_previewButton, m_resetAllButton, m_applyButton});
-    m_resetAllButton->setEnabled(isUnapplied());
-    m_previewButton->setEnabled(isUnapplied());
-    m_applyButton->setEnabled(isUnapplied() && canApply);
-    m_applyButton->setToolTip(
-        canApply ? tr("Apply changes to all repository configurations, but do not close the window")
-                 : reason);
-    // Without changes it writes nothing.
-    m_okButton->setEnabled(canApply || (lookOnly.isEmpty() && !isUnapplied()));
-    m_okButton->setToolTip(
-        canApply ? tr("Apply changes to all repository configurations, and close the window")
-                 : reason);
-    if (!isUnapplied())
-        m_removed = 0;
-    updateStatusLabel();
-}
-
-bool Dialog::hasEmptyId() const
-{
-    const auto &repos = std::as_const(m_yumConfIO->repos);
-    return std::any_of(repos.begin(), repos.end(),
-                       [](const Repo::Entry &entry) { return entry.id.isEmpty(); });
-}
-
-// The first identifier that a later repository has too.
-QString Dialog::getDuplicateId() const
-{
-    const auto &repos = std::as_const(m_yumConfIO->repos);
-    QHash<QString, int> count;
-    for (const Repo::Entry &entry : repos)
-        ++count[entry.id];
-    const auto found = std::find_if(repos.begin(), repos.end(), [&](const Repo::Entry &entry) {
-        return count.value(entry.id) > 1;
-    });
-    return found == repos.end() ? QString() : found->id;
-}
-
-QString Dialog::unappliedText(int removed)
-{
-    const QString text = tr("Unapplied Configuration Changes");
-    return removed > 0 ? tr("%1: %n removed", nullptr, removed).arg(text) : text;
-}
-
-void Dialog::updateStatusLabel()
-{
-    QString text;
-    if (hasEmptyId()) {
-        m_status->setPalette(Colors::makeError(m_status->palette()));
-        text = tr("A repository has no Identifier");
-    } else if (const QString id = getDuplicateId(); !id.isEmpty()) {
-        m_status->setPalette(Colors::makeError(m_status->palette()));
-        text = tr("Two or more repositories have the Identifier, %1").arg(id);
-    } else if (isUnapplied()) {
-        m_status->setPalette(Colors::makeOK(m_status->palette()));
-        text = unappliedText(m_removed);
-    } else if (!m_yumConfIO->lookOnly().isEmpty()) {
-        m_status->setPalette(Colors::makeWarning(m_status->palette()));
-        text = tr("For looking only: nothing can be applied");
-    } else if (!m_yumConfIO->unreadable().isEmpty()) {
-        m_status->setPalette(Colors::makeWarning(m_status->palette()));
-        text = tr("Some files cannot be read, so nothing can be applied");
-    }
-    m_status->setText(text);
 }
 
 void Dialog::browse()
@@ -452,10 +368,10 @@ void Dialog::resetAll()
     const QString id = row == -1 ? QString() : m_model->entry(row).id;
     m_yumConfIO->reposUsed = m_usedBefore;
     m_yumConfIO->read(this);
+    m_usedBefore = m_yumConfIO->reposUsed; // with what is new in the files
     m_model->reset();
     if (row != -1)
         setEntryToOldId(id);
-    m_sessionChanged = false;
     setConfigHasChanged(false);
     setEntryHasChanged(false);
 }
@@ -469,14 +385,27 @@ void Dialog::cancel()
 
 void Dialog::reject()
 {
-    if (!isUnapplied() ||
+    if ((!isUnapplied() && !hasSessionChanged()) ||
         showMessageBox(QMessageBox::Question, this, windowTitle(),
-                       tr("Discard the changes to the repository configurations?"), tr("&Discard"),
-                       tr("&Keep Editing"), QString(), 1, 1) == 0)
+                       isUnapplied()
+                           ? tr("Discard the changes to the repository configurations?")
+                           : tr("Discard the changes to which repositories this session uses?"),
+                       tr("&Discard"), tr("&Keep Editing"), QString(), 1, 1) == 0)
         cancel();
 }
 
 bool Dialog::apply()
+{
+    if (isUnapplied() && !writeFiles())
+        return false;
+    m_usedBefore = m_yumConfIO->reposUsed;
+    setConfigHasChanged(false);
+    setEntryHasChanged(false);
+    m_applied = true;
+    return true;
+}
+
+bool Dialog::writeFiles()
 {
     const bool hadCurrent = m_view->currentRow() != -1;
     if (!m_yumConfIO->write(this))
@@ -484,12 +413,10 @@ bool Dialog::apply()
     m_model->reset();
     if (hadCurrent)
         setEntryToOldId(QString());
-    setConfigHasChanged(false);
-    setEntryHasChanged(false);
-    m_applied = true;
     return true;
 }
 
+// Changes of the session alone hold already, and write nothing.
 void Dialog::ok()
 {
     if (!isUnapplied() || apply())

@@ -24,7 +24,8 @@ class SortFilterProxyModel;
 class View;
 
 // Edits the list of all repositories. Changes stay in the reader's list until Apply or OK writes
-// them; whether a repository is used in this session holds at once, until Cancel takes it back.
+// them. Which repositories this session uses is changed at once, and written nowhere; Cancel and
+// Reset All restore what it was at the last Apply.
 class Dialog : public HDialog
 {
     Q_OBJECT
@@ -77,7 +78,11 @@ private:
     void recallGeometry();
     bool start();
     void releaseFocus(const QList<QPushButton *> &buttons);
+    // Of what would be written.
     bool isUnapplied() const { return m_entryHasChanged || m_configHasChanged; }
+    // Since it was last applied.
+    bool hasSessionChanged() const;
+    bool writeFiles();
     void addEntry(Repo::Entry entry);
     bool hasEmptyId() const;
     QString getDuplicateId() const;
@@ -107,8 +112,7 @@ private:
     HFrameLabel *m_status = nullptr;
     ConfigDialog *m_configDialog;
 
-    QHash<QString, bool> m_usedBefore; // when the dialog was shown
-    bool m_sessionChanged = false;
+    QHash<QString, bool> m_usedBefore; // when the dialog was shown, or at the last Apply
     bool m_entryHasChanged = false;
     bool m_configHasChanged = false;
     bool m_applied = false;

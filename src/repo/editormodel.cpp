@@ -98,7 +98,9 @@ QVariant Model::toolTip(const QModelIndex &index) const
     else
         return {};
     const QString lookOnly = m_yumConfIO->lookOnly();
-    return lookOnly.isEmpty() ? text : text + QStringLiteral("\n\n") + lookOnly;
+    return lookOnly.isEmpty() || index.column() == SessColumn
+               ? text
+               : text + QStringLiteral("\n\n") + lookOnly;
 }
 
 QVariant Model::headerData(int section, Qt::Orientation orientation, int role) const
@@ -155,15 +157,22 @@ QModelIndex Model::createIndex(int row) const
     return HAbstractTableModel::createIndex(row, 0);
 }
 
+// It is written nowhere, so it needs no right to write.
 void Model::toggleUse(const QModelIndex &index)
 {
-    if (!has(index) || !m_yumConfIO->lookOnly().isEmpty())
+    if (!has(index))
         return;
     bool &used = m_yumConfIO->reposUsed[entry(index.row()).id];
     used = !used;
-    const QModelIndex cell = index.siblingAtColumn(SessColumn);
-    Q_EMIT dataChanged(cell, cell);
+    announceUse();
     Q_EMIT useChanged();
+}
+
+// Of all rows: an identifier may be repeated.
+void Model::announceUse()
+{
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, SessColumn), index(rowCount() - 1, SessColumn));
 }
 
 void Model::toggleEnabled(const QModelIndex &index)
@@ -186,6 +195,7 @@ void Model::browse(const QModelIndex &index, QWidget *parent)
 void Model::dataChanged(int row)
 {
     Q_EMIT dataChanged(createIndex(row), index(row, ColumnCount - 1));
+    announceUse();
 }
 
 } // namespace RepoEditor

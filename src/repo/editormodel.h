@@ -66,6 +66,7 @@ private:
     bool has(const QModelIndex &index) const;
     QVariant toolTip(const QModelIndex &index) const;
     bool isUsed(const QModelIndex &index) const;
+    void announceUse();
 
     YumIO *m_yumIO;
     YumConfIO *m_yumConfIO;

@@ -164,21 +164,43 @@ private Q_SLOTS:
                               editor.view->visualRect(editor.view->model()->index(0, 0)).center());
             return root.used.value(u"a"_s);
         };
+        const QByteArray untidy = "[a]\n\n";
+        root.put(root.repo(u"a"_s), untidy);
         QVERIFY(!toggle());
+        QCOMPARE(editor.status(), u"Unapplied Session Changes"_s);
         editor.press("okButton");
         QCOMPARE(changed.size(), 1);
-        QVERIFY(!root.has(root.mainFile() + u".vok-orig"_s)); // nothing was written
+        editor.dialog.show();
+
+        // What was applied stays, and writes nothing; the rest is asked for and taken back.
+        QVERIFY(toggle() && !toggle());
+        QCOMPARE(editor.status(), QString());
+        QVERIFY(toggle());
+        editor.press("applyButton");
+        QCOMPARE(editor.status(), QString());
+        QVERIFY(!toggle());
+        editor.press("resetAllButton");
+        QVERIFY(root.used.value(u"a"_s) && !toggle());
+        Answer keepThenDiscard(QList<int>{1, 0});
+        QTest::keyClick(&editor.dialog, Qt::Key_Escape);
+        QVERIFY(editor.dialog.isVisible() && !root.used.value(u"a"_s));
+        QTest::keyClick(&editor.dialog, Qt::Key_Escape);
+        QVERIFY(changed.size() == 2 && root.used.value(u"a"_s));
+        QCOMPARE(root.get(root.repo(u"a"_s)), untidy);
+
+        root.used.insert(u"a"_s, false);
         editor.dialog.show();
         QVERIFY(toggle());
         editor.press("cancelButton");
-        QVERIFY(changed.size() == 1 && !root.used.value(u"a"_s));
+        QVERIFY(changed.size() == 2 && !root.used.value(u"a"_s));
         editor.dialog.show();
         QVERIFY(toggle());
         editor.dialog.drop();
-        QVERIFY(changed.size() == 1 && !editor.dialog.isVisible());
+        QVERIFY(changed.size() == 2 && !editor.dialog.isVisible());
     }
 
-    // Who may not write sees everything, the form too, and can change nothing.
+    // Who may not write sees everything, the form too, and can change only what is used in this
+    // session.
     void looksOnly()
     {
         ConfigRoot root;
@@ -188,9 +210,10 @@ private Q_SLOTS:
         editor.keys({Qt::Key_Home, Qt::Key_Space, Qt::Key_Right, Qt::Key_Space, Qt::Key_Delete,
                      Qt::Key_Insert});
         QCOMPARE(editor.shown(), QStringList{u"a"_s});
-        QVERIFY(root.used.value(u"a"_s) && root.entry(u"a"_s).enabled == Qt::PartiallyChecked);
-        for (const char *name :
-             {"addButton", "copyButton", "removeButton", "applyButton", "okButton"}) {
+        QVERIFY(!root.used.value(u"a"_s) && root.entry(u"a"_s).enabled == Qt::PartiallyChecked);
+        editor.press("applyButton");
+        QVERIFY(editor.dialog.findChild<QPushButton *>(u"okButton"_s)->isEnabled());
+        for (const char *name : {"addButton", "copyButton", "removeButton", "applyButton"}) {
             const auto *button = editor.dialog.findChild<QPushButton *>(QLatin1String(name));
             QVERIFY2(!button->isEnabled() && button->toolTip() == u"why"_s, name);
         }
