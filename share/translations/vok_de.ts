@@ -2281,8 +2281,8 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
         <translation>%1 ist nicht lesbar.</translation>
     </message>
     <message>
-        <source>DNF inserts the path of a file before the &quot;?&quot; of this URL.  It cannot use a server that expects that path in the query.</source>
-        <translation>DNF fügt den Pfad einer Datei vor dem „?“ dieser URL ein.  Ein Server, der diesen Pfad in der Abfrage erwartet, lässt sich nicht verwenden.</translation>
+        <source>DNF inserts the path of a file before the &quot;?&quot; of a URL.  It cannot use a server that expects that path in the query.</source>
+        <translation>DNF fügt den Pfad einer Datei vor dem „?“ einer URL ein.  Ein Server, der diesen Pfad in der Abfrage erwartet, lässt sich nicht verwenden.</translation>
     </message>
 </context>
 <context>

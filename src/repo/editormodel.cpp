@@ -162,17 +162,21 @@ void Model::toggleUse(const QModelIndex &index)
 {
     if (!has(index))
         return;
-    bool &used = m_yumConfIO->reposUsed[entry(index.row()).id];
+    const QString id = entry(index.row()).id;
+    bool &used = m_yumConfIO->reposUsed[id];
     used = !used;
-    announceUse();
+    announceUse(id);
     Q_EMIT useChanged();
 }
 
-// Of all rows: an identifier may be repeated.
-void Model::announceUse()
+// An identifier may be repeated.
+void Model::announceUse(const QString &id)
 {
-    if (rowCount() > 0)
-        Q_EMIT dataChanged(index(0, SessColumn), index(rowCount() - 1, SessColumn));
+    for (int row = 0; row < rowCount(); ++row) {
+        const QModelIndex cell = index(row, SessColumn);
+        if (entry(row).id == id)
+            Q_EMIT dataChanged(cell, cell);
+    }
 }
 
 void Model::toggleEnabled(const QModelIndex &index)
@@ -195,7 +199,7 @@ void Model::browse(const QModelIndex &index, QWidget *parent)
 void Model::dataChanged(int row)
 {
     Q_EMIT dataChanged(createIndex(row), index(row, ColumnCount - 1));
-    announceUse();
+    announceUse(entry(row).id);
 }
 
 } // namespace RepoEditor

@@ -66,7 +66,7 @@ private:
     bool has(const QModelIndex &index) const;
     QVariant toolTip(const QModelIndex &index) const;
     bool isUsed(const QModelIndex &index) const;
-    void announceUse();
+    void announceUse(const QString &id);
 
     YumIO *m_yumIO;
     YumConfIO *m_yumConfIO;

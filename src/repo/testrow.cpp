@@ -141,14 +141,13 @@ void TestRow::showAnswers(const QList<RepoAnswer> &answers, bool hasPassword)
         lines += tr("The repository can be reached.");
     else if (!isDefinition(answers.last())) // of that, what follows is all there is to say
         lines += tr("The repository cannot be reached.");
+    if (std::any_of(answers.begin(), answers.end(), isAnswerToQuery))
+        lines += tr("DNF inserts the path of a file before the \"?\" of a URL.  It cannot use a "
+                    "server that expects that path in the query.");
     for (const RepoAnswer &answer : answers) {
         lines += textOf(answer, hasPassword);
         if (!answer.detail.isEmpty() && !isDefinition(answer))
             lines += QStringLiteral("    ") + answer.detail;
-        if (isAnswerToQuery(answer))
-            lines += QStringLiteral("    ") +
-                     tr("DNF inserts the path of a file before the \"?\" of this URL.  It cannot "
-                        "use a server that expects that path in the query.");
     }
     showResult(lines.join(u'\n'), complete  ? Colors::makeOK(palette())
                                   : reached ? Colors::makeWarning(palette())
