@@ -98,9 +98,8 @@ void PreviewDialog::putChange(const YumConfIO::FileChange &change)
                          : tr("%1 is new").arg(path),
         Heading);
 
-    if (change.kept)
-        put(tr("Its present content is kept in %1.").arg(path + QStringLiteral(".vok-orig")),
-            Plain);
+    if (!change.copy.isEmpty())
+        put(tr("Its present content is kept in %1.").arg(RootPath::shown(change.copy)), Plain);
 
     const QStringList before = linesOf(change.before), after = linesOf(change.after);
     const QStringList oldShown = linesOf(maskOptionPasswords(change.before));

@@ -41,8 +41,8 @@ bool isFound(const RepoAnswer &answer)
     return isGood(answer) || answer.kind == RepoAnswer::Kind::Nothing;
 }
 
-// Whether a server answered something else to a URL with the path in its query. librepo puts the path
-// of a file in front of the query.
+// Whether a server answered something else to a URL with the path in its query. librepo puts the
+// path of a file in front of the query.
 bool isAnswerToQuery(const RepoAnswer &answer)
 {
     using enum RepoAnswer::Kind;

@@ -186,11 +186,13 @@ bool WholeFile::read(const QByteArray &path, QByteArray &content)
     return true;
 }
 
-bool WholeFile::willKeep(const QByteArray &path)
+QByteArray WholeFile::missingCopy(const QByteArray &path)
 {
+    const QByteArray copy = path + copySuffix;
     struct stat status;
-    return lstat(path.constData(), &status) == 0 && S_ISREG(status.st_mode) &&
-           lstat((path + copySuffix).constData(), &status) != 0;
+    const bool isMissing = lstat(path.constData(), &status) == 0 && S_ISREG(status.st_mode) &&
+                           lstat(copy.constData(), &status) != 0;
+    return isMissing ? copy : QByteArray();
 }
 
 bool WholeFile::keep(const QByteArray &path)

@@ -23,8 +23,8 @@ bool remove(const QByteArray &path);
 // Sees to it that the content of `path` from before the first change stays beside it, under the
 // same rights, with the suffix ".vok-orig".
 bool keep(const QByteArray &path);
-// Whether keep() would make that copy: the file exists and has none.
-bool willKeep(const QByteArray &path);
+// The path of the copy that keep() would make; empty when there is one already, or nothing to copy.
+QByteArray missingCopy(const QByteArray &path);
 
 // Reads a regular file whole. Never waits: anything else is ENOTSUP or EISDIR.
 bool read(const QByteArray &path, QByteArray &content);

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QPointer>
 
 #include <memory>
 
@@ -17,7 +16,7 @@ class QWidget;
 class WriteProgress
 {
 public:
-    // `count`: of files. The parent may be null.
+    // `count`: of files. The parent may be null, and must outlive this object.
     WriteProgress(QWidget *parent, int count);
     ~WriteProgress();
 
@@ -27,7 +26,7 @@ public:
     void end();
 
 private:
-    QPointer<QWidget> m_parent;
+    QWidget *m_parent;
     int m_count;
     QElapsedTimer m_since;
     std::unique_ptr<QProgressDialog> m_dialog;

@@ -23,8 +23,8 @@
 //
 // Options that it does not know are kept as lines. Each file whose bytes change is written beside
 // its target and renamed over it, so that at any moment it is whole; what a file held before the
-// first change stays beside it with the suffix ".vok-orig". Paths are those inside the system root. GUI thread only:
-// failures and questions are modal boxes.
+// first change stays beside it with the suffix ".vok-orig". Paths are those inside the system root.
+// GUI thread only: failures and questions are modal boxes.
 class YumConfIO : public QObject
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ public:
         bool existed = false;
         bool removed = false;
         QString before, after;
-        bool kept = false; // whether the write makes the copy ".vok-orig"
+        QString copy = {}; // of what it holds now, when the write makes one
     };
     struct Preview
     {

@@ -3,6 +3,7 @@
 
 #include "yumconfio.h"
 
+#include "app/sysroot.h"
 #include "rootpath.h"
 #include "wholefile.h"
 #include "widgets/messagebox.h"
@@ -34,6 +35,12 @@ bool fitsLatin1(const Repo::Entry &entry)
 QString listed(const QString &heading, const QStringList &paths)
 {
     return paths.isEmpty() ? QString() : heading + QLatin1Char('\n') + paths.join(u'\n');
+}
+
+// The copy that the write would make of a file, as a path inside the root.
+QString copyOf(const QByteArray &file)
+{
+    return RootPath::toText(WholeFile::missingCopy(file)).mid(SysRoot::prefix().size());
 }
 
 } // namespace
@@ -74,15 +81,13 @@ YumConfIO::Preview YumConfIO::preview()
                                  .arg(RootPath::shown(content.path));
         if (content.isChange())
             preview.changes.append({content.path, content.existed, false, toText(content.before),
-                                    toText(content.bytes),
-                                    WholeFile::willKeep(RootPath::target(content.path))});
+                                    toText(content.bytes), copyOf(RootPath::target(content.path))});
     }
     for (const QString &path : unusedFiles(plan.used, nullptr)) {
         QByteArray bytes;
         const QByteArray removed = RootPath::entry(path);
         WholeFile::read(RootPath::target(path), bytes);
-        preview.changes.append(
-            {path, true, true, toText(bytes), QString(), WholeFile::willKeep(removed)});
+        preview.changes.append({path, true, true, toText(bytes), QString(), copyOf(removed)});
     }
     return preview;
 }

@@ -5,8 +5,8 @@
 
 #include <QLabel>
 
-// A plain text on one line, or on a few, cut where it does not fit; then the tool tip begins with the
-// whole. The tip is plain text, too.
+// A plain text on one line, or on a few, cut where it does not fit; then the tool tip begins with
+// the whole. The tip is plain text, too.
 class HElidedLabel : public QLabel
 {
     Q_OBJECT

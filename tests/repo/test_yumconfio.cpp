@@ -204,6 +204,14 @@ private Q_SLOTS:
         fresh.file = root.repo(u"a"_s);
         fresh.position = 1.5;
         root.io.repos += fresh;
+        QStringList copies;
+        for (const YumConfIO::FileChange &change : root.io.preview().changes)
+            copies += change.copy;
+        copies.sort();
+        const QString dir = u"/etc/yum.repos.d/"_s;
+        QCOMPARE(copies,
+                 (QStringList{QString(), dir + u"a.repo.vok-orig"_s, dir + u"empty.repo.vok-orig"_s,
+                              dir + u"gone.repo.vok-orig"_s}));
         QVERIFY(root.io.write(nullptr));
 
         QCOMPARE(root.get(root.repo(u"a"_s)),
