@@ -20,6 +20,10 @@ UNRESOLVABLE = {
     "a protected package": ({"remove": ["vital"]}, ["vital, which is protected"]),
     "what a protected package needs": ({"remove": ["vital-libs"]}, ["vital, which is protected"]),
     "what would push a protected package out": ({"install": ["usurper"]}, ["vital"]),
+    "an excluded package that depends on a removal": (
+        {"remove": ["mail-alpha"]}, ["mail-reader-1.0-1.noarch needs mail-server", "exclude=mail-reader"]),
+    "the same beside an installation": ({"remove": ["notebook"], "install": ["abacus"]},
+                                        ["needs notebook", "exclude=office-suite"]),
 }
 WAYS_OUT = {
     "leaving out what is broken": ({"install": ["broken", "abacus"]}, "The rest can be done without:",
@@ -80,8 +84,15 @@ class Failures(Case):
         after = self.packages(root)
         return set(after - before), set(before - after)
 
+    @staticmethod
+    def configure(root, line):
+        """Puts a line at the end of the main section."""
+        with pathlib.Path(root, "etc/yum.conf").open("a") as main:
+            main.write(line + "\n")
+
     def test_unresolvable(self):
         root = self.root()
+        self.configure(root, "exclude=mail-reader office-suite")
         before = self.packages(root)
         steps = [dict(marks, do="apply") for marks, _ in UNRESOLVABLE.values()]
         result = run(root, {"steps": [{"do": "collect"}, *steps]})
@@ -97,8 +108,7 @@ class Failures(Case):
     def test_no_reason(self):
         """Where the solver knows none, the marks are named: here more kernels than may be kept."""
         root = self.root()
-        main = pathlib.Path(root, "etc/yum.conf")
-        main.write_text(main.read_text().replace("installonly_limit=3", "installonly_limit=2"))
+        self.configure(root, "installonly_limit=2")
         tool(root, "rpm", "-e", "kernel-6.1.0-1", "kernel-6.1.0-5")
         kernels = "io._session.sack.query().available().filter(name='kernel')"
         code = "io.apply([io._collected().package(one) for one in %s], [], [])" % kernels

@@ -53,11 +53,12 @@ TABLE = {
         ("kernel-6.1.0-1.x86_64", "kernel-6.1.0-5.x86_64", "libtwin-1.0-1.i686", "libtwin-1.0-1.x86_64",
          "stack-floor-1.0-1.noarch", "stack-roof-1.0-1.noarch", "stack-wall-1.0-1.noarch",
          "orphan-1.0-1.noarch", "orphan-notes-1.0-1.noarch", "markup-1.0-1.noarch"), ()),
-    "all three kinds, with a replacement, a downgrade and another provider": (
-        {"install": ["newname", "pins-old"], "update": ["clock"], "remove": ["mail-alpha"]},
-        {"installed": ["newname", "pins-old"], "updated": ["clock"], "removed": ["mail-alpha"],
+    "all three kinds, with a replacement, a downgrade, another provider and one of two architectures": (
+        {"install": ["newname", "pins-old"], "update": ["clock"], "remove": ["mail-alpha", "libtwin.x86_64"]},
+        {"installed": ["newname", "pins-old"], "updated": ["clock"], "removed": ["mail-alpha", "libtwin"],
          "obsoleted": ["oldname"], "depinstalled": ["libpin", "mail-beta"]},
-        ("oldname-1.0-1.noarch", "libpin-2.0-1.x86_64", "clock-1.0-1.x86_64", "mail-alpha-1.0-1.noarch"),
+        ("oldname-1.0-1.noarch", "libpin-2.0-1.x86_64", "clock-1.0-1.x86_64", "mail-alpha-1.0-1.noarch",
+         "libtwin-1.0-1.x86_64"),
         ("newname-2.0-1.noarch", "libpin-1.0-1.x86_64", "pins-old-1.0-1.noarch", "clock-1.0-2.x86_64",
          "mail-beta-1.0-1.noarch")),
     "scriptlets of the shell and in Lua, a trigger, one that reads, one that prints a lot": (
@@ -76,8 +77,9 @@ BESIDE_DNF = {
     "a mixed installation": ({"install": ["richly", "poster", "text-hebrew"]},
                              ["install", "richly", "poster", "text-hebrew"]),
     "every update": (None, ["upgrade", "--setopt=best=0"]),
-    "a deep removal": ({"remove": ["stack-ground", "calendar"]},
-                       ["remove", "--noautoremove", "stack-ground", "calendar"]),
+    "a deep removal, of one architecture and of one of two providers": (
+        {"remove": ["stack-ground", "libtwin.x86_64", "mail-alpha"]},
+        ["remove", "--noautoremove", "stack-ground", "libtwin.x86_64", "mail-alpha"]),
 }
 
 

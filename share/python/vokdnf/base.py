@@ -3,6 +3,7 @@
 
 """One session with DNF: configuration, repositories, package sack. A session runs one transaction."""
 
+import contextlib
 import os
 import weakref
 
@@ -28,6 +29,7 @@ class Base(dnf.Base):
     def __init__(self, conf):
         super().__init__(conf)
         self._reading = 0
+        self._read = []  # the repositories in the sack
         self._plugins = plugins.Plugins()
         self.apart = {}
         self.excluded = None  # query: what is installed and excluded
@@ -37,6 +39,7 @@ class Base(dnf.Base):
         enabled = sum(1 for _ in self.repos.iter_enabled())
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
         super()._add_repo_to_sack(repo)
+        self._read.append(repo.id)
         self._reading += 1
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
 
@@ -56,6 +59,20 @@ class Base(dnf.Base):
         if sources:
             sack.add_excludes(sources)
         return sack
+
+    @contextlib.contextmanager
+    def installed_alone(self):
+        """Inside the block the sack holds the installed packages alone, as it does for `dnf remove`. Excluding
+        the others would not be the same: the solver still compares the installed architectures with theirs.
+        A goal is filled, run, and asked for its problems on one side of the block's border: libsolv's jobs
+        point into an index that is built anew at each border."""
+        for name in self._read:
+            self.sack.disable_repo(name)
+        try:
+            yield
+        finally:
+            for name in self._read:
+                self.sack.enable_repo(name)
 
 
 def load(dnf_base):

@@ -3,6 +3,8 @@
 
 """From the user's marks to a resolved transaction, with questions where it cannot be had as marked."""
 
+import contextlib
+
 import dnf.exceptions
 import dnf.goal
 
@@ -35,12 +37,18 @@ class Marks:
 
 
 class Resolver:
-    """Resolves marks on a base. `group_members` are names that are wanted for their group's sake."""
+    """Resolves marks on a base. `group_members` are names that are wanted for their group's sake. Removals
+    alone are resolved against the installed packages alone; with other marks a substitute may be installed
+    for a package that is removed."""
 
     def __init__(self, base, marks, group_members=()):
         self._base = base
         self._marks = marks
         self._group_members = set(group_members)
+        self._erased = self._erased_with_removals()
+        self._twins = self._other_architectures()
+        self._spared = []    # excluded packages that removals would take along
+        self._problems = ()  # the solver's, of the last failure
 
     def resolve(self):
         """True when base.transaction holds what shall be done; False when the user was asked about a
@@ -52,24 +60,73 @@ class Resolver:
             return self._way_out(error, erasing)
         return self._accept_losses() if erasing and self._marks.wanted else True
 
+    def _erased_with_removals(self):
+        """The marked removals and what depends on them, by the installed packages alone."""
+        erased = set(self._marks.unwanted)
+        if erased and self._marks.wanted:
+            with self._base.installed_alone():
+                goal = dnf.goal.Goal(self._base.sack)
+                for pkg in erased:
+                    goal.erase(pkg)
+                if goal.run(allow_uninstall=True):
+                    erased.update(goal.list_erasures())
+        return erased
+
+    def _other_architectures(self):
+        """The installed packages that share a name with what the removals erase. While a package of the
+        better architecture is on offer, the solver would erase them too."""
+        if not self._marks.wanted:
+            return []
+        names = {pkg.name for pkg in self._erased}.difference(pkg.name for pkg in self._marks.wanted)
+        installed = self._base.sack.query().installed().filterm(name=list(names)) if names else ()
+        return [pkg for pkg in installed if pkg not in self._erased]
+
     def _attempt(self, strict, erasing):
+        self._spared = []
+        while True:
+            try:
+                self._solve(strict, erasing, self._twins)
+            except dnf.exceptions.DepsolveError:
+                if not self._twins:
+                    raise
+                self._solve(strict, erasing, ())
+            lost = {element.po.pkg for element in self._lost()} if erasing else set()
+            excluded = lost.intersection(self._base.excluded) if lost else ()
+            if not excluded:
+                return
+            self._spared += excluded
+
+    def _solve(self, strict, erasing, kept):
         base = self._base
-        base.reset(goal=True)
-        for pkg in self._marks.wanted:
-            base.package_install(pkg, strict=strict)
-        for pkg in self._marks.unwanted:
-            base.package_remove(pkg)
-        base._goal.group_members.update(self._group_members)
-        base._allow_erasing = erasing
-        base.resolve(allow_erasing=erasing)
+        with contextlib.nullcontext() if self._marks.wanted else base.installed_alone():
+            base.reset(goal=True)
+            for pkg in self._marks.wanted:
+                base.package_install(pkg, strict=strict)
+            for pkg in self._marks.unwanted:
+                base.package_remove(pkg)
+            for pkg in [*kept, *self._spared]:
+                base._goal.install(pkg)
+            base._goal.group_members.update(self._group_members)
+            base._allow_erasing = erasing
+            try:
+                base.resolve(allow_erasing=erasing)
+            except dnf.exceptions.DepsolveError:
+                self._problems = base._goal.problem_rules()
+                raise
 
     def _elements(self):
         return elements.of(self._base.transaction)
 
+    def _lost(self):
+        """The removals that nobody marked."""
+        return [element for element in self._elements() if element.action == Action.REMOVE
+                and element.envra not in self._marks.removes]
+
     def _way_out(self, error, erasing):
         """Looks for what can be done instead, and asks about it."""
-        problems = self._base._goal.problem_rules()
-        lines = explain.explain(problems, self._base, self._marks) if problems else [report.clean(error)]
+        lines = explain.explain(self._problems, self._base, self._marks) if self._problems \
+            else [report.clean(error)]
+        lines += explain.exclusions(self._spared, self._base)
         report.log(1, tr("The solver says:%s") % report.clean(error))
         errors.check_cancelled()
         offers = ([] if erasing else [self._offer_erasing]) + [self._offer_skipping]
@@ -92,7 +149,7 @@ class Resolver:
     def _offer_erasing(self, _):
         if not self._try(True, True):
             return None
-        lost = [element.po.pkg for element in self._elements() if element.action == Action.REMOVE]
+        lost = [element.po.pkg for element in self._lost()]
         return [tr("It can be done by removing:")] + _listed(lost) + [
             tr("Do it that way?")] if lost else None
 
@@ -106,22 +163,18 @@ class Resolver:
         return [tr("The rest can be done without:")] + _listed(left_out) + [tr("Do the rest?")]
 
     def _accept_losses(self):
-        """A removal may take what depends on it; what is marked for installation may not take anything
-        along without a question."""
-        goal = dnf.goal.Goal(self._base.sack)
-        for pkg in self._marks.unwanted:
-            goal.erase(pkg)
-        expected = set(self._marks.removes)
-        if goal.run(allow_uninstall=True):
-            expected.update(map(packages.envra, goal.list_erasures()))
-        # Of packages kept in several versions the oldest makes room for the new one.
+        """A removal may take what depends on it; what is installed, a substitute included, may not take
+        anything along without a question."""
         found = self._elements()
+        # Of packages kept in several versions the oldest makes room for the new one.
         names = {element.name for element in found if not element.erases}
-        lost = [element.po.pkg for element in found if element.action == Action.REMOVE
-                and element.envra not in expected and element.name not in names]
+        marked = self._marks.installs | self._marks.updates
+        lost = [element.po.pkg for element in found if element.po.pkg not in self._erased
+                and (element.action == Action.REMOVE and element.name not in names
+                     or element.action == Action.OBSOLETED and marked.isdisjoint(element.replaced_by))]
         if not lost:
             return True
-        return report.confirm([tr("What is marked for installation cannot be there together with:")]
+        return report.confirm([tr("What is to be installed cannot be there together with:")]
                               + _listed(lost) + [tr("Remove these too?")])
 
 
