@@ -44,9 +44,10 @@ PyObject *YumIO::userconfirm(PyObject *, PyObject *)
     m_apply.actPosition = 0;
     const bool isFinal = m_confirmation.listingShown;
     bool yes = false;
-    if (m_dialogs && isFinal)
+    const bool asks = m_dialogs && !m_cancelled;
+    if (asks && isFinal)
         yes = m_dialogs->confirm(tr("Apply"), m_confirmation.text, tr("OK"), tr("Cancel")) == 1;
-    else if (m_dialogs)
+    else if (asks)
         yes = m_dialogs->confirm(tr("Query"), m_confirmation.text, tr("Yes"), tr("No")) == 1;
 
     if (isFinal) {

@@ -186,6 +186,7 @@ class Failures(Case):
         for at, step, error in (("collectGrabMeterUpdate", 0, "CancelledRepoError"),
                                 ("collectProgress", 0, "CancelledError"),
                                 ("dsTsCheck", 1, "CancelledError"),
+                                ("reportDownloadSize", 1, "CancelledError"),
                                 ("applyGrabMeterUpdate", 1, "CancelledError")):
             with self.subTest(at):
                 root = self.root()
@@ -196,6 +197,7 @@ class Failures(Case):
                     result = run(root, {"cancelAt": at, "steps": [
                         {"do": "collect"}, {"do": "apply", "install": ["heavy"]}][:step + 1]})
                 self.assertEqual(result["errors"][step], [error, "Cancelled by the user"])
+                self.assertEqual(len(calls(result, "userconfirm")), at == "applyGrabMeterUpdate")
                 self.assertEqual(self.packages(root), before)
                 opened = calls(result, "applyGrabMultiMeterStart")
                 self.assertEqual(len(opened), len(calls(result, "applyGrabMultiMeterEnd")))

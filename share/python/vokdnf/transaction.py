@@ -75,6 +75,7 @@ class Transaction:
         report.yumIOC.reportDownloadSize([packages.Package(pkg) for pkg in install
                                           if not os.path.exists(pkg.localPkg())])
         self._tell_more(install)
+        errors.check_cancelled()
         if not report.yumIOC.userconfirm():
             return False
         report.job_state("download", True)
