@@ -3856,10 +3856,6 @@ Es wurde nichts geändert.</translation>
         <translation>Sie ist möglich, wenn entfernt wird:</translation>
     </message>
     <message>
-        <source>What is marked for installation cannot be there together with:</source>
-        <translation>Was zum Installieren vorgemerkt ist, verträgt sich nicht mit:</translation>
-    </message>
-    <message>
         <source>The transaction cannot be done as marked:</source>
         <translation>Die Transaktion ist so, wie sie vorgemerkt ist, nicht möglich:</translation>
     </message>
@@ -3918,6 +3914,18 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>Remove these too?</source>
         <translation>Auch diese entfernen?</translation>
+    </message>
+    <message>
+        <source>Another program has changed the installed packages.</source>
+        <translation>Ein anderes Programm hat die installierten Pakete verändert.</translation>
+    </message>
+    <message>
+        <source>An excluded package is removed only if it is marked for removal itself.</source>
+        <translation>Ein ausgeschlossenes Paket wird nur entfernt, wenn es selbst zum Entfernen vorgemerkt ist.</translation>
+    </message>
+    <message>
+        <source>The installations and updates would also remove:</source>
+        <translation>Die Installationen und Aktualisierungen würden auch entfernen:</translation>
     </message>
 </context>
 </TS>

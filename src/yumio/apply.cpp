@@ -83,7 +83,8 @@ void YumIO::callApply(PyObject *installs, PyObject *updates, PyObject *removes)
     commExceptSetup();
     const PyRef result(
         pyMethodCall(m_session.yumIO, "apply", "(O,O,O)", installs, updates, removes));
-    const bool raised = commExceptRaised(result.get(), tr("apply changes"));
+    const bool raised =
+        (!result && failedOutdated()) || commExceptRaised(result.get(), tr("apply changes"));
     pyExceptClear();
     showHeldReports();
     if (raised || !result) {

@@ -68,6 +68,24 @@ bool YumIO::outdated(QStringList *changes) const
     return !m_session.changes.isEmpty();
 }
 
+// Whether the apply whose exception is pending failed after another program had changed the packages.
+// The question about that takes the place of a report.
+bool YumIO::failedOutdated()
+{
+    if (!PyErr_Occurred() || isCancellation())
+        return false;
+    const QString text = exceptionText();
+    const int mark = m_reports.logMark;
+    PyObject *type, *value, *traceback;
+    PyErr_Fetch(&type, &value, &traceback);
+    const bool changed = findOutdated() && !m_session.changes.isEmpty();
+    PyErr_Restore(type, value, traceback);
+    m_reports.logMark = mark;
+    if (changed)
+        log(Log::Kind::Error, 0, text);
+    return changed;
+}
+
 // Asks the script, where it can tell, what became of the installed packages since they were read.
 // False when the rows are still true; true also after a failure, which was reported.
 bool YumIO::findOutdated()

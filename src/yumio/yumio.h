@@ -399,6 +399,7 @@ private:
 
     // outdated.cpp
     bool findOutdated();
+    bool failedOutdated();
     void readSources();
     void readRights();
 

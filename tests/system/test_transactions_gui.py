@@ -137,6 +137,16 @@ class Trouble(Window):
                      "Marked now in another version: clock 1.0-1 -> 1.0-2."):
             self.assertIn(line, window.logged())
 
+        # The same while the listing is shown.
+        window.do("answer", rules=[{"title": "", "button": ""}])
+        window.do("press", button="applyButton")
+        window.do("next")
+        tool(root, "rpm", "-e", "compass")
+        window.do("press", button="OK")
+        self.assertIn("Removed: compass-0.8-1.x86_64", window.do("next")["dialogs"][0]["text"])
+        window.do("press", button="Cancel")
+        self.assertEqual(after - self.packages(root), {"compass-0.8-1.x86_64"})
+
     def test_failures_are_reported(self):
         window = self.open(self.root())
         dialogs = self.run_marks(window, {INSTALL: ["abacus", "fail-pre", "fail-post"],

@@ -33,6 +33,7 @@ class Base(dnf.Base):
         self._plugins = plugins.Plugins()
         self.apart = {}
         self.excluded = None  # query: what is installed and excluded
+        self.cookie = ""      # of the rpm database that the sack was filled from
 
     def _add_repo_to_sack(self, repo):
         errors.check_cancelled()
@@ -73,6 +74,24 @@ class Base(dnf.Base):
         finally:
             for name in self._read:
                 self.sack.enable_repo(name)
+
+    def installed_changed(self):
+        """Whether packages came or went since the sack was filled; False before that. A few milliseconds."""
+        if self.sack is None:
+            return False
+        current = database.cookie(self.conf)
+        if current == self.cookie:
+            return False
+        if not current or database.numbers(self.conf) != database.numbers_read_by(self.sack):
+            return True
+        self.cookie = current
+        return False
+
+    def _run_rpm_check(self):
+        """DNF's own. DNF calls it inside its lock of the rpm database, before anything is done."""
+        if self.installed_changed():
+            raise Errors.YumBaseError(tr("Another program has changed the installed packages."))
+        return super()._run_rpm_check()
 
 
 def load(dnf_base):
@@ -134,7 +153,6 @@ class Session:
             former.close()
         self.conf = config.read_main()
         self.spent = False
-        self._cookie = ""  # of the rpm database that the sack was filled from
         self._cached = {}
         self.base = Base(self.conf)
         with errors.translated():
@@ -166,7 +184,7 @@ class Session:
         report.job_state("metadata", True)
         self.base._reading = 0
         # Read before the packages are, so that no change goes unnoticed.
-        self._cookie = database.cookie(self.conf)
+        self.base.cookie = database.cookie(self.conf)
         try:
             with errors.translated():
                 locks.guarded("metadata", True, self.base.fill_sack)
@@ -201,27 +219,19 @@ class Session:
         return database.directory(), [*files, (_MODULES, "*.module")]
 
     def installed_changed(self):
-        """Whether packages came or went since the sack was filled; False before that. A few milliseconds."""
-        if self.base.sack is None:
-            return False
-        current = database.cookie(self.conf)
-        if current == self._cookie:
-            return False
-        if not current or database.numbers(self.conf) != database.numbers_read_by(self.sack):
-            return True
-        self._cookie = current
-        return False
+        """As Base.installed_changed."""
+        return self.base.installed_changed()
 
     def outdated(self):
         """What differs between the rpm database and the packages that were read of it, as
         database.differences tells it."""
         current = database.cookie(self.conf)
-        if current == self._cookie:
+        if current == self.base.cookie:
             return [], [], []
         with errors.translated():
             told = database.differences(database.read_by(self.sack), database.contents(self.conf))
         if not any(told):  # a key came or went
-            self._cookie = current
+            self.base.cookie = current
         return told
 
     def expanded(self, text):
