@@ -35,7 +35,7 @@ class Box(collections.namedtuple("Box", "title text buttons")):
         if buttons == {"Yes", "No"}:
             for words, kind in (("It can be done by removing:", "removing"),
                                 ("The rest can be done without:", "skipping"),
-                                ("cannot be there together with:", "losing"),
+                                ("would also remove:", "losing"),
                                 ("It would also remove what", "unlisted")):
                 if words in text:
                     return kind

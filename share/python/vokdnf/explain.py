@@ -65,7 +65,7 @@ def names(pkgs):
 def exclusions(pkgs, base):
     """Lines that say why removals do not take these excluded packages along."""
     lines = [_exclusion(report.clean(pkg), base) for pkg in sorted(pkgs)[:_MANY]]
-    return [*lines, tr("An excluded package is removed only if it is marked itself.")] if lines else []
+    return [*lines, tr("An excluded package is removed only if it is marked for removal itself.")] if lines else []
 
 
 def _sentence(sentence, base):

@@ -118,9 +118,12 @@ class Resolver:
         return elements.of(self._base.transaction)
 
     def _lost(self):
-        """The removals that nobody marked."""
-        return [element for element in self._elements() if element.action == Action.REMOVE
-                and element.envra not in self._marks.removes]
+        """The removals that nobody marked. Of packages kept in several versions the oldest makes room for the
+        new one; that is not among them."""
+        found = self._elements()
+        coming = {(element.name, element.arch) for element in found if not element.erases}
+        return [element for element in found if element.action == Action.REMOVE
+                and element.envra not in self._marks.removes and (element.name, element.arch) not in coming]
 
     def _way_out(self, error, erasing):
         """Looks for what can be done instead, and asks about it."""
@@ -165,16 +168,13 @@ class Resolver:
     def _accept_losses(self):
         """A removal may take what depends on it; what is installed, a substitute included, may not take
         anything along without a question."""
-        found = self._elements()
-        # Of packages kept in several versions the oldest makes room for the new one.
-        names = {element.name for element in found if not element.erases}
         marked = self._marks.installs | self._marks.updates
-        lost = [element.po.pkg for element in found if element.po.pkg not in self._erased
-                and (element.action == Action.REMOVE and element.name not in names
-                     or element.action == Action.OBSOLETED and marked.isdisjoint(element.replaced_by))]
+        replaced = [element for element in self._elements() if element.action == Action.OBSOLETED
+                    and marked.isdisjoint(element.replaced_by)]
+        lost = [element.po.pkg for element in self._lost() + replaced if element.po.pkg not in self._erased]
         if not lost:
             return True
-        return report.confirm([tr("What is to be installed cannot be there together with:")]
+        return report.confirm([tr("The installations and updates would also remove:")]
                               + _listed(lost) + [tr("Remove these too?")])
 
 
