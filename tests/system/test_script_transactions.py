@@ -49,9 +49,9 @@ TABLE = {
     "removals of all versions and architectures, and of what stands on something": (
         {"remove": ["kernel", "libtwin", "stack-floor", "orphan", "markup"]},
         {"removed": ["kernel", "kernel", "libtwin", "libtwin", "stack-floor", "orphan", "markup"],
-         "depremoved": ["stack-roof", "stack-wall", "orphan-notes"]},
+         "depremoved": ["stack-roof", "stack-wall", "orphan-notes", "twin-guest"]},
         ("kernel-6.1.0-1.x86_64", "kernel-6.1.0-5.x86_64", "libtwin-1.0-1.i686", "libtwin-1.0-1.x86_64",
-         "stack-floor-1.0-1.noarch", "stack-roof-1.0-1.noarch", "stack-wall-1.0-1.noarch",
+         "twin-guest-1.0-1.i686", "stack-floor-1.0-1.noarch", "stack-roof-1.0-1.noarch", "stack-wall-1.0-1.noarch",
          "orphan-1.0-1.noarch", "orphan-notes-1.0-1.noarch", "markup-1.0-1.noarch"), ()),
     "all three kinds, with a replacement, a downgrade, another provider and one of two architectures": (
         {"install": ["newname", "pins-old"], "update": ["clock"], "remove": ["mail-alpha", "libtwin.x86_64"]},
@@ -71,8 +71,8 @@ TABLE = {
 }
 
 # The same marks as commands of dnf. Of updates that cannot be had it says nothing, while here the user
-# is asked; those whose scriptlets fail it tells by its status; and what replaces another name is an
-# installation here.
+# is asked; those whose scriptlets fail it tells by its status; and what replaces another name or comes in
+# another family of architectures is an installation here.
 BESIDE_DNF = {
     "a mixed installation": ({"install": ["richly", "poster", "text-hebrew"]},
                              ["install", "richly", "poster", "text-hebrew"]),
@@ -134,7 +134,7 @@ class Transactions(Case):
             with self.subTest(name):
                 ours, theirs = self.root(), self.root()
                 if marks is None:
-                    marks = {"install": ["newname"],
+                    marks = {"install": ["newname", "heron.i686", "stork.noarch"],
                              "update": run(ours, {"steps": [{"do": "collect"}]})
                              ["values"][0]["updates"]}
                 result, value, error = self.apply(ours, marks)

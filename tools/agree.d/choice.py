@@ -10,13 +10,16 @@ _NEVER = {"heavy", "many-files", "slow-1", "slow-2", "slow-3", "busybox", "loud"
 _SELDOM = {"broken", "needs-broken", "stuck", "shunned", "needs-shunned", "enemy", "usurper", "unsigned",
            "damaged", "foreign-key", "needs-foreign", "vital", "vital-libs", "aster-release",
            "clash-left", "clash-right", "clash-calendar", "no-shell", "pins-old", "inquisitive"}
+# Of several architectures, changing theirs, with a substitute, or newer in a repository of lower priority.
+_OFTEN = {"libtwin", "libhalf", "libsolo", "twin-guest", "heron", "stork", "swift-data", "swallow-data",
+          "mail-alpha", "mail-beta", "mail-reader", "hinge", "hinged", "kernel"}
 
 
 def _odds(row):
     if row.name in _NEVER:
         return 0.0
     trouble = row.name in _SELDOM or row.name.startswith(("fail-", "needs-", "bad"))
-    return 0.08 if trouble else 1.0
+    return 0.08 if trouble else 3.0 if row.name in _OFTEN else 1.0
 
 
 def _some(random, rows, most):
@@ -39,7 +42,7 @@ def marks(random, rows):
     installable = [row for row in packages if row.state == INSTALLABLE]
     there = [row for row in packages if row.state != INSTALLABLE]
     plan = random.choices(("updates", "installs", "removals", "mixed", "group", "group and more"),
-                          (5, 4, 3, 5, 3, 2))[0]
+                          (5, 4, 5, 5, 3, 2))[0]
     result = {}
     if plan in ("updates", "mixed") or plan == "group and more" and random.random() < 0.5:
         result.update((row, UPDATE) for row in _some(random, updatable, 4))

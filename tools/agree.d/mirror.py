@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The developers of VOK
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-"""DNF's side: the same marks, by one run of `dnf shell` on a copy of the root."""
+"""DNF's side: the same marks on a copy of the root, removals alone by `dnf remove`, others by one run of
+`dnf shell`."""
 
 import subprocess
 import tempfile
@@ -9,12 +10,13 @@ import tempfile
 import comps
 import records
 import root
-from window import GROUP, INSTALL, REMOVE, UPDATABLE, UPDATE
+from window import GROUP, INSTALL, INSTALLED, REMOVE, UPDATE
 
 # What VOK sets whatever the configuration says, and what it protects when nothing else is configured.
 _OPTIONS = ["--setopt=clean_requirements_on_remove=0", "--setopt=strict=1"]
 _FOUNDATIONS = {"dnf", "filesystem", "glibc", "rpm", "setup", "systemd", "yum"}
-_VERBS = {UPDATE: "upgrade", INSTALL: "install", REMOVE: "remove"}
+KEEP = "keep"  # an action of the mirror alone: the installed package stays
+_VERBS = {UPDATE: "upgrade", INSTALL: "install", KEEP: "install", REMOVE: "remove"}
 _HEADER = "Available Upgrades\n"
 _END = "Leaving Shell"
 # The library that reads the groups loses a blank beside markup.
@@ -28,12 +30,16 @@ def group(row):
     return _GROUPS["".join(row.name.split())]
 
 
+def installed(row):
+    """[(version, architecture)] of what is installed of a row."""
+    return list(((row.version, row.arch),) * (row.state == INSTALLED) + row.chain)
+
+
 def designations(row, action):
     """What a mark on a row means: the new package, or all installed versions."""
-    if action != REMOVE:
+    if action not in (REMOVE, KEEP):
         return [f"{row.name}-{row.version}.{row.arch}"]
-    there = () if row.state == UPDATABLE else ((row.version, row.arch),)
-    return [f"{row.name}-{version}.{arch}" for version, arch in there + row.chain]
+    return [f"{row.name}-{version}.{arch}" for version, arch in installed(row)]
 
 
 class Mirror:
@@ -46,21 +52,25 @@ class Mirror:
         self.upgrades = set()
         self.run([])
 
+    def _dnf(self, *arguments):
+        """The output of dnf."""
+        command = root.dnf_command(self.place, ["-y", *_OPTIONS, *arguments])
+        for index, word in enumerate(command):
+            name, _, value = word.partition("protected_packages=")
+            if value:
+                both = sorted(_FOUNDATIONS.union(value.split(",")))
+                command[index] = f"{name}protected_packages={','.join(both)}"
+        done = subprocess.run(root.in_root(command), env=dict(root.environment(self.place), LC_ALL="C.UTF-8"),
+                              text=True, errors="replace", stdin=subprocess.DEVNULL,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        return done.stdout
+
     def run(self, lines, *options):
         """Runs lines of dnf's shell, and lists the upgrades that are left."""
         with tempfile.NamedTemporaryFile("w", suffix=".shell") as script:
             script.write("\n".join([*lines, "list --upgrades", "quit"]) + "\n")
             script.flush()
-            command = root.dnf_command(self.place, ["-y", *_OPTIONS, *options, "shell", script.name])
-            for index, word in enumerate(command):
-                name, _, value = word.partition("protected_packages=")
-                if value:
-                    both = sorted(_FOUNDATIONS.union(value.split(",")))
-                    command[index] = f"{name}protected_packages={','.join(both)}"
-            done = subprocess.run(root.in_root(command), env=dict(root.environment(self.place), LC_ALL="C.UTF-8"),
-                                  text=True, errors="replace", stdin=subprocess.DEVNULL,
-                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-        self.output = done.stdout
+            self.output = self._dnf(*options, "shell", script.name)
         words = self.output.rpartition(_HEADER)[2].partition(_END)[0].split() \
             if _HEADER in self.output else []
         self.output = self.output.partition(_HEADER)[0]
@@ -74,6 +84,18 @@ class Mirror:
         for path, text in zip(files, texts):
             path.write_bytes(text)
         self.run([])
+
+    def remove(self, rows, *options):
+        """Does what `dnf remove` makes of rows. With a group among them it takes a shell, which then knows the
+        installed packages alone, as `dnf remove` does."""
+        if any(row.kind == GROUP for row in rows):
+            self.run([*self._lines([(row, REMOVE) for row in rows], ""), "run"], "--disablerepo=*", *options)
+            output = self.output
+        else:
+            names = [name for row in rows for name in designations(row, REMOVE)]
+            output = self._dnf("--noautoremove", *options, "remove", *names)
+        self.run([])
+        self.output = output
 
     def apply(self, marks, *options, upgrading=False):
         """Does [(row, action)]. With `upgrading`, returns of the updates those that `dnf upgrade` would not
@@ -89,9 +111,9 @@ class Mirror:
         return [f"{row.name}.{row.arch} {row.version}" for row, action in marks if row.kind != GROUP
                 and action == UPDATE and (row.name, row.arch, row.version) not in found]
 
-    def can(self, marks):
+    def can(self, marks, *options):
         """Whether dnf finds a way to do that, exactly as marked; nothing is changed."""
-        self.run([*self._lines(marks, "install"), "transaction list", "transaction reset"])
+        self.run([*self._lines(marks, "install"), "transaction list", "transaction reset"], *options)
         return "Transaction Summary" in self.output
 
     def _lines(self, marks, updating):

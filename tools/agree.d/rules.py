@@ -6,7 +6,7 @@
 import collections
 import re
 
-from mirror import group
+from mirror import KEEP, group
 from window import GROUP, INSTALL, INSTALLABLE, REMOVE, UPDATABLE, UPDATE
 
 # `lines` are the configuration lines of the root, `marks` is [(row, action)], `kinds` those of the boxes.
@@ -31,6 +31,14 @@ def _of_groups(rows, marks, action, kinds):
 _REQUIRED = {"mandatory", "default"}
 _ALL = {*_REQUIRED, "optional", "conditional"}
 
+def twins(rows, marks):
+    """The installed rows that are not marked and share a name with one that is removed."""
+    marked = {row for row, _ in marks}
+    removed = {row.name for row, action in marks if action == REMOVE and row.kind != GROUP}
+    return [row for row in rows if row.name in removed and row not in marked and row.kind != GROUP
+            and row.state != INSTALLABLE]
+
+
 TRANSLATIONS = [
     Translation("group removal", "VOK removes all members of a group, dnf those that came with it.",
                 lambda rows, marks: [(row, REMOVE) for row in _of_groups(rows, marks, REMOVE, _ALL)
@@ -44,6 +52,10 @@ TRANSLATIONS = [
                                      if row.state == UPDATABLE]
                 + [(row, INSTALL) for row in _of_groups(rows, marks, UPDATE, _REQUIRED)
                    if row.state == INSTALLABLE]),
+    Translation("kept architecture", "Beside other marks a removal leaves the other architecture to VOK, while "
+                "dnf's shell removes it unless it is told to keep it.",
+                lambda rows, marks: [(row, KEEP) for row in twins(rows, marks)]
+                if {action for _, action in marks} != {REMOVE} else []),
 ]
 
 
@@ -69,6 +81,13 @@ def _replaced(line, step):
     return any(re.search(rf"\b({name}|{_REPLACED[name]})-\d", line) for name in marked)
 
 
+def _other_family(line, step):
+    found = re.fullmatch(r"updates: only DNF (\S+)\.(\w+) (\S+)", line)
+    return found and any((row.name, row.arch, row.version) == found.groups() and row.state == INSTALLABLE
+                         for row in step.rows) \
+        and any(row.name == found[1] and row.state != INSTALLABLE for row in step.rows)
+
+
 def _shared(line, step):
     groups = [(group(row), action) for row, action in step.marks if row.kind == GROUP]
     removed, wanted = ({name for (_, members), action in groups if (action == REMOVE) is removing
@@ -81,6 +100,8 @@ def _shared(line, step):
 RULES = [
     Rule("vendor list", "dnf lists upgrades that a change of vendor forbids, and does not take them.",
          lambda line, step: "allow_vendor_change" in step.lines and line in _RIVALS),
+    Rule("other family", "dnf lists what comes for another family of architectures as an upgrade, VOK as an "
+         "installation.", _other_family),
     Rule("reason of a removed member", "A member that somebody had installed goes with the group by VOK, "
          "and is recorded so; dnf is told to remove it by itself.", _removed_with_group),
     Rule("reason before removal", "dnf notes that a removed group no longer keeps a member, and then removes "

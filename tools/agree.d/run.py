@@ -117,6 +117,9 @@ class Chapter:
         wrong += [f"log: {line}" for line in log if "Internal error" in line]
         if wrong:
             raise Difference("\n".join(wrong))
+        lost = self._lost_twins(rows, self._for_dnf(rows, marks), before)
+        if lost:
+            raise Difference(f"lost, although nobody marked them: {lost}")
         kinds = [box.kind for box in boxes]
         outcome = ", ".join(["done" if ran else "nothing", *(kind for kind in kinds if kind != "listing")])
         differences = []
@@ -124,7 +127,7 @@ class Chapter:
             differences += self._changed("VOK", self._place, before)
             if records.last_transaction(self._place) != self._window_transaction:
                 differences.append("VOK alone: a transaction is recorded")
-        differences += self._likewise(self._for_dnf(rows, marks), kinds, ran, before)
+        differences += self._likewise(rows, self._for_dnf(rows, marks), kinds, ran, before)
         self._explain(differences, rules.Step(self.lines, rows, marks, kinds))
         if any(row.action != window.NONE for row in self._window.rows()):
             self._window.clear_actions()
@@ -143,10 +146,27 @@ class Chapter:
         """The marks with what dnf has to be told besides to do the same."""
         result = list(marks)
         for translation in rules.TRANSLATIONS:
-            more = [one for one in translation.more(rows, marks) if one not in result]
+            more = [one for one in translation.more(rows, result) if one not in result]
             self._used[translation.name] += bool(more)
             result += more
         return result
+
+    def _lost_twins(self, rows, marks, before):
+        """The other architectures of what was removed that are gone, too: nothing in a root makes them go."""
+        after = records.packages(self._place)
+        lost, there = ({(name.rsplit("-", 2)[0], name.rpartition(".")[2]) for name in names}
+                       for names in (before - after, after))
+        kept = {(row.name, arch) for row in rules.twins(rows, [one for one in marks if one[1] != mirror.KEEP])
+                for _, arch in mirror.installed(row)}
+        return sorted(lost.difference(there) & kept)
+
+    def _hidden(self, rows, marks):
+        """The options that hide from dnf the installed packages that are excluded and not marked."""
+        marked = {row for row, _ in marks}
+        names = [f"{row.name}-{version}.{arch}" for row in rows if row.kind != window.GROUP and row not in marked
+                 for version, arch in mirror.installed(row) if variants.hides(self.lines, row.name, version, arch)]
+        removes = any(action == window.REMOVE for _, action in marks)
+        return [f"--exclude={','.join(names)}"] if names and removes else []
 
     def _answer(self, box):
         """The text of the button to press; what is declined is noted."""
@@ -160,28 +180,32 @@ class Chapter:
         self._answers.append((box.kind, button))
         return button
 
-    def _likewise(self, marks, kinds, ran, before):
+    def _likewise(self, rows, marks, kinds, ran, before):
         """Has the mirror do the same; returns what differs."""
         asked = [kind for kind in kinds if kind in ("removing", "skipping")]
         declined = any(button in ("Cancel", "No") for _, button in self._answers)
         if declined and not asked:
             return []
-        if asked and self._mirror.can(marks):
+        hidden = self._hidden(rows, marks)
+        if asked and self._mirror.can(marks, *hidden):
             return [f"VOK asks about {asked}, dnf does it as marked"]
+        if {action for _, action in marks} == {window.REMOVE}:
+            self._mirror.remove([row for row, _ in marks], *hidden)
+            return self._roots_differ() if ran else self._changed("DNF", self._mirror.place, before)
         if not ran:
             if not asked:
-                self._mirror.apply(marks)
+                self._mirror.apply(marks, *hidden)
                 # Some of what it cannot do it records all the same.
                 self._same = records.last_transaction(self._mirror.place) == self._mirror_transaction
             return self._changed("DNF", self._mirror.place, before)
         lost = []
         if not asked:
             upgrading = {action for _, action in marks} == {window.UPDATE} and self._random.random() < 0.5
-            lost = self._mirror.apply(marks, upgrading=upgrading)
+            lost = self._mirror.apply(marks, *hidden, upgrading=upgrading)
         elif "removing" in asked:
-            self._mirror.apply(marks, "--allowerasing")
+            self._mirror.apply(marks, *hidden, "--allowerasing")
         else:
-            self._mirror.apply(marks, "--setopt=strict=0")
+            self._mirror.apply(marks, *hidden, "--setopt=strict=0")
         return self._roots_differ() + [f"dnf upgrade leaves out {name}" for name in lost]
 
     def _changed(self, whose, place, before):
@@ -207,8 +231,7 @@ class Chapter:
         packages = [row for row in rows if row.kind != window.GROUP]
         there = set()
         for row in packages:
-            own = ((row.version, row.arch),) if row.state == window.INSTALLED else ()
-            for version, arch in own + row.chain:
+            for version, arch in mirror.installed(row):
                 epoch = "" if ":" in version else "0:"
                 there.add(f"{row.name}-{epoch}{version}.{arch}")
         installed = {name for name in before if not name.startswith("gpg-pubkey")}

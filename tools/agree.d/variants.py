@@ -3,6 +3,7 @@
 
 """The ways in which a root is configured."""
 
+import fnmatch
 import re
 
 # Of each line one root has at most one.
@@ -12,7 +13,7 @@ LINES = {
     "updates priority": ("updates", ("10", "150")),
     "extras priority": ("extras", ("120", "50")),
     "exclude": ("main", ("kernel*", "weather libtwin chess", "stack-ground vital-libs",
-                         "notebook-3.1-1 *-data")),
+                         "notebook-3.1-1 *-data", "mail-reader twin-guest stack-roof *suite")),
     "updates exclude": ("updates", ("weather* stack-ground notebook", "*.i686 merged")),
     "includepkgs": ("main", ("kernel weather chess notebook stack-* *twin* office-suite newname easel",)),
     "updates includepkgs": ("updates", ("stack-* kernel vital* lockstep* newname aster-release",)),
@@ -31,6 +32,16 @@ _REPOSITORIES = ("base", "updates", "extras")
 def spreads(lines):
     """Whether `spread` makes a difference to them."""
     return any(option in lines for option in _OF_PACKAGES)
+
+
+def hides(lines, name, version, arch):
+    """Whether what the main file says of packages excludes that one."""
+    forms = (name, f"{name}.{arch}", f"{name}-{version}", f"{name}-{version}.{arch}")
+
+    def matches(option):
+        return any(fnmatch.fnmatchcase(form, pattern) for form in forms for pattern in lines[option].split())
+
+    return "exclude" in lines and matches("exclude") or "includepkgs" in lines and not matches("includepkgs")
 
 
 def choose(random):

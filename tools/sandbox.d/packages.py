@@ -95,6 +95,12 @@ def architectures(table):
     table.add("libtwin", base="1.0-1*", updates="1.1-1", arch="x86_64 i686",
               group="System Environment/Libraries",
               summary="Installed for two architectures, updated together")
+    table.add("twin-guest", base="1.0-1*", arch="i686", requires=("libtwin(x86-32)",),
+              summary="Needs one of two architectures of a library")
+    table.add("heron", base="1.0-1*", summary="Was noarch, its update is i686")
+    table.add("heron", updates="2.0-1", arch="i686", summary="Was noarch, its update is i686")
+    table.add("stork", base="1.0-1*", arch="i686", summary="Was i686, its update is noarch")
+    table.add("stork", updates="2.0-1", summary="Was i686, its update is noarch")
     table.add("libsolo", base="1.0-1", updates="1.1-1", arch="x86_64 i686",
               group="System Environment/Libraries", summary="Offered for two architectures")
     table.add("libhalf", base="1.0-1*", arch="x86_64", group="System Environment/Libraries",
@@ -123,6 +129,10 @@ def relations(table):
               summary="Its update takes an update of another package along")
     table.add("lockstep-libs", base="1.0-1*", updates="2.0-1",
               summary="Has to be as new as lockstep")
+    table.add("hinge", base="1.0-1*", extras="2.0-1",
+              summary="Newer in another repository, where a package needs that")
+    table.add("hinged", extras="1.0-1", requires=("hinge >= 2",),
+              summary="Takes an update from another repository along")
     table.add("oldname", base="1.0-1*", summary="Replaced by a package of another name")
     table.add("newname", updates="2.0-1", obsoletes=("oldname < 2",), provides=("oldname = 2.0",),
               summary="Replaces a package of another name")
