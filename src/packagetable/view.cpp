@@ -64,8 +64,13 @@ void View::handleHorizontalHeaderClicked(int column)
 
 void View::handleActivated(const QModelIndex &index)
 {
-    if (index.column() == ActionColumn)
+    if (actsOnClick(index))
         toggleAction(index);
+}
+
+bool View::actsOnClick(const QModelIndex &index) const
+{
+    return index.column() == ActionColumn;
 }
 
 void View::toggleAction(const QModelIndex &index)

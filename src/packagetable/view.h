@@ -72,6 +72,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     const QAbstractItemModel *measuredModel() const override;
     QModelIndex source(const QModelIndex &index) const override;
+    bool actsOnClick(const QModelIndex &index) const override;
 
 private:
     void showColumnMenu(const QPoint &pos);

@@ -134,8 +134,14 @@ void View::handleHorizontalHeaderClicked(int column)
 void View::handleClicked(const QModelIndex &index)
 {
     // With these the click chooses rows.
-    if (!(QGuiApplication::keyboardModifiers() & (Qt::ShiftModifier | Qt::ControlModifier)))
+    if (actsOnClick(index) &&
+        !(QGuiApplication::keyboardModifiers() & (Qt::ShiftModifier | Qt::ControlModifier)))
         toggle(index);
+}
+
+bool View::actsOnClick(const QModelIndex &index) const
+{
+    return index.isValid() && index.column() <= PermColumn;
 }
 
 void View::toggle(const QModelIndex &index)
@@ -160,7 +166,7 @@ void View::toggleSelected()
 void View::handleCustomContextMenuRequested(const QPoint &pos)
 {
     const QModelIndex source = m_proxy->mapToSource(indexAt(pos));
-    if (!source.isValid() || source.column() > PermColumn)
+    if (!actsOnClick(source))
         getContextMenu()->exec(source, viewport()->mapToGlobal(pos));
 }
 
@@ -188,7 +194,7 @@ void View::keyPressEvent(QKeyEvent *event)
     const QModelIndex current = currentIndex();
     switch (event->modifiers() & ~Qt::KeypadModifier ? 0 : event->key()) {
     case Qt::Key_Space:
-        if (current.isValid() && current.column() <= PermColumn)
+        if (actsOnClick(current))
             return toggleSelected();
         break;
     case Qt::Key_Return:

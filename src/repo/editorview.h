@@ -46,6 +46,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     QModelIndex source(const QModelIndex &index) const override;
+    bool actsOnClick(const QModelIndex &index) const override;
 
 private:
     void followSelection();

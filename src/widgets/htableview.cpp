@@ -9,6 +9,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
@@ -172,6 +173,17 @@ void HTableView::paintEvent(QPaintEvent *event)
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(viewport()->rect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_emptyText);
+}
+
+// Qt emits clicked() for a release after a press, but not for the second release of a double click.
+void HTableView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (!actsOnClick(indexAt(event->position().toPoint())))
+        return QTableView::mouseDoubleClickEvent(event);
+    QMouseEvent press(QEvent::MouseButtonPress, event->position(), event->scenePosition(),
+                      event->globalPosition(), event->button(), event->buttons(),
+                      event->modifiers(), event->pointingDevice());
+    mousePressEvent(&press);
 }
 
 QItemSelectionModel::SelectionFlags HTableView::selectionCommand(const QModelIndex &index,

@@ -49,6 +49,10 @@ protected:
     // Going along the row keeps the rows that are selected.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
+    // Whether a click on the cell acts at once. Each click of a double click then counts as a single
+    // one, and doubleClicked() is not emitted.
+    virtual bool actsOnClick(const QModelIndex &) const { return false; }
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void initViewItemOption(QStyleOptionViewItem *option) const override;
     // The model whose rows decide the widths.

@@ -96,6 +96,29 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 1);
     }
 
+    // Each click counts, as it comes from the mouse; those of other buttons and cells do not.
+    void fastClicksToggle()
+    {
+        const auto clicks = [this](int count, int column, Qt::MouseButton button) {
+            QWidget *surface = m_view->viewport();
+            const QPoint at = m_view->visualRect(cell(s("alpha"), column)).center();
+            m_case.model->clearActions();
+            for (int click = 0; click < count; ++click) {
+                if (click % 2)
+                    QTest::mouseDClick(surface, button, {}, at);
+                else
+                    QTest::mousePress(surface, button, {}, at);
+                QTest::mouseRelease(surface, button, {}, at);
+            }
+            return m_case.entry(s("alpha"))->action;
+        };
+        for (const int count : {1, 2, 3, 4, 5})
+            QCOMPARE(clicks(count, ActionColumn, Qt::LeftButton),
+                     (QList{Action::None, Action::Update, Action::Remove})[count % 3]);
+        QCOMPARE(clicks(2, NameColumn, Qt::LeftButton), Action::None);
+        QCOMPARE(clicks(2, ActionColumn, Qt::RightButton), Action::None);
+    }
+
     // Rows in the signal and in the selection are the model's.
     void tellsRowsOfTheModel()
     {
