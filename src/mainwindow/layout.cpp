@@ -20,6 +20,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -27,6 +28,8 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -218,6 +221,7 @@ QLayout *MainWindow::createFilterRow()
 
     m_regexpEdit = new QLineEdit(QStringLiteral(".*"), m_mainArea);
     describeControl(m_regexpEdit, "regexpEdit", QString(), tr("Regular expression"));
+    m_regexpEdit->installEventFilter(this);
     auto *find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, m_regexpEdit, [this] {
         m_regexpEdit->setFocus(Qt::ShortcutFocusReason);
@@ -261,6 +265,21 @@ QLayout *MainWindow::createFilterRow()
     row->addWidget(m_dupsCheck);
     row->addWidget(m_groupsCheck);
     return row;
+}
+
+// On X11 a line edit claims keys such as Ctrl+E, end of line, before the menus see them.
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const QKeySequence keys(static_cast<QKeyEvent *>(event)->keyCombination());
+        const QList<QAction *> actions = findChildren<QAction *>();
+        if (std::any_of(actions.cbegin(), actions.cend(),
+                        [&](const QAction *action) { return action->shortcut() == keys; })) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 QLayout *MainWindow::createButtonRow()
