@@ -15,11 +15,9 @@
 #include "yumio/yumio.h"
 
 #include <QClipboard>
-#include <QDate>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -47,18 +45,6 @@ QStringList lines(const QString &text)
     return text.split(u'\n', Qt::SkipEmptyParts);
 }
 
-// What a change says behind its date, "* Tue Sep 26 2023 ", and the day; one without a date as it is.
-std::pair<QString, qint64> dated(const QString &change)
-{
-    static const QRegularExpression start(QStringLiteral("^\\* (\\S+ \\S+ +\\d+ \\d+) "));
-    const auto match = start.match(change);
-    const QDate date =
-        QLocale::c().toDate(match.captured(1).simplified(), QStringLiteral("ddd MMM d yyyy"));
-    if (!date.isValid())
-        return {change, 0};
-    return {change.mid(match.capturedEnd()), date.toJulianDay()};
-}
-
 } // namespace
 
 QStringList changes(const QString &log)
@@ -72,17 +58,10 @@ QStringList changes(const QString &log)
 
 QStringList changesSince(const QString &newer, const QString &older)
 {
-    QSet<std::pair<QString, qint64>> known;
-    for (const QString &change : changes(older))
-        known.insert(dated(change));
-    QStringList found;
-    for (const QString &change : changes(newer)) {
-        // A repository tells the day alone, which may be the next one in another time zone.
-        const auto [text, day] = dated(change);
-        if (!known.contains({text, day}) && !known.contains({text, day - 1}) &&
-            !known.contains({text, day + 1}))
-            found.append(change);
-    }
+    const QStringList olds = changes(older);
+    const QSet<QString> known(olds.cbegin(), olds.cend());
+    QStringList found = changes(newer);
+    found.removeIf([&](const QString &change) { return known.contains(change); });
     return found;
 }
 

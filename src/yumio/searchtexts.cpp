@@ -11,7 +11,7 @@ namespace {
 
 constexpr qsizetype blockSize = 1 << 18; // bytes of text, roughly
 constexpr int fastCompression = 1;
-const QByteArray magic = QByteArrayLiteral("VOK search 1");
+const QByteArray magic = QByteArrayLiteral("VOK search 2");
 // At the end of a file: where the directory begins, and the magic text.
 constexpr qsizetype positionSize = sizeof(quint64);
 

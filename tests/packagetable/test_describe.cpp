@@ -146,13 +146,11 @@ private Q_SLOTS:
     {
         columns<QString, QString, QString>("newer", "older", "found");
         const QString june3 = s("* Mon Jun  3 2024 A <a@b> - 1\n- one\n\n* two");
-        const QString june2 = s("* Sun Jun  2 2024 A <a@b> - 1\n- one\n\n* two");
         const QString top = s("* Tue Jun  4 2024 A <a@b> - 2\n- three");
         const QString again = s("* Fri Jun  7 2024 A <a@b> - 2\n- three");
         const QString gap = s("\n\n");
         row("newer above", top + gap + june3, june3, top);
         row("cut below", top, top + gap + june3, QString());
-        row("another time zone", top + gap + june2, june3, top);
         row("the same words again", again + gap + top, top, again);
         row("nothing in common", top, june3, top);
     }

@@ -68,6 +68,26 @@ class Collect(Case):
                 result = run(root, {"steps": [COLLECT, {"do": "replacements"}]})
                 self.assertEqual(result["values"][1], wanted)
 
+    def test_days_of_changes(self):
+        """Days are those that DNF shows in the time zone; what a search keeps does not depend on it."""
+        root, kept = self.root(), []
+        days = """[__import__("time").strftime("* %a %b %d %Y", __import__("time").localtime(change[0])) for change in
+            [po for po in program.all.available if po.name == "chess"][0].returnChangelog()]"""
+        texts = """[text.decode().split("\\0")[15::3] for _, text in io.searchTexts(
+            [po for po in program.all.available if po.name == "chess"], False, True)]"""
+        for zone in ("UTC", "Pacific/Auckland", "Pacific/Kiritimati", "Etc/GMT+12"):
+            with self.subTest(zone):
+                environment = dict(os.environ, TZ=zone)
+                result = run(root, {"steps": [COLLECT, {"do": "collectOtherData"}, evaluate(days), evaluate(texts)]},
+                             environment)
+                shown = subprocess.run([SANDBOX, "dnf", root, "-q", "repoquery", "--changelogs", "chess"], check=True,
+                                       env=environment, stdout=subprocess.PIPE, text=True).stdout.splitlines()
+                found = result["values"][2]
+                self.assertEqual(len(found), 2)
+                self.assertEqual(found, [line[:17] for line in shown if line.startswith("* ")][:2])
+                kept.append(result["values"][3])
+        self.assertEqual(kept, kept[:1] * 4)
+
     def test_objects(self):
         code = """[[po.pkgtup, po.repoid, po.localPkg(), __import__("os").path.exists(po.localHdr()),
             hasattr(po, "hdr"), hasattr(po, "relativepath"), po.prco, po.returnFileEntries("file"),

@@ -8,6 +8,7 @@ once. Its texts are always fit for crossing into the program.
 """
 
 import calendar
+import datetime
 import functools
 import os
 
@@ -39,6 +40,14 @@ def _best_known(pkg, kind):
     """The package of DNF that has data of a kind: `pkg`, or the same one where that was read apart."""
     apart = getattr(pkg.base, "apart", {}).get(kind)
     return apart.find(pkg) if apart is not None and not pkg._from_system else pkg
+
+
+@functools.lru_cache(4096)
+def _time_of(day):
+    """Seconds since 1970 of a change. hawkey gives the day alone, that of the local time zone; rpm sets changes
+    that have no time of day to noon UTC, of which each day has one."""
+    noon = calendar.timegm(day.timetuple()) + 12 * 3600
+    return noon + (day - datetime.date.fromtimestamp(noon)).days * 24 * 3600
 
 
 def span(sack, repo_id):
@@ -184,11 +193,11 @@ class Package:
         return sorted(map(_clean, pkg.files)) if kind == "file" else []
 
     def returnChangelog(self):
-        """[(seconds since 1970, author, text)], newest first. Available packages have them after
-        collectOtherData, which reads them apart from everything else."""
+        """[(seconds since 1970, author, text)], newest first; see _time_of for the seconds. Available
+        packages have them after collectOtherData, which reads them apart from everything else."""
         pkg = _best_known(self.pkg, CHANGE_LOGS)
-        return [(calendar.timegm(change["timestamp"].timetuple()) + 12 * 3600,
-                 _clean(change["author"]), _clean(change["text"])) for change in pkg.changelogs]
+        return [(_time_of(change["timestamp"]), _clean(change["author"]), _clean(change["text"]))
+                for change in pkg.changelogs]
 
     @property
     def changelog(self):

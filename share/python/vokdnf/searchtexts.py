@@ -4,6 +4,7 @@
 """What a search reads of many packages at once. Every text is the one that the package object's own
 methods give; only the file lists and change logs of available packages come by shorter roads."""
 
+import datetime
 import itertools
 
 import rpm
@@ -25,7 +26,7 @@ def read(session, pos, files, changes):
     and files (lines in the order of their UTF-16 units), then three for each change: seconds since 1970,
     author, text. Files and changes of available packages are read only when `files` and `changes` are
     true."""
-    lists = {}
+    lists, times = {}, {}
     for place in sorted(range(len(pos)), key=[hash(po) for po in pos].__getitem__):
         po = packages.Package(pos[place].pkg)  # DNF's object once, for all of its fields
         if po.pkg._from_system:
@@ -34,8 +35,9 @@ def read(session, pos, files, changes):
             name = po.pkg.reponame
             if files and name not in lists:
                 lists[name] = _Files(session, name)
-            texts = _available(po, lists[name].of(po) if files else (),
-                               po.returnChangelog() if changes else ())
+            if changes and name not in times:
+                times[name] = _Changes(session, name)
+            texts = _available(po, lists[name].of(po) if files else (), times[name].of(po) if changes else ())
         yield place, "\0".join(texts).encode("utf-8")
 
 
@@ -104,14 +106,38 @@ def _relations_of_header(header, tag):
             name, "<" if bits & 2 else "", ">" if bits & 4 else "", "=" if bits & 8 else "", version)
 
 
-class _Files:
+class _Extension:
+    """Further data of the packages of one repository."""
+
+    def __init__(self, session, name, kind):
+        self._first, count = packages.span(session.sack, name)
+        self._data = kind.open(session.cached(name), count)
+
+    def _cached(self, po):
+        return self._data.of(hash(po.pkg) - self._first) if self._data is not None else ()
+
+
+class _Changes(_Extension):
+    """The changes of the packages of one repository."""
+
+    def __init__(self, session, name):
+        super().__init__(session, name, solvcache.ChangeTimes)
+
+    def of(self, po):
+        day = datetime.date.fromtimestamp
+        changes, times = po.returnChangelog(), self._cached(po)
+        if [*map(day, times)] != [day(change[0]) for change in changes]:
+            return changes
+        return [(time, *change[1:]) for time, change in zip(times, changes)]
+
+
+class _Files(_Extension):
     """The file lists of the packages of one repository."""
 
     def __init__(self, session, name):
-        self._first, count = packages.span(session.sack, name)
-        self._lists = solvcache.FileLists.open(session.cached(name), count)
+        super().__init__(session, name, solvcache.FileLists)
 
     def of(self, po):
-        found = self._lists.of(hash(po.pkg) - self._first) if self._lists is not None else ()
+        found = self._cached(po)
         # What the lists lack may stand among the package's main data.
         return map(_clean, found) if found else po.returnFileEntries("file")

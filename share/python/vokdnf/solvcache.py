@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
 """DNF's cache files. What file belongs to which metadata is told by the mark that libdnf puts at the head
-of each: a digest of the repository's index, and the versions that wrote it. File lists are read of them
-with libsolv's own binding, where it is there: the library's way takes a time that grows with the square
-of the number of directories."""
+of each: a digest of the repository's index, and the versions that wrote it. libsolv's own binding, where
+it is installed, reads file lists and the times of changes: hawkey takes a time for file lists that grows
+with the square of the number of directories, and gives only the local day of a change."""
 
 import os
 import struct
@@ -32,25 +32,27 @@ def head(path):
 
 class Cached:
     """What the cache has of one loaded repository: `mark`, which changes with the metadata, b"" when
-    unknown; the path of the file lists; the path for what VOK keeps of it."""
+    unknown; `stem`, the beginning of the paths of its files; the path for what VOK keeps of it."""
 
     def __init__(self, directory, repo_id):
-        stem = os.path.join(directory, repo_id)
-        _, self.mark = head(stem + ".solv")
-        self.file_lists = stem + "-filenames.solvx"
-        self.search = stem + "-vok.search"
+        self.stem = os.path.join(directory, repo_id)
+        _, self.mark = head(self.stem + ".solv")
+        self.search = self.stem + "-vok.search"
 
 
-class FileLists:
-    """The file lists of a repository by the place of the package in it."""
+class _Extension:
+    """One file of further data of a repository, read by the place of the package in it."""
+
+    SUFFIX = None  # of the file
 
     @classmethod
     def open(cls, cached, count):
-        """None when they are not those of the metadata that were loaded, or cannot be read here."""
-        if solv is None or not cached.mark or head(cached.file_lists) != (count, cached.mark):
+        """None when the file is not that of the metadata that were loaded, or cannot be read here."""
+        path = cached.stem + cls.SUFFIX
+        if solv is None or not cached.mark or head(path) != (count, cached.mark):
             return None
         try:
-            return cls(cached.file_lists, count)
+            return cls(path, count)
         except OSError:
             return None
 
@@ -64,11 +66,31 @@ class FileLists:
         if not stream or not repo.add_solv(
                 stream, solv.Repo.REPO_EXTEND_SOLVABLES | solv.Repo.REPO_LOCALPOOL):
             raise OSError(path)
+
+    def _search(self, place, key):
+        return self._pool.id2solvable(self._first + place).Dataiterator(key)
+
+
+class ChangeTimes(_Extension):
+    SUFFIX = "-other.solvx"
+
+    def of(self, place):
+        """Seconds since 1970 of each change, in the order of hawkey's change logs, which reverse the metadata's."""
+        search = self._search(place, solv.SOLVABLE_CHANGELOG_TIME)
+        search.prepend_keyname(solv.SOLVABLE_CHANGELOG)
+        return [match.num for match in search][::-1]
+
+
+class FileLists(_Extension):
+    SUFFIX = "-filenames.solvx"
+
+    def __init__(self, path, count):
+        super().__init__(path, count)
         self._directories = {}
 
     def of(self, place):
         found, known = [], self._directories
-        for match in self._pool.id2solvable(self._first + place).Dataiterator(solv.SOLVABLE_FILELIST):
+        for match in self._search(place, solv.SOLVABLE_FILELIST):
             directory = match.id
             path = known.get(directory)
             if path is None:
