@@ -94,17 +94,18 @@ int keyword(const char *option, std::initializer_list<const char *> keywords)
     return number;
 }
 
-[[noreturn]] void rejectOption(char **argv)
+// Of a long option that lacks its argument or must not have one, getopt_long tells the letter too.
+[[noreturn]] void rejectOption(const char *word)
 {
-    // A long option without a letter, that lacks its argument or must not have one, is named whole.
-    if (optopt > 0 && optopt < disableRepo)
-        fprintf(stderr, "%s: unrecognized option letter: %c\n", name().constData(), optopt);
+    if (strncmp(word, "--", 2) == 0)
+        fprintf(stderr, "%s: unrecogized option: %s\n", name().constData(), word);
     else
-        fprintf(stderr, "%s: unrecogized option: %s\n", name().constData(), argv[optind - 1]);
+        fprintf(stderr, "%s: unrecognized option letter: %c\n", name().constData(), optopt);
     usage();
 }
 
-void applyOption(int option, char **argv, MainWindow &window)
+// The word is the argument in which the option begins.
+void applyOption(int option, const char *word, MainWindow &window)
 {
     switch (option) {
     case 'h':
@@ -137,7 +138,7 @@ void applyOption(int option, char **argv, MainWindow &window)
         window.addRepoRequest(YumRepoEnabled(option == enableRepo, QString::fromLocal8Bit(optarg)));
         break;
     default:
-        rejectOption(argv);
+        rejectOption(word);
     }
 }
 
@@ -147,10 +148,11 @@ void applyCommandLine(int argc, char **argv, MainWindow &window)
 {
     opterr = 0;
     for (;;) {
+        const char *word = argv[optind];
         const int option = getopt_long(argc, argv, letters, longOptions, nullptr);
         if (option == -1)
             break;
-        applyOption(option, argv, window);
+        applyOption(option, word, window);
     }
     if (optind < argc) {
         fprintf(stderr, "%s: unrecognized argument: %s\n", name().constData(), argv[optind]);
