@@ -13,6 +13,7 @@ import dnf.conf.read
 import dnf.exceptions
 import dnf.repo
 import dnf.rpm
+import dnf.yum.misc
 import libdnf.conf
 import libdnf.error
 
@@ -22,11 +23,14 @@ from .translation import tr
 MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf", "/etc/dnf/dnf.conf")
 REPO_DIRECTORIES = ("/etc/yum.repos.d", "/etc/yum/repos.d")
 CACHE_DIRECTORY = "/var/cache/yum"
+LOG_DIRECTORY = "/var/log"
 # Without these the system cannot mend itself; a protected_packages option takes their place.
 FOUNDATIONS = ("dnf", "filesystem", "glibc", "rpm", "setup", "systemd", "yum")
 # What reading a repository raises; the last is the binding's word for text that is not UTF-8.
 READING_ERRORS = (dnf.exceptions.Error, libdnf.error.Error, RuntimeError, TypeError)
 _SET_BY_FILE = dnf.conf.PRIO_MAINCONFIG
+# Where DNF keeps an ordinary user's cache and locks. Its own answer is a new directory in /var/tmp.
+dnf.yum.misc.getCacheDir = root.user_cache
 
 
 def main_file():
@@ -132,6 +136,8 @@ def _release_of(conf, opened):
 def _directories(conf):
     if conf._get_priority("cachedir") < _SET_BY_FILE:
         conf.cachedir = CACHE_DIRECTORY
+    if conf._get_priority("logdir") < _SET_BY_FILE:
+        conf.logdir = LOG_DIRECTORY
     for option in ("cachedir", "logdir", "persistdir"):
         if conf.installroot != "/":
             conf.prepend_installroot(option)

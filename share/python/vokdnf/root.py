@@ -60,7 +60,9 @@ def inside(path):
 def user_cache():
     """A directory for caches of the user and this system; where even that cannot be written, one that
     goes with the process."""
-    base = os.environ.get("XDG_CACHE_HOME") or os.path.expanduser("~/.cache")
+    base = os.environ.get("XDG_CACHE_HOME", "")
+    if not os.path.isabs(base):
+        base = os.path.expanduser("~/.cache")
     path = os.path.join(base, "vok", prefix().strip("/").replace("/", "-") or "system")
     if writable(path):
         return path
