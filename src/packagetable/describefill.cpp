@@ -276,7 +276,8 @@ void Dialog::fillUpdate()
 void Dialog::fillMembers()
 {
     m_members->clear();
-    const auto add = [&](const QString &title, const QString &names, bool packages = true) {
+    const auto add = [&](const QString &title, const QString &names, bool packages = true,
+                         const QHash<QString, QString> &conditions = {}) {
         const QStringList members = lines(names);
         if (members.isEmpty())
             return;
@@ -285,11 +286,14 @@ void Dialog::fillMembers()
         section->setFirstColumnSpanned(true);
         for (const QString &name : members) {
             const Entry *member = packages ? m_yumIO->packageNamed(name) : nullptr;
+            const QString needed = conditions.value(name);
+            const QString text =
+                needed.isEmpty() ? name : tr("%1 (if %2 is installed)").arg(name, needed);
             auto *item = new QTreeWidgetItem(
-                section, !packages ? QStringList{name}
-                         : member  ? QStringList{name, YumIO::getState(member->state),
+                section, !packages ? QStringList{text}
+                         : member  ? QStringList{text, YumIO::getState(member->state),
                                                 member->verRel, shown(member->summary)}
-                                   : QStringList{name, tr("Not available")});
+                                   : QStringList{text, tr("Not available")});
             if (member)
                 item->setIcon(0, shareIcon(kindIconName(member->kind)));
         }
@@ -299,7 +303,8 @@ void Dialog::fillMembers()
     add(tr("Mandatory packages"), m_yumIO->getMandatoryPkgs(entry));
     add(tr("Default packages"), m_yumIO->getDefaultPkgs(entry));
     add(tr("Optional packages"), m_yumIO->getOptionalPkgs(entry));
-    add(tr("Conditional packages"), m_yumIO->getConditionalPkgs(entry));
+    add(tr("Conditional packages"), m_yumIO->getConditionalPkgs(entry), true,
+        m_yumIO->getConditions(entry));
     m_members->expandAll();
     for (int column = 0; column < m_members->columnCount(); ++column)
         m_members->resizeColumnToContents(column);

@@ -42,6 +42,20 @@ QString YumIO::getConditionalPkgs(const Package::Entry &entry)
     return hasDistribGroups() ? getGroupPkgs(entry, "", "conditional_packages") : QString();
 }
 
+QHash<QString, QString> YumIO::getConditions(const Package::Entry &entry)
+{
+    QHash<QString, QString> conditions;
+    if (!hasDistribGroups())
+        return conditions;
+    const PyGILStateWrapper lock(true);
+    const PyRef members(getGroupItem_25(entry, "conditional_packages"));
+    PyObject *member, *needed;
+    for (Py_ssize_t at = 0; members && PyDict_Check(members.get()) &&
+                            PyDict_Next(members.get(), &at, &member, &needed);)
+        conditions.insert(pyString(member), pyString(needed));
+    return conditions;
+}
+
 QString YumIO::getGroupDescription(const Package::Entry &entry)
 {
     const PyGILStateWrapper lock(true);

@@ -190,6 +190,8 @@ public:
     QString getDefaultPkgs(const Package::Entry &);
     QString getOptionalPkgs(const Package::Entry &);
     QString getConditionalPkgs(const Package::Entry &);
+    // What each conditional member of a group depends on, by the member's name.
+    QHash<QString, QString> getConditions(const Package::Entry &entry);
     QString getGroupDescription(const Package::Entry &);
     // Bytes that the package's files take, or will take; 0 when that is not known.
     quint64 getInstalledSize(const Package::Entry &);

@@ -89,6 +89,8 @@ private Q_SLOTS:
         QCOMPARE(m_case.engine.getDefaultPkgs(group), QStringLiteral("d"));
         QCOMPARE(m_case.engine.getOptionalPkgs(group), QString());
         QCOMPARE(m_case.engine.getConditionalPkgs(group), QStringLiteral("c"));
+        QCOMPARE(m_case.engine.getConditions(group).value(QStringLiteral("c")),
+                 QStringLiteral("d"));
         // What only packages have is nothing to complain about.
         for (Getter getter : {&YumIO::getDescription, &YumIO::getBinaryRpm, &YumIO::getInstallTime,
                               &YumIO::getFiles, &YumIO::getChangeLog})
