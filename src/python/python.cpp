@@ -5,7 +5,8 @@
 
 #include "python.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
+#include <QString>
 
 #include <algorithm>
 #include <cstdio>
@@ -14,7 +15,7 @@
 namespace {
 
 constexpr size_t statementSize = 10240;
-constexpr size_t messageSize = 1024;
+constexpr qsizetype messageSize = 1023;
 
 // The interpreter of the distribution: neither the user's environment nor the locale, which is the
 // program's own affair, has a say in what it loads and how it reads texts.
@@ -119,11 +120,20 @@ bool Python::initialize()
     return true;
 }
 
+// `format`, looked up for translation before its arguments are filled in, has a "%s" for each.
 void Python::report(const char *format, const char *first, const char *second)
 {
-    char message[messageSize];
-    std::snprintf(message, sizeof message, format, first, second);
-    error(message);
+    QString message = QCoreApplication::translate("Python", format);
+    qsizetype place = 0;
+    for (const char *argument : {first, second}) {
+        place = message.indexOf(QLatin1String("%s"), place);
+        if (place == -1)
+            break;
+        const QString text = QString::fromUtf8(argument);
+        message.replace(place, 2, text);
+        place += text.size();
+    }
+    error(message.left(messageSize).toUtf8().constData());
 }
 
 void Python::py(const char *text)
@@ -193,11 +203,11 @@ PyObject *Python::pyVCall(const char *name, const char *format, va_list argument
 {
     PyObject *callable = pyLookup(name, false);
     if (!callable) {
-        report("Internal error: %s not found\n", name);
+        report(QT_TRANSLATE_NOOP("Python", "Internal error: %s not found\n"), name);
         return nullptr;
     }
     if (!PyCallable_Check(callable)) {
-        report("Internal error: %s not callable\n", name);
+        report(QT_TRANSLATE_NOOP("Python", "Internal error: %s not callable\n"), name);
         return nullptr;
     }
     return callAndRelease(callable, format, arguments);
@@ -216,16 +226,18 @@ PyObject *Python::pyVMethodCall(PyObject *self, const char *method, const char *
                                 va_list arguments)
 {
     if (!self) {
-        report("Internal error: method %s call attemped with NULL self\n", method);
+        report(
+            QT_TRANSLATE_NOOP("Python", "Internal error: method %s call attemped with NULL self\n"),
+            method);
         return nullptr;
     }
     const PyRef callable(PyObject_GetAttrString(self, method));
     if (!callable) {
-        report("Internal error: method %s not found\n", method);
+        report(QT_TRANSLATE_NOOP("Python", "Internal error: method %s not found\n"), method);
         return nullptr;
     }
     if (!PyCallable_Check(callable.get())) {
-        report("Internal error: method %s not callable\n", method);
+        report(QT_TRANSLATE_NOOP("Python", "Internal error: method %s not callable\n"), method);
         return nullptr;
     }
     return callAndRelease(callable.get(), format, arguments);
@@ -257,11 +269,13 @@ PyObject *Python::pyLookup(const char *name, bool quiet)
             if (PyModule_Check(object))
                 dict = PyModule_GetDict(object);
             if (!dict)
-                return fail("Internal error: module %s lacks dictionary\n", segment);
+                return fail(
+                    QT_TRANSLATE_NOOP("Python", "Internal error: module %s lacks dictionary\n"),
+                    segment);
             object = PyDict_Check(dict) ? PyDict_GetItemString(dict, segment.c_str()) : nullptr;
         }
         if (!object)
-            return fail("Internal error: %s not found\n", segment);
+            return fail(QT_TRANSLATE_NOOP("Python", "Internal error: %s not found\n"), segment);
         begin = dot + 1;
     }
     return object;
@@ -272,14 +286,14 @@ PyObject *Python::moduleDict(const char *path)
 {
     PyObject *object = pyLookup(path, false);
     if (!object) {
-        report("Internal error: %s not found\n", path);
+        report(QT_TRANSLATE_NOOP("Python", "Internal error: %s not found\n"), path);
         return nullptr;
     }
     if (!PyModule_Check(object))
         return object;
     PyObject *dict = PyModule_GetDict(object);
     if (!dict)
-        report("Internal error: module %s lacks dictionary\n", path);
+        report(QT_TRANSLATE_NOOP("Python", "Internal error: module %s lacks dictionary\n"), path);
     return dict;
 }
 
@@ -302,7 +316,7 @@ void Python::pyAssign(const char *module, const char *name, PyObject *value)
     if (PyErr_Occurred())
         handleException();
     else
-        report("Internal error: cannot assign %s.%s\n", module, name);
+        report(QT_TRANSLATE_NOOP("Python", "Internal error: cannot assign %s.%s\n"), module, name);
 }
 
 int Python::pyAssignGlobal(const char *name, PyObject *value)
