@@ -142,6 +142,7 @@ bool YumIO::applyGrpRemove(const Package::Entry *group)
     return true;
 }
 
+// Nothing is asked where the group implies the mark that the package has. 0 when the user cancelled.
 int YumIO::applyGrpConflict(const Package::Entry *group, Package::Entry *package)
 {
     Package::Action implied;
@@ -158,6 +159,12 @@ int YumIO::applyGrpConflict(const Package::Entry *group, Package::Entry *package
     default:
         error(tr("Internal error: applyGrpConflict unexpected package state\n"));
         return 0;
+    }
+    if (group->applyAction == Package::Action::Remove && implied == Package::Action::Update)
+        implied = Package::Action::Remove;
+    if (package->applyAction == implied) {
+        applyGrpLogWas(group, package);
+        return 1;
     }
     const QString groupAction = actionName(group->applyAction);
     const QString impliedName = actionName(implied);

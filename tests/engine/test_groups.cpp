@@ -61,23 +61,31 @@ yumIOC.log(9, 'noted %r' % io.noted)
     void asksAboutConflicts_data()
     {
         // lists: empty when the apply was stopped
-        columns<QString, QString>("button", "lists");
-        row("the group's way", s("Update"), s("['beta'] ['alpha'] []"));
-        row("the mark's way", s("Remove"), s("['beta'] [] ['alpha']"));
-        row("cancel", s("Cancel"), QString());
+        columns<QString, QString, QString, QString>("group", "mark", "button", "lists");
+        row("the group's way", "Update", "Remove", "Update", "['beta'] ['alpha'] []");
+        row("the mark's way", "Update", "Remove", "Remove", "['beta'] [] ['alpha']");
+        row("cancel", "Update", "Remove", "Cancel", "");
+        row("removal", "Remove", "Update", "Remove", "['beta'] [] ['alpha', 'gamma']");
+        row("update kept", "Remove", "Update", "Update", "['beta'] ['alpha'] ['gamma']");
     }
 
     void asksAboutConflicts()
     {
+        QFETCH(QString, group);
+        QFETCH(QString, mark);
         QFETCH(QString, button);
         QFETCH(QString, lists);
         Answers answers({button});
-        m_case.apply({s("@Tools update"), s("alpha remove")}, reporting(), answers);
+        QStringList marks{s("@Tools ") + group.toLower(), s("alpha ") + mark.toLower()};
+        if (group == s("Remove"))
+            marks.append(s("beta install")); // which is not installed, so nothing is asked
+        m_case.apply(marks, reporting(), answers);
         QCOMPARE(answers.texts(),
                  QStringList(s("Package alpha is included in group Tools which was marked for "
-                               "Update,\nso the package would be marked for Update,\nbut it was "
-                               "marked individually for Remove.\nHow do you wish to proceed?")));
-        QCOMPARE(answers.shown[0].buttons, QStringList({s("Update"), s("Remove"), s("Cancel")}));
+                               "%1,\nso the package would be marked for %1,\nbut it was "
+                               "marked individually for %2.\nHow do you wish to proceed?")
+                                 .arg(group, mark)));
+        QCOMPARE(answers.shown[0].buttons, QStringList({group, mark, s("Cancel")}));
         const QStringList reports = m_case.logged().filter(s("lists "));
         QCOMPARE(reports, lists.isEmpty() ? QStringList() : QStringList(s("0/9 lists ") + lists));
     }
