@@ -5,9 +5,19 @@
 
 #include "package.h"
 
+#include <QHash>
 #include <QSet>
+#include <QStringList>
 
 namespace Engine {
+
+// A package that comes or goes, as the listing has weighed it.
+struct Element
+{
+    QString name;
+    qint64 weight = 0;
+    bool completesUpdate = false; // it goes because a newer version has come
+};
 
 // The apply in progress: where it stands on the bars, in acts of resolution, then of the download,
 // then of the transaction's elements. Bytes of large transactions exceed 32 bits.
@@ -26,6 +36,9 @@ struct Apply
     qint64 downloadBudget = 0;
     qint64 transactionWeight = 0;
     QSet<const Package::Entry *> arriving; // rows that get a package
+    // By package tuple: name, architecture, epoch, version, release.
+    QHash<QStringList, Element> coming;
+    QHash<QStringList, Element> going;
     // The transaction.
     bool eventsStarted = false;
     qint64 lastElement = 0;

@@ -134,22 +134,23 @@ void YumIO::startInstall(PyObject *key, Steps total)
                   .arg(name, arch));
         return;
     }
-    startInstallElement(entry, entry->applyAction == Package::Action::Update, total);
+    startInstallElement(entry, Weights::install(entry->size),
+                        entry->applyAction == Package::Action::Update, total);
 }
 
-void YumIO::startInstallElement(Package::Entry *entry, bool isUpdate, Steps total)
+void YumIO::startInstallElement(Package::Entry *entry, qint64 weight, bool isUpdate, Steps total)
 {
     const QString text =
         isUpdate ? tr("Updating %1").arg(entry->name) : tr("Installing %1").arg(entry->name);
-    m_apply.actPosition += Steps(Weights::install(entry->size));
+    m_apply.actPosition += Steps(weight);
     entry->started = true;
     log(Log::Kind::Normal, 1, text);
     m_progress->startItemAct(text, total, m_apply.actPosition);
 }
 
-// An erasure is told by name alone, so each one takes the next version of the name that rpm has not
-// begun. `unexpected` and `tooMany` are the warnings for a name that nothing was to be erased of
-// and for one too many.
+// Where an erasure is reported by name alone, each one takes the next version of the name that rpm
+// has not begun. `unexpected` and `tooMany` are the warnings for a name that nothing was to be
+// erased of and for one too many.
 void YumIO::startErase(const QString &name, bool mayBeUpdate, Steps total,
                        const QString &unexpected, const QString &tooMany)
 {
@@ -174,11 +175,31 @@ void YumIO::startErase(const QString &name, bool mayBeUpdate, Steps total,
         entry = row;
     }
     entry->started = true;
-    m_apply.actPosition +=
-        Steps(isUpdate ? Weights::completion(entry->size) : Weights::removal(entry->size));
-    m_progress->startItemAct(isUpdate ? tr("Completing update for: %1").arg(name)
-                                      : tr("Removing %1").arg(name),
+    const qint64 weight =
+        isUpdate ? Weights::completion(entry->size) : Weights::removal(entry->size);
+    startEraseElement({name, weight, isUpdate}, total);
+}
+
+void YumIO::startEraseElement(const Engine::Element &element, Steps total)
+{
+    m_apply.actPosition += Steps(element.weight);
+    m_progress->startItemAct(element.completesUpdate
+                                 ? tr("Completing update for: %1").arg(element.name)
+                                 : tr("Removing %1").arg(element.name),
                              total, m_apply.actPosition);
+}
+
+// A text is a package's name, which may carry the package tuple too.
+void YumIO::eraseEvent(PyObject *package, bool mayBeUpdate, Steps total)
+{
+    const auto listed = m_apply.going.constFind(tupleOf(package));
+    if (listed != m_apply.going.cend()) {
+        startEraseElement(*listed, total);
+        return;
+    }
+    startErase(pyString(package), mayBeUpdate, total,
+               tr("Internal error: YumIO::tsCallback REMOVE/COMPLETE of %1 not expected"),
+               tr("Internal error: YumIO::tsCallback UNINST of %1 too many times"));
 }
 
 PyObject *YumIO::tsEvent(PyObject *, PyObject *args)
@@ -212,9 +233,7 @@ PyObject *YumIO::tsEvent(PyObject *, PyObject *args)
     case ObsoletedElement:
     case UpdatedElement:
         if (isNew) {
-            startErase(pyString(package), action != EraseElement, steps(elementTotal),
-                       tr("Internal error: YumIO::tsCallback REMOVE/COMPLETE of %1 not expected"),
-                       tr("Internal error: YumIO::tsCallback UNINST of %1 too many times"));
+            eraseEvent(package, action != EraseElement, steps(elementTotal));
             m_apply.lastElement = element;
         }
         m_progress->setItemValue(steps(elementDone));
@@ -243,6 +262,9 @@ bool YumIO::installEvent(PyObject *package, bool isUpdate, Steps total)
                   .arg(isUpdate ? tr("update") : tr("install"), name, arch));
         return false;
     }
-    startInstallElement(entry, isUpdate, total);
+    const auto listed = m_apply.coming.constFind(tupleOf(package));
+    startInstallElement(
+        entry, listed != m_apply.coming.cend() ? listed->weight : Weights::install(entry->size),
+        isUpdate, total);
     return true;
 }

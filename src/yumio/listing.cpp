@@ -12,6 +12,7 @@
 #include "transactionlists.h"
 #include "yumio.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -128,7 +129,7 @@ PyObject *YumIO::confirmRemovals(PyObject *, PyObject *args)
 bool YumIO::writeListing(const TransactionLists &lists)
 {
     const auto isEmpty = [](PyObject *list) {
-        const Py_ssize_t size = PyObject_Size(list);
+        const Py_ssize_t size = list ? PyObject_Size(list) : 0;
         if (size < 0)
             PyErr_Clear();
         return size == 0;
@@ -136,13 +137,19 @@ bool YumIO::writeListing(const TransactionLists &lists)
     m_confirmation.text += tr("Transaction to be performed:\n");
     if (!displayTransactionPkgsRepo(tr("Install"), lists.installed) ||
         !displayTransactionPkgsRepo(tr("Update"), lists.updated) ||
-        !displayTransactionPkgs(tr("Remove"), lists.removed))
+        !displayTransactionPkgs(tr("Remove"), lists.removed) ||
+        !displayTransactionPkgsFrom(tr("Downgrade"), lists.downgraded, true) ||
+        !displayTransactionPkgsFrom(tr("Reinstall"), lists.reinstalled, true))
         return false;
-    if (!isEmpty(lists.depinstalled) || !isEmpty(lists.depupdated) || !isEmpty(lists.depremoved)) {
+    PyObject *const dependencies[] = {lists.depinstalled, lists.depupdated, lists.depremoved,
+                                      lists.depdowngraded, lists.depreinstalled};
+    if (!std::all_of(std::begin(dependencies), std::end(dependencies), isEmpty)) {
         m_confirmation.text += tr("Performing the following to resolve dependencies:\n");
         if (!displayTransactionPkgsRepo(tr("Install"), lists.depinstalled) ||
             !displayTransactionPkgsRepo(tr("Update"), lists.depupdated) ||
-            !displayTransactionPkgs(tr("Remove"), lists.depremoved))
+            !displayTransactionPkgs(tr("Remove"), lists.depremoved) ||
+            !displayTransactionPkgsFrom(tr("Downgrade"), lists.depdowngraded, true) ||
+            !displayTransactionPkgsFrom(tr("Reinstall"), lists.depreinstalled, true))
             return false;
     }
     if (!isEmpty(lists.obsoleted)) {
@@ -162,7 +169,9 @@ PyObject *YumIO::listTransaction(PyObject *, PyObject *args)
     if (!makeLists(owner, lists) || !writeListing(lists))
         return failedCallback("the transaction cannot be listed");
 
-    noteTransactionPkgs(Package::Action::Install, lists.installed);
+    for (PyObject *list : {lists.downgraded, lists.reinstalled, lists.depdowngraded,
+                           lists.depreinstalled, lists.installed})
+        noteTransactionPkgs(Package::Action::Install, list);
     noteTransactionPkgs(Package::Action::Update, lists.updated);
     noteTransactionPkgs(Package::Action::Remove, lists.removed);
     noteTransactionPkgs(Package::Action::Install, lists.depinstalled);
@@ -184,13 +193,18 @@ PyObject *YumIO::postTransactionOutput(PyObject *, PyObject *args)
     if (!makeLists(owner, lists))
         return failedCallback("the transaction cannot be listed");
     const qsizetype before = m_confirmation.text.size();
-    const bool written = displayTransactionPkgs(tr("Removed"), lists.removed) &&
-                         displayTransactionPkgs(tr("Dependency Removed"), lists.depremoved) &&
-                         displayTransactionPkgs(tr("Installed"), lists.installed) &&
-                         displayTransactionPkgs(tr("Dependency Installed"), lists.depinstalled) &&
-                         displayTransactionPkgs(tr("Updated"), lists.updated) &&
-                         displayTransactionPkgs(tr("Dependency Updated"), lists.depupdated) &&
-                         displayTransactionPkgs(tr("Obsoleted"), lists.obsoleted);
+    const bool written =
+        displayTransactionPkgs(tr("Removed"), lists.removed) &&
+        displayTransactionPkgs(tr("Dependency Removed"), lists.depremoved) &&
+        displayTransactionPkgs(tr("Installed"), lists.installed) &&
+        displayTransactionPkgs(tr("Dependency Installed"), lists.depinstalled) &&
+        displayTransactionPkgs(tr("Updated"), lists.updated) &&
+        displayTransactionPkgs(tr("Dependency Updated"), lists.depupdated) &&
+        displayTransactionPkgs(tr("Obsoleted"), lists.obsoleted) &&
+        displayTransactionPkgsFrom(tr("Downgraded"), lists.downgraded, false) &&
+        displayTransactionPkgsFrom(tr("Dependency Downgraded"), lists.depdowngraded, false) &&
+        displayTransactionPkgsFrom(tr("Reinstalled"), lists.reinstalled, false) &&
+        displayTransactionPkgsFrom(tr("Dependency Reinstalled"), lists.depreinstalled, false);
     QString outcome = m_confirmation.text.mid(before);
     if (outcome.endsWith(QLatin1Char('\n')))
         outcome.chop(1);
@@ -207,8 +221,8 @@ PyObject *YumIO::failedCallback(const char *reason)
     return nullptr;
 }
 
-// (name, arch, epoch, version, release) as "name epoch:version-release (arch)".
-QString YumIO::pkgtupFormat(PyObject *pkgtup)
+// The five texts of a package tuple: name, architecture, epoch, version, release.
+QStringList YumIO::pkgtupItems(PyObject *pkgtup)
 {
     QStringList items;
     for (Py_ssize_t i = 0; i < 5; ++i) {
@@ -217,6 +231,20 @@ QString YumIO::pkgtupFormat(PyObject *pkgtup)
             PyErr_Clear();
         items.append(item ? pyStringX(item.get()) : QString());
     }
+    return items;
+}
+
+// The tuple that an object has as its "pkgtup"; empty when it has none.
+QStringList YumIO::tupleOf(PyObject *package)
+{
+    const PyRef pkgtup = attribute(package, "pkgtup");
+    return pkgtup ? pkgtupItems(pkgtup.get()) : QStringList();
+}
+
+// As "name epoch:version-release (arch)".
+QString YumIO::pkgtupFormat(PyObject *pkgtup)
+{
+    const QStringList items = pkgtupItems(pkgtup);
     if (items[2] == QLatin1String("0"))
         return tr("%1 %3-%4 (%2)").arg(items[0], items[1], items[3], items[4]);
     return tr("%1 %3:%4-%5 (%2)").arg(items[0], items[1], items[2], items[3], items[4]);
@@ -227,10 +255,13 @@ QString YumIO::pkgtupRepoFormat(PyObject *pkgtup, const QString &repo)
     return pkgtupFormat(pkgtup) + tr(" [%1]").arg(repo);
 }
 
-// Calls `line` for each member with its package tuple; false when one lacks it or `line` fails.
+// Calls `line` for each member with its package tuple; false when one lacks it or `line` fails. A null
+// list is empty.
 bool YumIO::forEachMember(PyObject *list,
                           const std::function<bool(PyObject *member, PyObject *pkgtup)> &line)
 {
+    if (!list)
+        return true;
     const PyRef iterator(PyObject_GetIter(list));
     if (!iterator)
         return false;
@@ -282,6 +313,24 @@ bool YumIO::displayTransactionPkgsObs(const QString &title, PyObject *list)
     });
 }
 
+// With the installed package that the member replaces, unless it is the same version and architecture.
+bool YumIO::displayTransactionPkgsFrom(const QString &title, PyObject *list, bool withRepo)
+{
+    return forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
+        const PyRef replaces = attribute(member, "replaces");
+        const PyRef old(replaces ? PySequence_GetItem(replaces.get(), 0) : nullptr);
+        PyErr_Clear();
+        const PyRef from = old ? attribute(old.get(), "pkgtup") : PyRef();
+        const QString to = withRepo ? pkgtupRepoFormat(pkgtup, attributeText(member, "repoid"))
+                                    : pkgtupFormat(pkgtup);
+        const bool isSame = !from || pkgtupItems(from.get()) == pkgtupItems(pkgtup);
+        m_confirmation.text +=
+            isSame ? tr("\t%1: %2\n").arg(title, to)
+                   : tr("\t%1: %2 to %3\n").arg(title, pkgtupFormat(from.get()), to);
+        return true;
+    });
+}
+
 bool YumIO::makeLists(PyObject *owner, TransactionLists &lists)
 {
     lists.tsInfo = attribute(owner, "tsInfo");
@@ -318,6 +367,15 @@ bool YumIO::makeLists(PyObject *owner, TransactionLists &lists)
             return false;
         }
         *outputs[i] = lists.kept[i].get();
+    }
+    PyObject **const others[] = {&lists.downgraded, &lists.reinstalled, &lists.depdowngraded,
+                                 &lists.depreinstalled};
+    static const char *const otherNames[] = {"downgraded", "reinstalled", "depdowngraded",
+                                             "depreinstalled"};
+    for (size_t i = 0; i < std::size(otherNames); ++i) {
+        PyRef &kept = lists.kept[std::size(names) + i];
+        kept = attribute(lists.tsInfo.get(), otherNames[i]);
+        *others[i] = kept.get();
     }
     return true;
 }

@@ -14,6 +14,17 @@
 
 #include <algorithm>
 
+namespace {
+
+// The package of a member, null when it has none. Its row may have another version.
+PyRef memberPackage(PyObject *member)
+{
+    const PyRef po = attribute(member, "po");
+    return po.get() == Py_None ? PyRef() : po;
+}
+
+} // namespace
+
 void YumIO::dsTsInfo(const char *text)
 {
     const QString line = QString::fromUtf8(text);
@@ -101,11 +112,6 @@ PyObject *YumIO::dsRestartLoop(PyObject *, PyObject *)
 // The version as rows show it, so that a member finds its own among several installed ones.
 QString YumIO::memberVersion(PyObject *member)
 {
-    const PyRef po = attribute(member, "po");
-    if (po && po.get() != Py_None) {
-        PyObject *text = pyMethodCall(po.get(), "printVer", "()");
-        return text ? pyStringDec(text) : QString();
-    }
     const QString epoch = attributeText(member, "epoch");
     const QString version =
         attributeText(member, "ver") + QLatin1Char('-') + attributeText(member, "rel");
@@ -118,11 +124,8 @@ QString YumIO::memberVersion(PyObject *member)
 void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
 {
     forEachMember(list, [&](PyObject *member, PyObject *pkgtup) {
-        const PyRef nameItem(PySequence_GetItem(pkgtup, 0)),
-            archItem(PySequence_GetItem(pkgtup, 1));
-        PyErr_Clear();
-        const QString name = nameItem ? pyString(nameItem.get()) : QString();
-        const QString arch = archItem ? pyString(archItem.get()) : QString();
+        const QStringList tuple = pkgtupItems(pkgtup);
+        const QString name = tuple[0], arch = tuple[1];
         Package::Entry *entry = m_store.byKey.value(EntryKey(false, name, getBiArch(arch)));
         if (!entry) {
             error(tr("Internal error: Unable to find package for install/update/remove of %1.%2")
@@ -130,10 +133,10 @@ void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
             return true;
         }
         if (action == Package::Action::Remove) {
-            weighRemoval(entry, memberVersion(member));
+            weighRemoval(entry, member, tuple);
         } else {
             m_apply.arriving.insert(entry);
-            weighInstall(entry, action, attribute(member, "replaces").get());
+            weighInstall(entry, action, member, tuple);
         }
         if (entry->applyAction == Package::Action::None ||
             (action == Package::Action::Remove && !m_apply.arriving.contains(entry)))
@@ -143,48 +146,70 @@ void YumIO::noteTransactionPkgs(Package::Action action, PyObject *list)
     PyErr_Clear();
 }
 
-// `replaces` holds the installed versions that go, null when all do. The others stay beside the new
-// one, so no event may take them for begun.
-void YumIO::weighInstall(Package::Entry *entry, Package::Action action, PyObject *replaces)
+// A package that several others replace is weighed once.
+void YumIO::weigh(QHash<QStringList, Engine::Element> &elements, const QStringList &tuple,
+                  const Engine::Element &element)
 {
-    const qint64 bytes = downloadWeight(entry);
-    m_apply.bytesTotal += bytes;
-    if (!QFile::exists(getLocalPkg(entry->po)))
-        m_apply.bytesToDownload += bytes;
-    m_apply.transactionWeight += Weights::install(entry->size);
-    if (action != Package::Action::Update)
+    if (elements.contains(tuple))
         return;
-    const QStringList going = replaces ? textsOf(replaces) : QStringList();
-    for (Package::Entry *old = entry->next; old; old = old->next) {
-        if (!replaces || going.contains(old->verRel))
-            m_apply.transactionWeight += Weights::completion(old->size);
-        else
-            old->started = true;
-    }
+    elements.insert(tuple, element);
+    m_apply.transactionWeight += element.weight;
 }
 
-void YumIO::weighRemoval(Package::Entry *entry, const QString &version)
+void YumIO::weighInstall(Package::Entry *entry, Package::Action action, PyObject *member,
+                         const QStringList &tuple)
 {
-    Package::Entry *installed = entry->state == Package::State::Updatable ? entry->next : entry;
-    while (installed && installed->verRel != version)
-        installed = installed->next;
-    const bool makesRoom = installed && m_apply.arriving.contains(entry) &&
-                           entry->applyAction != Package::Action::Remove;
-    if (!makesRoom) {
-        m_apply.transactionWeight += Weights::removal(installed ? installed->size : 0);
+    const PyRef po = memberPackage(member);
+    const qint64 size = po ? qint64(sizeOf(po.get())) : entry->size;
+    const qint64 bytes = downloadWeight(size);
+    m_apply.bytesTotal += bytes;
+    if (!QFile::exists(getLocalPkg(po ? po.get() : entry->po)))
+        m_apply.bytesToDownload += bytes;
+    weigh(m_apply.coming, tuple, {tuple[0], Weights::install(size)});
+
+    if (action != Package::Action::Update)
         return;
+    // The installed packages that it replaces may be those of other rows. A script that does not list
+    // them means all versions of its own row.
+    const PyRef replaces = attribute(member, "replaces");
+    const PyRef iterator(replaces ? PyObject_GetIter(replaces.get()) : nullptr);
+    while (const PyRef old = PyRef(iterator ? PyIter_Next(iterator.get()) : nullptr)) {
+        const QStringList oldTuple = tupleOf(old.get());
+        weigh(m_apply.going, oldTuple,
+              {oldTuple.value(0), Weights::completion(qint64(sizeOf(old.get()))), true});
+    }
+    if (replaces)
+        return;
+    for (const Package::Entry *old = entry->next; old; old = old->next)
+        m_apply.transactionWeight += Weights::completion(old->size);
+}
+
+void YumIO::weighRemoval(Package::Entry *entry, PyObject *member, const QStringList &tuple)
+{
+    const PyRef po = memberPackage(member);
+    qint64 size = po ? qint64(sizeOf(po.get())) : 0;
+    if (!po) {
+        const QString version = memberVersion(member);
+        const Package::Entry *installed =
+            entry->state == Package::State::Updatable ? entry->next : entry;
+        while (installed && installed->verRel != version)
+            installed = installed->next;
+        size = installed ? installed->size : 0;
     }
     // It goes because another version comes, which its erasure completes.
-    entry->applyAction = Package::Action::Update;
-    installed->started = false;
-    m_apply.transactionWeight += Weights::completion(installed->size);
+    const bool makesRoom =
+        m_apply.arriving.contains(entry) && entry->applyAction != Package::Action::Remove;
+    if (makesRoom)
+        entry->applyAction = Package::Action::Update;
+    weigh(m_apply.going, tuple,
+          {tuple[0], makesRoom ? Weights::completion(size) : Weights::removal(size), makesRoom});
 }
 
 // Acts of the download stage: bytes where one bar adds up all files, else at least a share for
 // each file however small.
-qint64 YumIO::downloadWeight(const Package::Entry *entry)
+qint64 YumIO::downloadWeight(qint64 size)
 {
-    return hasMultiProgress() ? entry->size : std::max(entry->size, Weights::least);
+    return hasMultiProgress() ? size : std::max(size, Weights::least);
 }
 
 // What the rebuilding of packages from deltas has of the second total.

@@ -7,12 +7,12 @@
 
 #include <array>
 
-// The seven lists of a resolved transaction, borrowed from the objects that are held here.
+// The lists of a resolved transaction, borrowed from the objects that are held here.
 struct TransactionLists
 {
     PyRef tsInfo;
     PyRef made;
-    std::array<PyRef, 7> kept;
+    std::array<PyRef, 11> kept;
     PyObject *updated = nullptr;
     PyObject *installed = nullptr;
     PyObject *removed = nullptr;
@@ -20,4 +20,9 @@ struct TransactionLists
     PyObject *depupdated = nullptr;
     PyObject *depinstalled = nullptr;
     PyObject *depremoved = nullptr;
+    // Null where the script does not list these apart.
+    PyObject *downgraded = nullptr;
+    PyObject *reinstalled = nullptr;
+    PyObject *depdowngraded = nullptr;
+    PyObject *depreinstalled = nullptr;
 };

@@ -409,7 +409,9 @@ private:
     void endDownloads();
     quint64 deltaRebuildUnits();
     void startInstall(PyObject *key, quint64 total);
-    void startInstallElement(Package::Entry *entry, bool isUpdate, quint64 total);
+    void startInstallElement(Package::Entry *entry, qint64 weight, bool isUpdate, quint64 total);
+    void startEraseElement(const Engine::Element &element, quint64 total);
+    void eraseEvent(PyObject *package, bool mayBeUpdate, quint64 total);
     void startErase(const QString &name, bool mayBeUpdate, quint64 total, const QString &unexpected,
                     const QString &tooMany);
     bool installEvent(PyObject *package, bool isUpdate, quint64 total);
@@ -454,12 +456,15 @@ private:
     void dsTsInfo(const char *text);
     Package::Entry *dsTsFindPkg(const QString &pkg);
     void dsTsNewPkg(const QString &pkg, Package::Entry *entry, unsigned int ops, bool mayDownload);
+    QStringList pkgtupItems(PyObject *pkgtup);
+    QStringList tupleOf(PyObject *package);
     QString pkgtupFormat(PyObject *pkgtup);
     QString pkgtupRepoFormat(PyObject *pkgtup, const QString &repo);
     PyObject *addSizeLine(const QString &line, PyObject *args);
     bool displayTransactionPkgs(const QString &title, PyObject *list);
     bool displayTransactionPkgsRepo(const QString &title, PyObject *list);
     bool displayTransactionPkgsObs(const QString &title, PyObject *list);
+    bool displayTransactionPkgsFrom(const QString &title, PyObject *list, bool withRepo);
     void noteTransactionPkgs(Package::Action action, PyObject *list);
     bool makeLists(PyObject *owner, TransactionLists &lists);
     bool writeListing(const TransactionLists &lists);
@@ -467,9 +472,12 @@ private:
     bool forEachMember(PyObject *list,
                        const std::function<bool(PyObject *member, PyObject *pkgtup)> &line);
     QString memberVersion(PyObject *member);
-    void weighInstall(Package::Entry *entry, Package::Action action, PyObject *replaces);
-    void weighRemoval(Package::Entry *entry, const QString &version);
-    qint64 downloadWeight(const Package::Entry *entry);
+    void weigh(QHash<QStringList, Engine::Element> &elements, const QStringList &tuple,
+               const Engine::Element &element);
+    void weighInstall(Package::Entry *entry, Package::Action action, PyObject *member,
+                      const QStringList &tuple);
+    void weighRemoval(Package::Entry *entry, PyObject *member, const QStringList &tuple);
+    qint64 downloadWeight(qint64 size);
     static PyObject *failedCallback(const char *reason);
 
     // errors.cpp
@@ -488,6 +496,7 @@ private:
     void pythonException(const QString &text);
     void pythonExceptionV(const QString &text);
     bool fail(const QString &text);
+    void restBars();
     void holdReports();
     void showHeldReports();
     bool isHeld(const QString &text, bool isError);
@@ -496,6 +505,7 @@ private:
     void sigchldRestore();
 
     // report.cpp
+    void reportTest(const QStringList &lines);
     // Shows once what the script knows of a transaction that was cut off before this run.
     void reportInterrupted();
 

@@ -215,6 +215,39 @@ probe()
         QVERIFY(m_case.row(s("delta"))->action == Package::Action::None);
     }
 
+    // Packages that go need no row of their own, and one that comes may be of another size than its row.
+    void weighsWhatIsReplaced()
+    {
+        Answers answers({s("OK")});
+        QVERIFY(m_case.apply({s("beta install")}, s(R"(
+class Name(str):
+    pass
+def gone(po):
+    name = Name(po.name)
+    name.pkgtup = po.pkgtup
+    return name
+new, old, twin = P('gamma', '2', size=30000), INSTALLED[1], P('gamma', '1', 'i686', size=90000)
+down, former = P('echo', '0'), INSTALLED[5]
+io.tsInfo.depupdated, io.tsInfo.depdowngraded = [Member(new)], [Member(down)]
+io.tsInfo.depupdated[0].replaces, io.tsInfo.depdowngraded[0].replaces = [old, twin], [former]
+yumIOC.listTransaction(io)
+yumIOC.userconfirm()
+yumIOC.tsInitCallback(1)
+yumIOC.tsEvent(new, 10, 0, 7, 1, 4)
+yumIOC.tsEvent(down, 20, 0, 7, 2, 4)
+yumIOC.tsEvent(gone(twin), 90, 0, 7, 3, 4)
+yumIOC.tsEvent(gone(old), 90, 0, 7, 4, 4); probe()
+)"),
+                             answers));
+        QCOMPARE(answers.texts(),
+                 QStringList(s("Transaction to be performed:\n"
+                               "Performing the following to resolve dependencies:\n"
+                               "\tUpdate: gamma 2-1 (x86_64) [base]\n"
+                               "\tDowngrade: echo 1-1 (x86_64) to echo 0-1 (x86_64) [base]\n")));
+        // 25100 until rpm runs, then 8000 for 90000 + 10240 + 18000 + 10240 of weight and a twentieth
+        QCOMPARE(answers.observed, QStringList(s("32492/33100 7 Completing update for: gamma")));
+    }
+
     void reportsStrangeElements_data()
     {
         columns<QString, QString>("source", "dialogs");

@@ -43,7 +43,8 @@ applyGrabMultiMeterNew applyGrabMultiMeterRemove applyGrabMultiMeterEnd dsTsChec
 userconfirm reportDownloadSize listTransaction tsInitCallback tsCallback tsEvent
 postTransactionOutput gpgsigcheck cancelled jobState lockWait keyQuestion confirmRemovals
 transactionReport""".split()
-LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
+LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved",
+         "downgraded", "reinstalled", "depdowngraded", "depreinstalled")
 
 
 def mounted(command):

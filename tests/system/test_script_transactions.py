@@ -56,7 +56,7 @@ TABLE = {
     "all three kinds, with a replacement, a downgrade, another provider and one of two architectures": (
         {"install": ["newname", "pins-old"], "update": ["clock"], "remove": ["mail-alpha", "libtwin.x86_64"]},
         {"installed": ["newname", "pins-old"], "updated": ["clock"], "removed": ["mail-alpha", "libtwin"],
-         "obsoleted": ["oldname"], "depinstalled": ["libpin", "mail-beta"]},
+         "obsoleted": ["oldname"], "depinstalled": ["mail-beta"], "depdowngraded": ["libpin"]},
         ("oldname-1.0-1.noarch", "libpin-2.0-1.x86_64", "clock-1.0-1.x86_64", "mail-alpha-1.0-1.noarch",
          "libtwin-1.0-1.x86_64"),
         ("newname-2.0-1.noarch", "libpin-1.0-1.x86_64", "pins-old-1.0-1.noarch", "clock-1.0-2.x86_64",

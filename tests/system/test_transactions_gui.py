@@ -7,6 +7,8 @@ the window has them."""
 import pathlib
 import unittest
 
+import ownrepo
+from ownrepo import package
 from recorder import INSTALL, REMOVE, UPDATE, Recorder
 from scriptdriver import Case, tool
 
@@ -76,6 +78,27 @@ class Table(Window):
                       "optional", log)
         self.assertIn("For group Office, marking package notebook for Update", log)
         self.assertIn("text-hebrew-1.0-1", log)  # its condition held
+
+
+class Elements(Window):
+    def test_other_rows(self):
+        """What an update replaces may belong to the row of another family, or to one without an update: nothing
+        is reported beside the listing."""
+        root = self.root()
+        old = package("foo", "1-1", "x86_64")
+        installed = ownrepo.add(root, "old", old, package("archy", "1-1"), package("twin", "1-1", "i686"),
+                                package("twin", "1-1", "x86_64"), options="enabled=0")
+        ownrepo.add(root, "better", old, options="priority=10")
+        ownrepo.add(root, "late", package("foo", "2-1", "x86_64"), package("bar", "1-1", requires=("foo >= 2",)),
+                    package("archy", "2-1", "i686"), package("twin", "2-1"))
+        tool(root, "rpm", "-U", "--nosignature", *installed)
+        before = self.packages(root)
+        window = self.open(root)
+        box, = self.run_marks(window, {INSTALL: ["bar", "archy.i686"], UPDATE: ["twin.noarch"]})
+        self.assertIn("Update: foo 2-1 (x86_64) [late]", box["text"])
+        self.assertEqual(before ^ self.packages(root), {
+            "foo-1-1.x86_64", "foo-2-1.x86_64", "bar-1-1.noarch", "archy-1-1.noarch", "archy-2-1.i686",
+            "twin-1-1.i686", "twin-1-1.x86_64", "twin-2-1.noarch"})
 
 
 class Trouble(Window):

@@ -197,7 +197,8 @@ bool Recorder::mark(const QJsonObject &command)
     for (const QJsonValue &name : command.value(u"names"_s).toArray())
         names.append(name.toString());
     for (int row = 0; row < m_engine->count(); ++row) {
-        if (names.removeOne((*m_engine)[row]->name))
+        const Package::Entry *entry = (*m_engine)[row];
+        if (names.removeOne(entry->name) || names.removeOne(entry->name + u'.' + entry->arch))
             model->setAction(model->index(row, 0), action);
     }
     m_window->stateChanged(-1);

@@ -24,7 +24,7 @@ class YumIO;
 //   dialog                     until a dialog is open
 //   next                       until a new dialog is open or, as for wait, all is over
 //   press button               a button or action, by object name; or the open dialog's, by its text
-//   mark names action          rows of those names; action as Package::Action
+//   mark names action          rows of those names, or name.architecture; action as Package::Action
 //   toggle rows                clicks the action cells of listed rows: [[index, how often]...]
 //   choose box index           an entry of a combo box, by object name
 //   answer rules               see DialogWatcher

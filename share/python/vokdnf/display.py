@@ -65,6 +65,15 @@ class RpmTransaction(dnf.yum.rpmtrans.RPMTransaction):
 dnf.yum.rpmtrans.RPMTransaction = RpmTransaction
 
 
+class Erased(str):
+    """The name of a package that is erased, with its `pkgtup`: of one name several may be erased."""
+
+    def __new__(cls, package):
+        name = super().__new__(cls, report.clean(package.name))
+        name.pkgtup = tuple(map(report.clean, package.pkgtup))
+        return name
+
+
 def _spellings(envra):
     """A package as rpm writes it in its messages."""
     epoch, _, nvra = envra.partition(":")
@@ -118,7 +127,7 @@ class Display(dnf.callback.TransactionProgress):
         if code:
             if self._makes_room(package, action):
                 code = _UPDATED
-            report.yumIOC.tsEvent(report.clean(getattr(package, "name", package)), code, *numbers)
+            report.yumIOC.tsEvent(Erased(package), code, *numbers)
         return bool(code)
 
     def _makes_room(self, package, action):
