@@ -228,6 +228,7 @@ private:
     bool m_cancelAsked = false; // the running job shall be cancelled
     QPointer<QWidget> m_focusBeforeJob;
     bool m_inTransaction = false; // rpm is at work
+    QString m_spokenState;        // what was announced last
     bool m_rpmBegan = false;      // in the running job
     bool m_downloads = false;     // packages are being downloaded
     QPointer<QMessageBox> m_quitQuestion;

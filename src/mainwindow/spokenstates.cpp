@@ -34,12 +34,14 @@ QString stateText(const QString &state)
 
 } // namespace
 
-// Between its steps a job is done several times, which is not worth a word before it ends.
+// Between its steps a job is done several times. The bar is then described as nothing, and nothing is
+// announced before the job ends.
 void MainWindow::speakState(const QString &state)
 {
     const QString text = m_busy ? stateText(state) : tr("Ready");
-    if (text.isEmpty() || text == m_totalBar->accessibleDescription())
-        return;
     m_totalBar->setAccessibleDescription(text);
+    if (text.isEmpty() || text == m_spokenState)
+        return;
+    m_spokenState = text;
     announce(this, text);
 }

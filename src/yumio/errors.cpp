@@ -41,10 +41,15 @@ void YumIO::warning(const char *message)
 // The report of what ends a job: its bars rest before the user is told. False, for returning.
 bool YumIO::fail(const QString &text)
 {
-    if (m_progress)
-        m_progress->reset();
+    restBars();
     error(text);
     return false;
+}
+
+void YumIO::restBars()
+{
+    if (m_progress)
+        m_progress->reset();
 }
 
 // From here on reports are only logged, and kept.
@@ -66,7 +71,10 @@ void YumIO::showHeldReports()
     const Engine::Reports held = m_reports;
     m_reports = {};
     m_reports.logMark = held.logMark;
-    if (m_dialogs && !held.texts.isEmpty()) {
+    if (held.texts.isEmpty())
+        return;
+    restBars();
+    if (m_dialogs) {
         m_dialogs->scrollable(held.haveError ? tr("VOK Yum Error") : tr("VOK Yum Warning"),
                               held.texts.join(QLatin1String("\n\n")));
     }
@@ -170,8 +178,8 @@ bool YumIO::commExceptRaised(PyObject *result, const QString &what)
     }
     const auto raised = [&](PyObject *type) { return type && pyExceptMatches(result, type); };
     // The job ends with it, and its bars rest before the user is told.
-    if (!result && m_progress)
-        m_progress->reset();
+    if (!result)
+        restBars();
 
     if (raised(PyExc_IOError)) {
         const QString value = exceptionText();
@@ -231,8 +239,7 @@ void YumIO::reportPending(const QString &what)
 
 void YumIO::pythonException(const QString &text)
 {
-    if (m_progress)
-        m_progress->reset();
+    restBars();
     qsizetype start = m_reports.logMark;
     if (start == -1)
         start = m_log.count();
@@ -249,8 +256,7 @@ void YumIO::pythonExceptionV(const QString &text)
         return;
     }
     if (isRefusal(text)) {
-        if (m_progress)
-            m_progress->reset();
+        restBars();
         log(Log::Kind::Error, 0, exceptionText());
         log(Log::Kind::Error, 0, text);
         return;
