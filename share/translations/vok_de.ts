@@ -1582,6 +1582,48 @@ Protokollfensters mit an; dort sollte die Aufrufkette stehen.</translation>
         <translation>Interner Fehler: pyString bekam ein Python-Objekt NULL
 </translation>
     </message>
+    <message>
+        <source>Internal error: %s not found
+</source>
+        <translation>Interner Fehler: %s nicht gefunden
+</translation>
+    </message>
+    <message>
+        <source>Internal error: %s not callable
+</source>
+        <translation>Interner Fehler: %s ist nicht aufrufbar
+</translation>
+    </message>
+    <message>
+        <source>Internal error: method %s call attemped with NULL self
+</source>
+        <translation>Interner Fehler: Methode %s sollte ohne Objekt (NULL) aufgerufen werden
+</translation>
+    </message>
+    <message>
+        <source>Internal error: method %s not found
+</source>
+        <translation>Interner Fehler: Methode %s nicht gefunden
+</translation>
+    </message>
+    <message>
+        <source>Internal error: method %s not callable
+</source>
+        <translation>Interner Fehler: Methode %s ist nicht aufrufbar
+</translation>
+    </message>
+    <message>
+        <source>Internal error: module %s lacks dictionary
+</source>
+        <translation>Interner Fehler: Modul %s hat kein Wörterbuch
+</translation>
+    </message>
+    <message>
+        <source>Internal error: cannot assign %s.%s
+</source>
+        <translation>Interner Fehler: %s.%s kann nicht zugewiesen werden
+</translation>
+    </message>
 </context>
 <context>
     <name>RepoAuth::Checker</name>
@@ -3518,6 +3560,44 @@ Den Schlüssel importieren und dem vertrauen, was damit signiert ist?</translati
         <source>find replacements</source>
         <translation>Ermitteln der Ersetzungen</translation>
     </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>Zurückstufen</translation>
+    </message>
+    <message>
+        <source>Reinstall</source>
+        <translation>Erneut installieren</translation>
+    </message>
+    <message>
+        <source>Downgraded</source>
+        <translation>Zurückgestuft</translation>
+    </message>
+    <message>
+        <source>Dependency Downgraded</source>
+        <translation>Wegen Abhängigkeiten zurückgestuft</translation>
+    </message>
+    <message>
+        <source>Reinstalled</source>
+        <translation>Erneut installiert</translation>
+    </message>
+    <message>
+        <source>Dependency Reinstalled</source>
+        <translation>Wegen Abhängigkeiten erneut installiert</translation>
+    </message>
+    <message>
+        <source>	%1: %2 to %3
+</source>
+        <translation>	%1: %2 auf %3
+</translation>
+    </message>
+    <message>
+        <source>The transaction was only tested, because the configuration has tsflags=test. The test succeeded. No package was changed.</source>
+        <translation>Die Transaktion wurde nur geprüft, weil die Konfiguration tsflags=test enthält. Die Prüfung war erfolgreich. Kein Paket wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Geprüft:</translation>
+    </message>
 </context>
 <context>
     <name>YumIO script</name>
@@ -3926,6 +4006,18 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>The installations and updates would also remove:</source>
         <translation>Die Installationen und Aktualisierungen würden auch entfernen:</translation>
+    </message>
+    <message>
+        <source>tsflags=test in the configuration: the transaction is only tested. No package is changed.</source>
+        <translation>tsflags=test in der Konfiguration: Die Transaktion wird nur geprüft. Kein Paket wird geändert.</translation>
+    </message>
+    <message>
+        <source>tsflags=justdb in the configuration: only the package database is changed. No files are installed or removed, and no scriptlets are run.</source>
+        <translation>tsflags=justdb in der Konfiguration: Nur die Paketdatenbank wird geändert. Es werden keine Dateien installiert oder entfernt und keine Paketskripte ausgeführt.</translation>
+    </message>
+    <message>
+        <source>tsflags=noscripts in the configuration: no scriptlets are run.</source>
+        <translation>tsflags=noscripts in der Konfiguration: Es werden keine Paketskripte ausgeführt.</translation>
     </message>
 </context>
 </TS>

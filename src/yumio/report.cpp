@@ -16,7 +16,7 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
     const PyRef iterator(PyObject_GetIter(elements));
     if (!iterator)
         return nullptr;
-    QStringList done, troubled, failed, skipped;
+    QStringList done, troubled, failed, skipped, tested;
     while (const PyRef element = PyRef(PyIter_Next(iterator.get()))) {
         const char *name, *outcome, *reason;
         const PyRef fields(PySequence_Tuple(element.get()));
@@ -27,11 +27,20 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
             line += QStringLiteral(": ") + QString::fromUtf8(reason);
         const bool isDone = qstrcmp(outcome, "done") == 0;
         const bool isSkipped = qstrcmp(outcome, "skipped") == 0;
-        (isDone ? (*reason ? troubled : done) : isSkipped ? skipped : failed).append(line);
+        const bool isTested = qstrcmp(outcome, "tested") == 0;
+        (isDone      ? (*reason ? troubled : done)
+         : isSkipped ? skipped
+         : isTested  ? tested
+                     : failed)
+            .append(line);
     }
     if (PyErr_Occurred())
         return nullptr;
     showHeldReports();
+    if (!tested.isEmpty()) {
+        reportTest(tested);
+        Py_RETURN_NONE;
+    }
 
     const QString summary = tr("Transaction: %1 done, %2 failed, %3 skipped")
                                 .arg(done.size() + troubled.size())
@@ -55,9 +64,22 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
     section(tr("Skipped:"), skipped, Log::Kind::Warning);
     section(tr("Done, with errors:"), troubled, Log::Kind::Warning);
     section(tr("Done:"), done, Log::Kind::Ok);
+    restBars();
     if (m_dialogs)
         m_dialogs->scrollable(tr("VOK Transaction Report"), text);
     Py_RETURN_NONE;
+}
+
+void YumIO::reportTest(const QStringList &lines)
+{
+    const QString text = tr("The transaction was only tested, because the configuration has "
+                            "tsflags=test. The test succeeded. No package was changed.") +
+                         QLatin1String("\n\n") + tr("Tested:") + QLatin1Char('\n') +
+                         lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+    log(Log::Kind::Ok, 0, text);
+    restBars();
+    if (m_dialogs)
+        m_dialogs->scrollable(tr("VOK Transaction Report"), text);
 }
 
 void YumIO::reportInterrupted()

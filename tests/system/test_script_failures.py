@@ -175,6 +175,21 @@ class Failures(Case):
             self.assertRegex(error[1], "file /.+ conflicts ")
             self.assertEqual(calls(result, "tsEvent"), [])
 
+    def test_only_tested(self):
+        """With tsflags=test nothing changes, and no transaction looks interrupted."""
+        root = self.root()
+        before = self.packages(root)
+        main = pathlib.Path(root, "etc/yum.conf")
+        main.write_text(main.read_text().replace("[main]", "[main]\ntsflags=test"))
+        result, value, error = self.apply(root, {"install": ["abacus"], "remove": ["compass"]})
+        self.assertEqual((value, error), (True, None))
+        self.assertIn("tsflags=test", "".join(text for _, text in calls(result, "log")))
+        self.assertEqual(calls(result, "transactionReport")[0][0], [["0:abacus-1.2-1.x86_64", "tested", ""],
+                                                                    ["0:compass-0.8-1.x86_64", "tested", ""]])
+        self.assertEqual(self.packages(root), before)
+        self.assertFalse(pathlib.Path(root, "var/lib/vok/transaction.json").exists())
+        self.assertEqual(self.apply(root, {"install": ["clash-left", "clash-right"]})[2][0], "YumBaseError")
+
     @staticmethod
     def serve(root, urls, extra=""):
         path = pathlib.Path(root, "etc/yum.repos.d/aster-extras.repo")

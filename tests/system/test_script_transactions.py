@@ -161,8 +161,8 @@ class Transactions(Case):
         self.assertEqual(set(firsts.values()), {
             ("0:airpipe-1.0-1.noarch", 30), ("0:bellows-3.0-1.noarch", 10),
             ("0:shell-hello-1.1-1.noarch", 30), ("orphan-notes", 40), ("bellows", 90)})
-        self.assertEqual([state for state, _ in calls(result, "jobState")][-4:],
-                         ["resolve", "download", "transaction", "done"])
+        self.assertEqual([state for state, _ in calls(result, "jobState")][-5:],
+                         ["resolve", "download", "transaction", "done", "done"])
         self.assertEqual([can for state, can in calls(result, "jobState")
                           if state == "transaction"], [0])
 

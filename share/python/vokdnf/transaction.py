@@ -15,7 +15,7 @@ import dnf.repo
 from yum import Errors
 
 from . import credentials, display, elements, errors, groups, interrupted, keys, language, locks, meters
-from . import outcome, packages, report, resolve, rights, root, unlisted, waiting
+from . import outcome, packages, report, resolve, rights, root, tsflags, unlisted, waiting
 from .base import full_cache
 from .translation import tr
 
@@ -47,7 +47,10 @@ class Transaction:
                     if not self._prepare():
                         forget(self._session)
                         return False
-                self._execute()
+                if tsflags.only_tests(self._base):
+                    self._test()
+                else:
+                    self._execute()
                 return True
         finally:
             report.job_state("done", False)
@@ -66,7 +69,7 @@ class Transaction:
             report.yumIOC.dsRestartLoop()
             report.yumIOC.dsTsCheck()
         groups.record(self._base, self._noted)
-        if not len(self._base.transaction) and not self._noted:
+        if not len(self._base.transaction) and (not self._noted or tsflags.only_tests(self._base)):
             report.log(0, tr("Nothing to do."))
             return False
         self._fill_tsinfo(self._elements)
@@ -90,7 +93,7 @@ class Transaction:
         local = [packages.Package(pkg) for pkg in install if pkg._is_local_pkg()]
         if local and report.offers("reportLocalSize"):
             report.yumIOC.reportLocalSize(local)
-        for line in resolve.replacements(self._base, self._marks):
+        for line in [*resolve.replacements(self._base, self._marks), *tsflags.notes(self._base)]:
             report.log(1, line)
             if report.offers("listingNote"):
                 report.yumIOC.listingNote(line)
@@ -140,6 +143,19 @@ class Transaction:
         finally:
             progress.finish()
 
+    def _test(self):
+        """Has rpm test the transaction, which may not run. Raises when the test fails."""
+        base, session = self._base, self._session
+        report.job_state("resolve", False)
+        report.yumIOC.tsInitCallback(0)
+        if base.conf.installroot != "/":
+            root.separate()
+        with errors.translated():
+            locks.guarded("resolve", False, base.do_transaction)
+        session.spent = True
+        if report.offers("transactionReport"):
+            report.yumIOC.transactionReport([(element.envra, "tested", "") for element in self._elements])
+
     def _execute(self):
         base, session = self._base, self._session
         report.job_state("transaction", False)
@@ -163,6 +179,7 @@ class Transaction:
         session.spent = True
         shown.finish()
         interrupted.clear()
+        report.job_state("done", False)
         try:
             self._tell_outcome(shown, failure)
         except Exception as error:  # what was done stays done, whatever its report meets
