@@ -18,6 +18,7 @@ set(VOK_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes 
 if(VOK_SANITIZE)
     target_compile_options(vok_options INTERFACE -fsanitize=${VOK_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(vok_options INTERFACE -fsanitize=${VOK_SANITIZE})
+    target_compile_definitions(vok_options INTERFACE VOK_SANITIZED)
 endif()
 
 # vok_room(NAME [LINKS TARGET...]): the static library vok_NAME of this folder's sources. It sees

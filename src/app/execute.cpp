@@ -3,6 +3,7 @@
 
 #include "execute.h"
 
+#include "coredumps.h"
 #include "invoker.h"
 
 #include <QCoreApplication>
@@ -80,6 +81,7 @@ void resetSignals()
 [[noreturn]] void run(char **argv, const Invoker &invoker)
 {
     resetSignals();
+    CoreDumps::allow();
     close_range(STDERR_FILENO + 1, ~0U, 0);
     if (!invoker.become())
         fail("unable to become the invoking user for \"", argv[0], "\"; errno = ");

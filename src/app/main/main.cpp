@@ -8,6 +8,7 @@
 #include "terminator.h"
 #include "translations.h"
 
+#include "app/coredumps.h"
 #include "app/programname.h"
 #include "app/share.h"
 #include "mainwindow/mainwindow.h"
@@ -30,6 +31,7 @@ QIcon programIcon()
 
 int main(int argc, char **argv)
 {
+    CoreDumps::forbid();
     const bool displayMissing = isDisplayMissing(argc, argv);
     if (displayMissing)
         qputenv("QT_QPA_PLATFORM", "offscreen");
