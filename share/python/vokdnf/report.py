@@ -4,6 +4,7 @@
 """Everything that the script says to the program: text made safe for crossing, DNF's log records,
 the interpreter's output, and the callbacks that not every program has."""
 
+import ctypes
 import logging
 import re
 import sys
@@ -142,10 +143,25 @@ class _Handler(logging.Handler):
 
 
 _HANDLER = _Handler(logging.DEBUG)
+_WRITTEN = 1 << 3 | 1 << 4 | 1 << 5  # GLib's levels critical, warning and message
+
+
+@ctypes.CFUNCTYPE(None, ctypes.c_char_p, ctypes.c_int, ctypes.c_char_p, ctypes.c_void_p)
+def _librepo_message(_domain, _level, text, _data):
+    """Sends to the log what GLib would write to standard error: addresses in it may hold passwords. What
+    matters of it is in the exception that follows."""
+    log(3, text or b"")
+
+
+def _attach_librepo():
+    try:
+        ctypes.CDLL("libglib-2.0.so.0").g_log_set_handler(b"librepo", _WRITTEN, _librepo_message, None)
+    except OSError:  # no GLib, and no librepo that uses it
+        pass
 
 
 def attach():
-    """Routes the interpreter's output and DNF's log to the program. Repeating it is harmless."""
+    """Routes the interpreter's output, DNF's log and librepo's to the program. Repeating it is harmless."""
     sys.stdout = Writer(write_out, 1)
     sys.stderr = Writer(write_err, 2)
     logger = logging.getLogger("dnf")
@@ -153,3 +169,4 @@ def attach():
     logger.propagate = False
     if _HANDLER not in logger.handlers:
         logger.addHandler(_HANDLER)
+        _attach_librepo()
