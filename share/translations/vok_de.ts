@@ -95,6 +95,10 @@ und ohne die Mitglieder vorgemerkter Gruppen.</translation>
         <source>%1  Is %2 meant?</source>
         <translation>%1  Ist %2 gemeint?</translation>
     </message>
+    <message>
+        <source>The password consists of mask characters only.  It was copied from a field that hides it.  Type the password itself.</source>
+        <translation>Das Passwort besteht nur aus Maskierungszeichen.  Es wurde aus einem Feld kopiert, das es verbirgt.  Geben Sie das Passwort selbst ein.</translation>
+    </message>
 </context>
 <context>
     <name>Execute</name>
@@ -1628,8 +1632,16 @@ Protokollfensters mit an; dort sollte die Aufrufkette stehen.</translation>
 <context>
     <name>RepoAuth::Checker</name>
     <message>
-        <source>The password will be written to %1. A file that gets its first password can no longer be read by other users.</source>
-        <translation>Das Passwort wird in %1 geschrieben. Eine Datei, die ihr erstes Passwort bekommt, können andere Benutzer nicht mehr lesen.</translation>
+        <source>The password will be written to %1.</source>
+        <translation>Das Passwort wird in %1 geschrieben.</translation>
+    </message>
+    <message>
+        <source>An answer for several repositories may write it to: %1.</source>
+        <translation>Eine Antwort für mehrere Paketquellen kann es auch schreiben in: %1.</translation>
+    </message>
+    <message>
+        <source>A file that gets its first password can no longer be read by other users.</source>
+        <translation>Eine Datei, die ihr erstes Passwort bekommt, können andere Benutzer nicht mehr lesen.</translation>
     </message>
 </context>
 <context>
@@ -1877,6 +1889,10 @@ in einer Konfigurationsdatei mit mehreren Paketquellen richtet</translation>
     <message>
         <source>With the variables replaced:</source>
         <translation>Mit ersetzten Variablen:</translation>
+    </message>
+    <message>
+        <source>The password consists of mask characters only</source>
+        <translation>Das Passwort besteht nur aus Maskierungszeichen</translation>
     </message>
 </context>
 <context>
@@ -2546,6 +2562,10 @@ Was dort geändert wurde, geht verloren, wenn sie geschrieben oder entfernt werd
     <message>
         <source>It stands in the file %1. The repositories can be edited here when it has been corrected.</source>
         <translation>Sie steht in der Datei %1. Die Paketquellen können hier bearbeitet werden, wenn sie berichtigt ist.</translation>
+    </message>
+    <message>
+        <source>%1, in %2: the password consists of mask characters only.</source>
+        <translation>%1, in %2: Das Passwort besteht nur aus Maskierungszeichen.</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,11 @@
 #include "percent.h"
 #include "repo/repoentry.h"
 
+#include <QStringList>
+
+#include <array>
+#include <optional>
+
 namespace {
 
 const QString queryStart = QStringLiteral("/kivvet?");
@@ -30,6 +35,51 @@ bool take(const QString &url, qsizetype from, const QString (&delimiters)[4], QS
     for (int i = 0; i < 4; ++i)
         *parts[i] = found[i];
     return true;
+}
+
+// Name key, name, password key, password; those without a value stay as they are.
+using Values = std::array<std::optional<QString>, 4>;
+
+// The value as a URL holds it, `old` where that says the same. White space would end the credentials.
+QString encoded(const std::optional<QString> &value, const QString &old)
+{
+    if (!value || httpUnprotect(old) == *value)
+        return old;
+    QString result;
+    for (const QChar c : httpProtect(*value)) {
+        if (c.isSpace() && c.unicode() < 256) {
+            result += u'%';
+            result += toHex(c.unicode() >> 4);
+            result += toHex(c.unicode() & 0xf);
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
+
+// `only`, where given, are the values that are replaced.
+QString replaced(const QString &text, const Values &values, const QStringList &only = {})
+{
+    static const QRegularExpression credentials(
+        QStringLiteral("(?|(/kivvet\\?)([^&\\s=]*)(=)([^&\\s]*)(&)([^&\\s=]*)(=)([^&\\s]*)(&path=)|"
+                       "(/rhel/)([^/\\s=]*)(=)([^/\\s]*)(/)([^/\\s=]*)(=)([^/\\s]*)(/))"),
+        options);
+    QString result;
+    qsizetype from = 0;
+    auto matches = credentials.globalMatch(text);
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        result.append(QStringView(text).mid(from, match.capturedStart() - from));
+        for (int i = 1; i <= match.lastCapturedIndex(); ++i) {
+            const QString part = match.captured(i);
+            const int at = i / 2 - 1; // every second part is a value
+            const bool stays = i % 2 || (!only.isEmpty() && httpUnprotect(part) != only.at(at));
+            result += stays ? part : encoded(values[size_t(at)], part);
+        }
+        from = match.capturedEnd();
+    }
+    return result.append(QStringView(text).mid(from));
 }
 
 } // namespace
@@ -60,35 +110,23 @@ bool Repo::Kivvet::getAuth(const Entry &entry, QString &nameKey, QString &name,
 QString Repo::Kivvet::replaceAuth(const QString &text, const QString &nameKey, const QString &name,
                                   const QString &passwordKey, const QString &password)
 {
-    static const QRegularExpression queryForm(
-        QStringLiteral("/kivvet\\?[^&\\s]*=[^&\\s]*&[^&\\s]*=[^&\\s]*&path="), options);
-    static const QRegularExpression pathForm(
-        QStringLiteral("/rhel/[^/\\s]*=[^/\\s]*/[^/\\s]*=[^/\\s]*/"), options);
-
-    const QString nameKeyPart = httpProtect(nameKey) + QLatin1Char('=') + httpProtect(name);
-    const QString passwordPart =
-        httpProtect(passwordKey) + QLatin1Char('=') + httpProtect(password);
-    QString result = text;
-    // The encoding leaves no backslash, so no value reads as a reference to a capture.
-    result.replace(queryForm, queryStart + nameKeyPart + QLatin1Char('&') + passwordPart +
-                                  QLatin1String("&path="));
-    result.replace(pathForm,
-                   pathStart + nameKeyPart + QLatin1Char('/') + passwordPart + QLatin1Char('/'));
-    return result;
+    return replaced(text, {nameKey, name, passwordKey, password});
 }
 
-QString Repo::Kivvet::replaceAuth(const QString &url, const QString &name, const QString &password)
+QString Repo::Kivvet::replaceAuth(const QString &text, const QString &name, const QString &password)
 {
-    QString nameKey, oldName, passwordKey, oldPassword;
-    getAuth(url, nameKey, oldName, passwordKey, oldPassword);
-    return replaceAuth(url, nameKey, name, passwordKey, password);
+    return replaced(text, {std::nullopt, name, std::nullopt, password});
 }
 
-QString Repo::Kivvet::replaceAuth(const QString &url, const QString &password)
+QString Repo::Kivvet::replaceAuth(const QString &text, const QString &password)
 {
-    QString nameKey, name, passwordKey, oldPassword;
-    getAuth(url, nameKey, name, passwordKey, oldPassword);
-    return replaceAuth(url, nameKey, name, passwordKey, password);
+    return replaced(text, {std::nullopt, std::nullopt, std::nullopt, password});
+}
+
+QString Repo::Kivvet::changeAuth(const QString &text, const Auth &before, const Auth &now)
+{
+    return replaced(text, {std::nullopt, now.name, std::nullopt, now.password},
+                    {QString(), before.name, QString(), before.password});
 }
 
 QRegularExpression Repo::Kivvet::oneUrlRegExp()
@@ -110,7 +148,7 @@ QRegularExpression Repo::Kivvet::urlsRegExp()
 QRegularExpression Repo::Kivvet::credentialsRegExp()
 {
     return QRegularExpression(
-        QStringLiteral("/kivvet(?:/[^?\\s]*)?\\?[^&\\s]*=[^&\\s]*&[^&\\s]*=([^&\\s]*)&path=|"
-                       "/rhel/[^/\\s]*=[^/\\s]*/[^/\\s]*=([^/\\s]*)/"),
+        QStringLiteral("/kivvet(?:/[^?\\s]{0,4096})?\\?[^&\\s=]*=[^&\\s]*&[^&\\s=]*=([^&\\s]*)|"
+                       "/rhel/[^/\\s=]*=[^/\\s]*/[^/\\s=]*=([^/\\s]*)"),
         options);
 }

@@ -25,6 +25,13 @@ bool readAuth(const Repo::Entry &entry, Checker::Auth &auth)
     return Repo::Kivvet::getAuth(entry, nameKey, auth.name, passwordKey, auth.password);
 }
 
+// Whether neither a name nor a password stands where there is room for both.
+bool lacksAuth(const Repo::Entry &entry)
+{
+    Checker::Auth auth;
+    return readAuth(entry, auth) && auth.name.isEmpty() && auth.password.isEmpty();
+}
+
 QString hostOf(const Repo::Entry &entry)
 {
     const QString host = URL::getHost(entry.baseurl);
@@ -52,10 +59,10 @@ void Checker::check()
 {
     std::optional<Auth> forAll;
     QHash<QString, Auth> forHost;
-    for (Repo::Entry &entry : m_yumConfIO->repos) {
+    for (qsizetype i = 0; i < m_yumConfIO->repos.size(); ++i) {
+        Repo::Entry &entry = m_yumConfIO->repos[i];
         Auth auth;
-        if (!m_yumConfIO->reposUsed.value(entry.id) || !readAuth(entry, auth) ||
-            !auth.name.isEmpty() || !auth.password.isEmpty())
+        if (!m_yumConfIO->reposUsed.value(entry.id) || !lacksAuth(entry))
             continue;
         const QString host = hostOf(entry);
         if (forAll || forHost.contains(host)) {
@@ -65,7 +72,7 @@ void Checker::check()
         if (!m_dialog)
             m_dialog = new Dialog(m_parent);
         m_dialog->setLookOnly(m_yumConfIO->lookOnly());
-        const int answer = m_dialog->exec(&entry, warning(entry));
+        const int answer = m_dialog->exec(&entry, warning(i));
         quit = answer == Dialog::Quit;
         if (quit || answer == Dialog::SkipAll)
             return;
@@ -82,16 +89,32 @@ void Checker::check()
     }
 }
 
-// An answer for several repositories may change several files, which are not known beforehand.
-QString Checker::warning(const Repo::Entry &entry) const
+// An answer for several repositories may write to the files of all that are still to be asked about.
+QString Checker::warning(qsizetype at) const
 {
     if (!m_yumConfIO->lookOnly().isEmpty())
         return m_yumConfIO->lookOnly();
-    if (!m_yumConfIO->losesReaders(entry.file))
-        return QString();
-    return tr("The password will be written to %1. A file that gets its first password can no "
-              "longer be read by other users.")
-        .arg(harmless(RootPath::shown(entry.file)));
+    const auto shown = [this](const Repo::Entry &entry) {
+        return m_yumConfIO->losesReaders(entry.file) ? harmless(RootPath::shown(entry.file))
+                                                     : QString();
+    };
+    const QString own = shown(m_yumConfIO->repos.at(at));
+    QStringList others;
+    for (const Repo::Entry &entry : m_yumConfIO->repos.mid(at + 1)) {
+        const QString file = shown(entry);
+        if (!file.isEmpty() && file != own && !others.contains(file) &&
+            m_yumConfIO->reposUsed.value(entry.id) && lacksAuth(entry))
+            others += file;
+    }
+    QStringList text;
+    if (!own.isEmpty())
+        text += tr("The password will be written to %1.").arg(own);
+    if (!others.isEmpty())
+        text +=
+            tr("An answer for several repositories may write it to: %1.").arg(others.join(u", "));
+    if (!text.isEmpty())
+        text += tr("A file that gets its first password can no longer be read by other users.");
+    return text.join(u' ');
 }
 
 void Checker::replace(Repo::Entry &entry, const Auth &auth)

@@ -45,7 +45,7 @@ public:
 
 private:
     void check();
-    QString warning(const Repo::Entry &entry) const;
+    QString warning(qsizetype at) const;
 
     QWidget *m_parent;
     YumConfIO *m_yumConfIO;

@@ -5,12 +5,14 @@
 
 #include "app/fonts.h"
 #include "app/harmless.h"
+#include "entrycheck.h"
 #include "kivvet/kivvet.h"
 #include "repoentry.h"
 #include "widgets/explaindisabled.h"
 #include "widgets/hscrollarea.h"
 #include "widgets/hseparator.h"
 #include "widgets/hwraplabel.h"
+#include "widgets/messagebox.h"
 #include "yumio/passwordsintext.h"
 
 #include <QApplication>
@@ -160,13 +162,12 @@ int Dialog::exec(Repo::Entry *entry, const QString &warning)
 {
     QString name, password;
     m_entry = entry;
-    m_nameKey.clear();
-    m_passwordKey.clear();
-    Repo::Kivvet::getAuth(*entry, m_nameKey, name, m_passwordKey, password);
+    QString nameKey, passwordKey;
+    Repo::Kivvet::getAuth(*entry, nameKey, name, passwordKey, password);
     showValue(m_id, harmless(entry->id));
     showValue(m_repoName, harmless(entry->name));
-    showKey(m_nameLabel, m_nameKey, tr("Name"));
-    showKey(m_passwordLabel, m_passwordKey, tr("Password"));
+    showKey(m_nameLabel, nameKey, tr("Name"));
+    showKey(m_passwordLabel, passwordKey, tr("Password"));
     m_name->setText(name);
     m_password->setText(password);
     authChanged(QString());
@@ -198,8 +199,8 @@ void Dialog::authChanged(const QString &)
     const QChar mask(
         style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, m_password));
     const auto shown = [&](const QString &urls) {
-        return Repo::Kivvet::replaceAuth(maskPasswords(harmless(urls)), m_nameKey, m_name->text(),
-                                         m_passwordKey, QString(m_password->text().size(), mask));
+        return Repo::Kivvet::replaceAuth(maskPasswords(harmless(urls)), m_name->text(),
+                                         QString(m_password->text().size(), mask));
     };
     showValue(m_baseurl, shown(m_entry->baseurl));
     showValue(m_mirrorlist, shown(m_entry->mirrorlist));
@@ -231,14 +232,21 @@ void Dialog::setUrls()
     if (!m_entry)
         return;
     for (QString *urls : {&m_entry->baseurl, &m_entry->mirrorlist})
-        *urls = Repo::Kivvet::replaceAuth(*urls, m_nameKey, m_name->text(), m_passwordKey,
-                                          m_password->text());
+        *urls = Repo::Kivvet::replaceAuth(*urls, m_name->text(), m_password->text());
 }
 
 void Dialog::answer(Answer answer)
 {
-    if (answer == OK || answer == ApplyAll || answer == ApplyHost)
+    if (answer == OK || answer == ApplyAll || answer == ApplyHost) {
+        const int mask =
+            style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, m_password);
+        if (isOnlyMask(m_password->text(), QChar(char16_t(mask)))) {
+            showMessageBox(QMessageBox::Critical, this, windowTitle(),
+                           EntryCheck::maskAsPassword());
+            return;
+        }
         setUrls();
+    }
     m_entry = nullptr;
     done(answer);
 }

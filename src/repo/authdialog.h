@@ -84,8 +84,6 @@ private:
     QLabel *m_warning = nullptr;
     QList<QPushButton *> m_buttons;
     QString m_lookOnly;
-    QString m_nameKey;
-    QString m_passwordKey;
     Repo::Entry *m_entry = nullptr; // null while nothing is asked
     QEventLoop m_loop;
 };

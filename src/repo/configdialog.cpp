@@ -244,6 +244,10 @@ void ConfigDialog::ok()
         done(QDialog::Rejected);
         return;
     }
+    if (m_form->hasMaskAsPassword()) {
+        showMessageBox(QMessageBox::Critical, this, windowTitle(), EntryCheck::maskAsPassword());
+        return;
+    }
     const Repo::Entry entry = m_form->toEntry();
     m_yumConfIO->reposUsed.insert(entry.id, entry.enabled == Qt::PartiallyChecked
                                                 ? m_yumConfIO->mainEnabled

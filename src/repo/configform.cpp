@@ -6,7 +6,6 @@
 #include "app/colors.h"
 #include "app/harmless.h"
 #include "entrycheck.h"
-#include "kivvet/kivvet.h"
 #include "optionsedit.h"
 #include "passwdlineedit.h"
 #include "passwdtextedit.h"
@@ -21,6 +20,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -99,8 +99,9 @@ Config::Config(QGridLayout *layout) : QObject(layout->parentWidget())
         tr("List of URLs to the repository.\nIf more than one is specified, they all should "
            "be identical mirrors,\nand will provide redundancy if some URLs are "
            "unreachable.")));
-    m_mirrorList = named(new PasswdLineEdit(Repo::Kivvet::oneUrlRegExp(), parent), "mirrorList",
-                         tr("URL to a file containing a list of URLs to the repository."));
+    m_mirrorList =
+        named(new PasswdLineEdit(Repo::Kivvet::credentialsRegExp(), parent), "mirrorList",
+              tr("URL to a file containing a list of URLs to the repository."));
 
     layout->addWidget(newLabel(tr("&Identifier"), m_id, parent), 0, 0);
     layout->addWidget(m_id, 0, 1);
@@ -297,6 +298,10 @@ void Config::showAuth(const Repo::Entry &entry)
     setTextOf(m_authPassword, password);
     m_authName->setEnabled(found);
     m_authPassword->setEnabled(found);
+    m_authFilled = {m_urls->realPlainText(),
+                    m_mirrorList->realText(),
+                    {name, password},
+                    {m_authName->text(), m_authPassword->text()}};
 }
 
 void Config::disable()
@@ -332,6 +337,9 @@ bool Config::setStatus(YumConfIO *yumConfIO, HFrameLabel *label) const
         return show(Colors::makeWarning(label->palette()), text);
     };
     const Repo::Entry entry = toEntry();
+    if (hasMaskAsPassword())
+        return show(Colors::makeError(label->palette()),
+                    tr("The password consists of mask characters only"));
     if (entry.id.isEmpty())
         return show(Colors::makeError(label->palette()), tr("No Identifier specified"));
     if (entry.baseurl.isEmpty() && entry.mirrorlist.isEmpty())
@@ -353,6 +361,13 @@ bool Config::setStatus(YumConfIO *yumConfIO, HFrameLabel *label) const
             return warn(tr("No Kivvet Authentication Password specified"));
     }
     return false;
+}
+
+bool Config::hasMaskAsPassword() const
+{
+    const QChar mask(m_authPassword->style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter,
+                                                        nullptr, m_authPassword));
+    return !YumConfIO::maskedPasswords(toEntry(), m_entry, mask).isEmpty();
 }
 
 void Config::setExpander(std::function<QString(const QString &)> expander)
@@ -398,17 +413,22 @@ void Config::authChanged(const QString &)
 {
     if (m_updating)
         return;
-    const QString name = m_authName->text(), password = m_authPassword->text();
-    const auto replaced = [&](const QString &url) {
-        return Repo::Kivvet::replaceAuth(url, name, password);
+    // Always from what the URLs were before the first key: a value that is typed back has its bytes
+    // again.
+    const auto typed = [](const QLineEdit *edit, const QString &shown, const QString &held) {
+        return edit->text() == shown ? held : edit->text();
     };
+    const auto &[urls, mirrorList, held, shown] = m_authFilled;
+    const Repo::Kivvet::Auth now{typed(m_authName, shown.name, held.name),
+                                 typed(m_authPassword, shown.password, held.password)};
     // Between the two the fields do not say what either URL has.
     {
         const QScopedValueRollback guard(m_updating, true);
-        m_urls->setRealPlainText(replaced(m_urls->realPlainText()));
-        m_mirrorList->setRealText(replaced(m_mirrorList->realText()));
+        m_urls->setRealPlainText(Repo::Kivvet::changeAuth(urls, held, now));
+        m_mirrorList->setRealText(Repo::Kivvet::changeAuth(mirrorList, held, now));
     }
-    urlChanged();
+    showExpanded();
+    Q_EMIT changed();
 }
 
 void Config::valueChanged()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "kivvet/kivvet.h"
 #include "repoentry.h"
 
 #include <QObject>
@@ -45,6 +46,8 @@ public:
     // Shows the first problem of what the fields say; false, with `label` as it was, when there is
     // none.
     bool setStatus(YumConfIO *yumConfIO, HFrameLabel *label) const;
+    // Whether a password that was changed is what a masked field shows of one, copied as a text.
+    bool hasMaskAsPassword() const;
     void setFocus();
     // The options that are known, for hints; none, and no option gets one.
     void setKnownOptions(const QStringList &options) { m_knownOptions = options; }
@@ -89,6 +92,13 @@ private:
     QDoubleSpinBox *m_position = nullptr;
     Repo::Entry m_entry;   // the fields were filled from this
     Repo::Entry m_asShown; // and gave this right after
+    // When the fields of the credentials were filled: what the URLs were, what they held, and what the
+    // fields made of that.
+    struct
+    {
+        QString urls, mirrorList;
+        Repo::Kivvet::Auth held, shown;
+    } m_authFilled;
     bool m_updating = false;
     QLabel *m_optionHints = nullptr;
     QStringList m_knownOptions;

@@ -95,6 +95,12 @@ QString EntryCheck::twinWarning(const QString &id, const QStringList &others)
     return QString();
 }
 
+QString EntryCheck::maskAsPassword()
+{
+    return EntryCheckTexts::tr("The password consists of mask characters only.  It was copied from "
+                               "a field that hides it.  Type the password itself.");
+}
+
 QStringList EntryCheck::optionHints(const QString &otherOptions, const QStringList &known)
 {
     QStringList hints;

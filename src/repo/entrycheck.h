@@ -13,6 +13,8 @@ namespace EntryCheck {
 QString identifierWarning(const QString &id);
 // Which of the other identifiers differs from it in case only, in words; empty for none.
 QString twinWarning(const QString &id, const QStringList &others);
+// Why a password is refused that consists of mask characters alone.
+QString maskAsPassword();
 // A text for each of the lines that the library does not read, and for each option that is not among
 // the known ones, with the most similar of these where one is similar. Without known ones no option
 // is unknown.

@@ -7,6 +7,7 @@
 #include <QAccessibleObject>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QMimeData>
 #include <QWidget>
 
 #include <algorithm>
@@ -21,6 +22,15 @@ void maskCaptures(QString &text, const QRegularExpressionMatch &match, QChar mas
             std::fill_n(text.begin() + match.capturedStart(i), length, mask);
     }
 }
+
+// The clipboard hands out the object that this process put into it, as long as it is there.
+class MaskedCopy : public QMimeData
+{
+public:
+    explicit MaskedCopy(const QString &realText) : real(realText) {}
+
+    const QString real;
+};
 
 // An object without text, name, value or children.
 class Mute : public QAccessibleObject
@@ -55,16 +65,6 @@ QAccessibleInterface *mute(const QString &className, QObject *object)
 }
 
 } // namespace
-
-QString MaskedField::maskWhole(const QString &text, const QRegularExpression &expression,
-                               QChar mask)
-{
-    QString masked = text;
-    const QRegularExpression whole(QRegularExpression::anchoredPattern(expression.pattern()),
-                                   expression.patternOptions());
-    maskCaptures(masked, whole.match(text), mask);
-    return masked;
-}
 
 QString MaskedField::maskAll(const QString &text, const QRegularExpression &expression, QChar mask)
 {
@@ -122,6 +122,21 @@ MaskedField::withoutSelection(const QList<QInputMethodEvent::Attribute> &attribu
     QList<QInputMethodEvent::Attribute> result = attributes;
     result.removeIf([](const auto &one) { return one.type == QInputMethodEvent::Selection; });
     return result;
+}
+
+QMimeData *MaskedField::copied(const QString &shown, const QString &real)
+{
+    auto *data = new MaskedCopy(real);
+    data->setText(shown);
+    return data;
+}
+
+QString MaskedField::pasted(const QMimeData *source, bool *restored)
+{
+    const auto *own = dynamic_cast<const MaskedCopy *>(source);
+    if (restored)
+        *restored = own;
+    return own ? own->real : source ? source->text() : QString();
 }
 
 void MaskedField::hideFromAccessibility()

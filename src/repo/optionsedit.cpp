@@ -14,7 +14,9 @@ namespace RepoEditor {
 
 namespace {
 
-constexpr int edited = 1; // state of a line of the real text
+// States of a line of the real text.
+constexpr int untouched = -1;
+constexpr int edited = 1;
 
 } // namespace
 
@@ -30,7 +32,7 @@ void OptionsEdit::setRealPlainText(const QString &text)
     PasswdTextEdit::setRealPlainText(text);
 }
 
-// A line in front of which another is begun is not edited by that.
+// A line in front of which another is begun is not edited by that. What comes back is hidden again.
 void OptionsEdit::noteEdit(int position, int, int added)
 {
     if (m_filling)
@@ -38,22 +40,23 @@ void OptionsEdit::noteEdit(int position, int, int added)
     for (QTextBlock line = realDocument()->findBlock(position);
          line.isValid() && (line.position() <= position || line.position() < position + added);
          line = line.next())
-        line.setUserState(edited);
+        line.setUserState(isRestoring() ? untouched : edited);
 }
 
 QString OptionsEdit::masked(const QString &real) const
 {
     const QChar mask =
         QChar(char16_t(style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, this)));
-    QStringList lines = real.split(u'\n');
+    const QStringList lines = real.split(u'\n');
+    QStringList shown =
+        maskOptionPasswords(real, mask).split(u'\n'); // one may go on in the next line
     int position = 0;
-    for (QString &line : lines) {
-        const int length = int(line.size());
-        if (realDocument()->findBlock(position).userState() != edited)
-            line = maskOptionPasswords(line, mask);
-        position += length + 1;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (realDocument()->findBlock(position).userState() == edited)
+            shown[i] = lines.at(i);
+        position += int(lines.at(i).size()) + 1;
     }
-    return lines.join(u'\n');
+    return shown.join(u'\n');
 }
 
 // The editor's own: what it copies is what is seen.

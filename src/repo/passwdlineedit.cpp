@@ -81,7 +81,7 @@ QString PasswdLineEdit::realText() const
 QString PasswdLineEdit::masked(const QString &real) const
 {
     const int character = style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, this);
-    return MaskedField::maskWhole(real, m_mask, QChar(char16_t(character)));
+    return MaskedField::maskAll(real, m_mask, QChar(char16_t(character)));
 }
 
 void PasswdLineEdit::textChanged(const QString &real)
@@ -132,9 +132,31 @@ void PasswdLineEdit::visibleEdited(const QString &visible)
 // In place of what is selected. The copy follows even if the real text is as it was.
 void PasswdLineEdit::insertReal(const QString &text)
 {
-    m_real->insert(text);
+    m_real->insertApart(text);
     showMasked();
     carryToVisible();
+}
+
+void PasswdLineEdit::giveCopy(QClipboard::Mode mode)
+{
+    const qsizetype length = selectedText().size();
+    QGuiApplication::clipboard()->setMimeData(
+        MaskedField::copied(selectedText(), m_real->text().mid(selectionStart(), length)), mode);
+}
+
+// QLineEdit made what is selected the primary selection.
+void PasswdLineEdit::giveSelection()
+{
+    const QClipboard *clipboard = QGuiApplication::clipboard();
+    if (hasSelectedText() && clipboard->supportsSelection() && clipboard->ownsSelection() &&
+        clipboard->text(QClipboard::Selection) == selectedText())
+        giveCopy(QClipboard::Selection);
+}
+
+void PasswdLineEdit::copy()
+{
+    if (hasSelectedText())
+        giveCopy(QClipboard::Clipboard);
 }
 
 void PasswdLineEdit::cut()
@@ -150,8 +172,9 @@ void PasswdLineEdit::paste()
 {
     if (isReadOnly())
         return;
-    m_real->paste();
-    carryToVisible();
+    const QString text = MaskedField::pasted(QGuiApplication::clipboard()->mimeData());
+    if (!text.isEmpty() || hasSelectedText())
+        insertReal(text);
 }
 
 void PasswdLineEdit::undo()
@@ -203,8 +226,14 @@ bool PasswdLineEdit::event(QEvent *event)
 
 void PasswdLineEdit::keyPressEvent(QKeyEvent *event)
 {
+    if (event->matches(QKeySequence::Copy)) {
+        copy();
+        event->accept();
+        return;
+    }
     if (isReadOnly()) {
         QLineEdit::keyPressEvent(event);
+        giveSelection();
         return;
     }
     if (event->matches(QKeySequence::Cut)) {
@@ -227,6 +256,7 @@ void PasswdLineEdit::keyPressEvent(QKeyEvent *event)
         return;
     } else {
         QLineEdit::keyPressEvent(event);
+        giveSelection();
         return;
     }
     event->accept();
@@ -244,13 +274,14 @@ void PasswdLineEdit::mouseReleaseEvent(QMouseEvent *event)
     QClipboard *clipboard = QGuiApplication::clipboard();
     if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection()) {
         QLineEdit::mouseReleaseEvent(event);
+        giveSelection();
         return;
     }
     event->accept();
     if (isReadOnly())
         return;
     m_real->deselect();
-    insertReal(clipboard->text(QClipboard::Selection));
+    insertReal(MaskedField::pasted(clipboard->mimeData(QClipboard::Selection)));
 }
 
 void PasswdLineEdit::inputMethodEvent(QInputMethodEvent *event)

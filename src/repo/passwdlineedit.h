@@ -3,19 +3,21 @@
 
 #pragma once
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <QPointer>
 #include <QRegularExpression>
 
 class PasswdRealLineEdit;
 
-// A line edit for a URL that may carry a password. The user edits the text freely, and sees mask
-// characters where `mask`, matching the whole text, captures something.
+// A line edit for a URL that may carry a password, or several. The user edits the text freely, and
+// sees mask characters where a match of `mask` captures something.
 //
 // Typing and pasting change the text of a hidden real editor, of which this one shows a masked
 // copy; cursor and selection are the same in both. Pointing, moving and selecting is done on what
 // is seen, so nothing about the password shows in where a word ends. Copies, drags, input methods
-// and assistive technology get the masked text.
+// and assistive technology get the masked text; what was copied is real again where it is pasted into
+// a masked field.
 class PasswdLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -30,6 +32,7 @@ public:
 public Q_SLOTS:
     // These hide the base class's, which would change the copy.
     void cut();
+    void copy();
     void paste();
     void undo();
     void redo();
@@ -57,6 +60,8 @@ private:
     void carryToVisible();
     void visibleEdited(const QString &visible);
     void insertReal(const QString &text);
+    void giveCopy(QClipboard::Mode mode);
+    void giveSelection();
 
     QRegularExpression m_mask;
     QPointer<PasswdRealLineEdit> m_real;

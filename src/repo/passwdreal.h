@@ -22,9 +22,27 @@ public:
     void keyPressEvent(QKeyEvent *event) override { QLineEdit::keyPressEvent(event); }
     void keyReleaseEvent(QKeyEvent *event) override { QLineEdit::keyReleaseEvent(event); }
     void inputMethodEvent(QInputMethodEvent *event) override { QLineEdit::inputMethodEvent(event); }
+    // As QLineEdit pastes: one step of its own to undo.
+    void insertApart(const QString &text)
+    {
+        endStep();
+        insert(text);
+        endStep();
+    }
 
 protected:
     void paintEvent(QPaintEvent *) override {}
+
+private:
+    // A cursor that moves ends a step, a selection that is replaced begins one.
+    void endStep()
+    {
+        const int cursor = cursorPosition();
+        if (hasSelectedText())
+            return;
+        setCursorPosition(cursor > 0 ? cursor - 1 : 1);
+        setCursorPosition(cursor);
+    }
 };
 
 class PasswdRealTextEdit : public HTextEdit

@@ -17,6 +17,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <memory>
+
 namespace {
 
 // The document's own plain text turns a no-break space into a blank.
@@ -197,7 +199,18 @@ void PasswdTextEdit::insertFromMimeData(const QMimeData *source)
     if (isReadOnly() || !source->hasText())
         return;
     carryToReal();
-    insertReal(source->text());
+    bool restored = false;
+    const QString text = MaskedField::pasted(source, &restored);
+    const QScopedValueRollback guard(m_restoring, restored);
+    insertReal(text);
+}
+
+QMimeData *PasswdTextEdit::createMimeDataFromSelection() const
+{
+    const std::unique_ptr<const QMimeData> shown(HTextEdit::createMimeDataFromSelection());
+    const QTextCursor cursor = textCursor();
+    const qsizetype length = cursor.selectionEnd() - cursor.selectionStart();
+    return MaskedField::copied(shown->text(), realPlainText().mid(cursor.selectionStart(), length));
 }
 
 void PasswdTextEdit::cut()
@@ -210,12 +223,14 @@ void PasswdTextEdit::cut()
 
 void PasswdTextEdit::undo()
 {
+    const QScopedValueRollback guard(m_restoring, true);
     m_real->undo();
     carryToVisible();
 }
 
 void PasswdTextEdit::redo()
 {
+    const QScopedValueRollback guard(m_restoring, true);
     m_real->redo();
     carryToVisible();
 }

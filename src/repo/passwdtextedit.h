@@ -43,9 +43,13 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void insertFromMimeData(const QMimeData *source) override;
+    QMimeData *createMimeDataFromSelection() const override;
     // What is seen of a text, of the same length and with its lines.
     virtual QString masked(const QString &real) const;
     QTextDocument *realDocument() const;
+    // Whether the change of the real text that is being made brings back what was there before: an
+    // undo, or a paste of what was copied from a masked field.
+    bool isRestoring() const { return m_restoring; }
 
 private Q_SLOTS:
     void textChanged();
@@ -61,5 +65,6 @@ private:
 
     QRegularExpression m_mask;
     QPointer<PasswdRealTextEdit> m_real;
+    bool m_restoring = false;
     bool m_carrying = false; // what happens to this editor is our own doing
 };

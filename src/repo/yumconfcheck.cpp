@@ -109,6 +109,9 @@ QStringList YumConfIO::refusals(const FileContent &content)
     for (const Repo::Entry &entry : content.entries) {
         if (entry.id == QLatin1String("main") && !known.contains(entry.id))
             reasons += tr("\"main\" names the section of the main options, never a repository.");
+        if (!maskedPasswords(entry, asRead(entry)).isEmpty())
+            reasons += tr("%1, in %2: the password consists of mask characters only.")
+                           .arg(entry.id, RootPath::shown(content.path));
     }
     const ReadBack back = readBack(content.bytes, isMain);
     const bool same = back.fault.isEmpty() && (!isMain || back.mainText == m_mainText) &&
@@ -125,6 +128,20 @@ QStringList YumConfIO::refusals(const FileContent &content)
         reasons += tr("%1: what it would hold cannot be told apart from other sections.")
                        .arg(RootPath::shown(content.path));
     return reasons;
+}
+
+// What the entry was when it was read; one whose identifier changed still has its place.
+Repo::Entry YumConfIO::asRead(const Repo::Entry &entry) const
+{
+    const auto find = [this](const auto &isSameOne) {
+        return std::find_if(m_asRead.cbegin(), m_asRead.cend(), isSameOne);
+    };
+    auto found = find([&](const Repo::Entry &one) { return one.id == entry.id; });
+    if (found == m_asRead.cend())
+        found = find([&](const Repo::Entry &one) {
+            return one.file == entry.file && one.position == entry.position;
+        });
+    return found == m_asRead.cend() ? Repo::Entry() : *found;
 }
 
 // Why the entry cannot be written; empty when it can by itself.

@@ -82,6 +82,23 @@ bool YumConfIO::carriesPassword(const Repo::Entry &entry)
            hasOptionPasswords(entry.otherOptions);
 }
 
+QStringList YumConfIO::maskedPasswords(const Repo::Entry &entry, const Repo::Entry &before,
+                                       QChar mask)
+{
+    const auto masked = [mask](const Repo::Entry &one) {
+        QStringList found = optionPasswords(one.baseurl) + optionPasswords(one.mirrorlist) +
+                            optionPasswords(one.otherOptions);
+        found.removeIf([mask](const QString &text) { return !isOnlyMask(text, mask); });
+        return found;
+    };
+    QStringList found = masked(entry);
+    if (!found.isEmpty()) {
+        for (const QString &old : masked(before))
+            found.removeOne(old);
+    }
+    return found;
+}
+
 bool YumConfIO::losesReaders(const QString &path) const
 {
     struct stat status;

@@ -53,6 +53,10 @@ public:
     static QString sectionText(const Repo::Entry &entry);
     // Whether a password stands in one of its fields.
     static bool carriesPassword(const Repo::Entry &entry);
+    // The passwords of an entry that consist of mask characters alone, without those that `before`,
+    // the same entry as it was read, has too. `mask` is the style's mask character.
+    static QStringList maskedPasswords(const Repo::Entry &entry, const Repo::Entry &before,
+                                       QChar mask = QChar(0x25cf));
 
     // What write() would make of one file, as text.
     struct FileChange
@@ -182,6 +186,7 @@ private:
     static QString getDuplicateId(const QList<Repo::Entry> &list);
     static QStringList checkErrors(QList<Repo::Entry> &list);
     QStringList refusals(const FileContent &content);
+    Repo::Entry asRead(const Repo::Entry &entry) const;
     QString refusal(const Repo::Entry &entry, const QString &path);
     QStringList warnings(const QList<Repo::Entry> &list) const;
     QStringList changedOnDisk(const Plan &plan) const;

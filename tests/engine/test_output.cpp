@@ -128,6 +128,17 @@ private Q_SLOTS:
             "2/7 (http://h/rhel/u=me/p=***/)");
         row("several URLs", "ftp://a:b@h ftp://a:cd@h", "2/7 ftp://a:*@h ftp://a:**@h");
         row("a user without password", "http://me@h/a:b@c", "2/7 http://me@h/a:b@c");
+        row("credentials without what follows", "a/kivvet?u=me&p=x=z b/rhel/u=me/p=x=z",
+            "2/7 a/kivvet?u=me&p=*** b/rhel/u=me/p=***");
+        row("a mail address for a user", "http://me@corp.com:xyz@h me@corp.com:xyz@h",
+            "2/7 http://me@corp.com:***@h me@corp.com:***@h");
+        row("slashes and signs in it", "'http://me:x/@z@h/' (me:x/z@h)",
+            "2/7 'http://me:****@h/' (me:***@h)");
+        row("no passwords", "http://h:80/a@b http://[::1]:80/a@b A::b@c mailto:a@b h:80/a@b 1:2-3",
+            "2/7 http://h:80/a@b http://[::1]:80/a@b A::b@c mailto:a@b h:80/a@b 1:2-3");
+        row("options", "Unknown option: Password = x y in /etc/a.repo\n--setopt=a.proxy_password=x",
+            "2/7 Unknown option: Password = *** in /etc/a.repo|2/7 --setopt=a.proxy_password=*");
+        row("parameter", "http://h/?token=x&a=b#c", "2/7 http://h/?token=*&a=b#c");
     }
 
     void logsMessages()
@@ -136,6 +147,22 @@ private Q_SLOTS:
         YumIO engine;
         engine.log(Log::Kind::Warning, 7, message);
         QTEST(logged(engine), "entries");
+    }
+
+    void optionPasswords()
+    {
+        const QString lines =
+            QStringLiteral("name=a\n# password=xy\n;Password : xy\n"
+                           "password xy\nsslclientkey_password=x\n  y\nproxy=http://me:xy@h\n");
+        const QString shown =
+            QStringLiteral("name=a\n# password=**\n;Password : **\n"
+                           "password **\nsslclientkey_password=*\n***\nproxy=http://me:**@h\n");
+        QCOMPARE(maskOptionPasswords(lines), shown);
+        QVERIFY(hasOptionPasswords(lines) && !hasOptionPasswords(lines.section(u'\n', 0, 2)));
+        QCOMPARE(withoutPasswords(QStringLiteral("http://me:x@h/kivvet?u=me&p=x@y&path=/a")),
+                 QStringLiteral("http://me@h/kivvet?u=me&p=&path=/a"));
+        QCOMPARE(withoutPasswords(QStringLiteral("http://me:x/y@h/")),
+                 QStringLiteral("http://me@h/"));
     }
 
     void capturesBothDescriptors()

@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         abort();
 
     const QRegularExpression one = Repo::Kivvet::oneUrlRegExp(), many = Repo::Kivvet::urlsRegExp();
-    if (MaskedField::maskWhole(text, one, u'*').size() != text.size() ||
+    if (MaskedField::maskAll(text, one, u'*').size() != text.size() ||
         MaskedField::maskAll(text, many, u'*').size() != text.size())
         abort();
 
@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             Repo::Kivvet::replaceAuth(url, name, password) != url ||
             Repo::Kivvet::replaceAuth(Repo::Kivvet::replaceAuth(url, form), password) != url)
             abort();
-        const QString shown = MaskedField::maskWhole(url, one, u'*');
+        const QString shown = MaskedField::maskAll(url, one, u'*');
         const qsizetype length = httpProtect(password).size();
         const qsizetype start = url.lastIndexOf(u'=', form.startsWith(u"h/k") ? -9 : -1) + 1;
         if (QStringView(shown).mid(start, length) != QString(length, u'*'))

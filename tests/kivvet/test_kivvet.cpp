@@ -70,9 +70,10 @@ private Q_SLOTS:
         columns<QString, QString>("text", "replaced");
         row("keys stay", "h/kivvet?user=joe&pass=x&path=os",
             "h/kivvet?user=n%5c1&pass=p%2f%26&path=os");
-        row("every URL, with the first one's keys",
-            "h/rhel/u=joe/p=x/a\nh/rhel/v=/q=/b\nhttp://plain/",
-            "h/rhel/u=n%5c1/p=p%2f%26/a\nh/rhel/u=n%5c1/p=p%2f%26/b\nhttp://plain/");
+        row("every URL", "h/rhel/u=joe/p=x/a\nh/rhel/v%41=/q=/b\nhttp://plain/",
+            "h/rhel/u=n%5c1/p=p%2f%26/a\nh/rhel/v%41=n%5c1/q=p%2f%26/b\nhttp://plain/");
+        row("the same bytes",
+            "h/kivvet?u=%6E%5C1&p=p%2F%26&path=", "h/kivvet?u=%6E%5C1&p=p%2F%26&path=");
         const QString other = u"http://h/kivvet?a&path= /rhel/a/b"_s;
         row("no shape", other, other);
     }
@@ -81,6 +82,20 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QTEST(Repo::Kivvet::replaceAuth(text, u"n\\1"_s, u"p/&"_s), "replaced");
+    }
+
+    void changes()
+    {
+        const auto changed = [](const QString &text, const QString &name, const QString &password) {
+            return Repo::Kivvet::changeAuth(text, {u"joe"_s, u"é\n"_s}, {name, password});
+        };
+        const QString text =
+            u"h/kivvet?us%65r=j%6fe&p=%e9%0A&path=\nh/rhel/v=ann/q=%E9%0a/ h/rhel/u=joe/p=2/"_s;
+        QCOMPARE(changed(text, u"joe"_s, u"é\n"_s), text);
+        QCOMPARE(changed(text, u"j\u00a0"_s, u"é\n"_s),
+                 QString(text).replace(u"j%6fe"_s, u"joe"_s).replace(u"joe"_s, u"j%a0"_s));
+        QCOMPARE(changed(text, u"joe"_s, u"x"_s),
+                 QString(text).replace(u"%e9%0a"_s, u"x"_s, Qt::CaseInsensitive));
     }
 
     void expressions_data()

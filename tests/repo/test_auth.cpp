@@ -40,9 +40,9 @@ private Q_SLOTS:
         const QByteArray before = "[main]\n[a]\nbaseurl=http://h/kivvet?user=&pw=&path=/a/\n"
                                   "[b]\nbaseurl=http://h/rhel/n=/k=/\n";
         root.put(root.mainFile(), before);
-        root.put(root.repo(u"c"_s), "[c]\nbaseurl=http://x/rhel/n=/k=/\npassword=old\n"
-                                    "[off]\nenabled=0\nbaseurl=http://h/rhel/n=/k=/\n"
-                                    "[half]\nbaseurl=http://h/rhel/n=me/k=/\n");
+        root.put(root.repo(u"c"_s), "[c]\nbaseurl=http://x/rhel/n=/k=/\n");
+        root.put(root.repo(u"off"_s), "[off]\nenabled=0\nbaseurl=http://h/rhel/n=/k=/\n"
+                                      "[half]\nbaseurl=http://h/rhel/n=me/k=/\n");
         QFile::setPermissions(root.real(root.mainFile()),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
         QWidget window;
@@ -80,8 +80,10 @@ private:
         asked += text("idLabel");
         if (QApplication::overrideCursor())
             wrong += u"the cursor is busy"_s;
-        if (text("warningLabel").contains(ConfigRoot::mainFile()) == (asked.last() == u"c"))
-            wrong += u"it does not tell whose file loses its readers"_s;
+        const QString warning = text("warningLabel");
+        if (warning.contains(ConfigRoot::mainFile()) == (asked.last() == u"c") ||
+            !warning.contains(ConfigRoot::repo(u"c"_s)) || warning.contains(u"off.repo"_s))
+            wrong += u"it does not tell whose files lose their readers"_s;
         if (answer.startsWith(u'+')) {
             QTest::keyClicks(dialog.focusWidget(), u"j/e"_s);
             QTest::keyClick(&dialog, Qt::Key_Tab);

@@ -399,6 +399,54 @@ private Q_SLOTS:
         QVERIFY(!around.isEmpty() && !around.contains(secret));
     }
 
+    void pastesWhatWasCopied_data() { kinds(); }
+    void pastesWhatWasCopied()
+    {
+        QFETCH(bool, several);
+        QClipboard *clipboard = QApplication::clipboard();
+        Field field(several), other(!several);
+        const auto press = [](const Field &where, QKeySequence::StandardKey key) {
+            QTest::keySequence(where.edit, QKeySequence(key));
+        };
+        for (const auto take : {QKeySequence::Cut, QKeySequence::Copy}) {
+            field.set(url);
+            field.select(0, int(url.size()));
+            press(field, take);
+            press(field, QKeySequence::Paste);
+            QCOMPARE(field.real(), url);
+            press(field, QKeySequence::Undo);
+            press(field, QKeySequence::Redo);
+            QCOMPARE(field.real(), url);
+            other.set(u"x"_s);
+            other.select(1, 1);
+            QTest::keyClicks(other.edit, u"y"_s);
+            press(other, QKeySequence::Paste);
+            QCOMPARE(other.real(), u"xy"_s + url);
+            QVERIFY(!clipboard->text().contains(secret) && !other.shown().contains(secret));
+            press(other, QKeySequence::Undo);
+            QCOMPARE(other.real(), u"xy"_s);
+        }
+        field.set(u"h/rhel/u=j/p=a😀WQ/os"_s);
+        field.select(14, 17);
+        press(field, QKeySequence::Cut);
+        field.select(13, 13);
+        press(field, QKeySequence::Paste);
+        QCOMPARE(field.real(), u"h/rhel/u=j/p=😀WaQ/os"_s);
+
+        // What looks the same is another program's.
+        clipboard->setText(clipboard->text());
+        press(field, QKeySequence::Paste);
+        QCOMPARE(field.real().count(field.shown().at(13)), 3);
+
+        if (clipboard->supportsSelection()) {
+            field.set(url);
+            field.select(0, int(url.size()));
+            QTest::mouseRelease(field.surface(), Qt::LeftButton);
+            QTest::mouseClick(other.surface(), Qt::MiddleButton);
+            QVERIFY(other.real().contains(secret));
+        }
+    }
+
     void inputMethod_data() { kinds(); }
     void inputMethod()
     {

@@ -229,6 +229,22 @@ private Q_SLOTS:
         QVERIFY(!hidden());
         form.press("resetButton");
         QVERIFY(hidden());
+
+        // Nor by a cut that comes back.
+        for (const auto way : {QKeySequence::Undo, QKeySequence::Paste}) {
+            options->selectAll();
+            QTest::keySequence(options, QKeySequence(QKeySequence::Cut));
+            QTest::keySequence(options, QKeySequence(way));
+            QVERIFY(hidden() && options->realPlainText().contains(u"password=hush"_s));
+        }
+
+        // What is seen of a password is none.
+        const QString mask(4, QChar(0x25cf));
+        form.field<PasswdLineEdit>("mirrorList")
+            ->setRealText(u"http://h/rhel/u=j/p=%1/"_s.arg(mask));
+        Answer box({0});
+        form.press("okButton");
+        QVERIFY(form.dialog.isVisible() && box.said.size() == 1);
     }
 
     // The Test button: what the engine is given and tells, and how the dialog ends while it works.

@@ -362,6 +362,28 @@ private Q_SLOTS:
         QTEST(int(status.st_mode & 07777), "mode");
     }
 
+    // A masked password that was there stays; one that is new is refused.
+    void maskedPasswords()
+    {
+        const QString mask(3, QChar(0x25cf));
+        ConfigRoot root;
+        const QByteArray damaged =
+            (u"[a]\nbaseurl=http://h/kivvet?u=j&p=%1&path=\npassword=***\n[b]\nname=x\n"_s.arg(
+                 mask))
+                .toUtf8();
+        root.put(root.repo(u"a"_s), damaged);
+        QVERIFY(root.io.read(nullptr) && root.io.write(nullptr));
+        QVERIFY(root.get(root.repo(u"a"_s)).contains(mask.toUtf8()));
+        root.entry(u"a"_s).id = u"c"_s;
+        QVERIFY(root.io.preview().refusals.isEmpty());
+        for (const QString &options : {u"password=%1\n"_s, u"proxy=http://j:%1@h\n"_s}) {
+            root.entry(u"b"_s).otherOptions = options.arg(mask);
+            QCOMPARE(root.io.preview().refusals.size(), 1);
+            root.entry(u"b"_s).otherOptions = options.arg(u"***"_s);
+            QVERIFY(root.io.preview().refusals.isEmpty());
+        }
+    }
+
     void strangeFiles_data()
     {
         // message: empty: it is read over
