@@ -31,6 +31,7 @@ def _of_groups(rows, marks, action, kinds):
 _REQUIRED = {"mandatory", "default"}
 _ALL = {*_REQUIRED, "optional", "conditional"}
 
+
 def twins(rows, marks):
     """The installed rows that are not marked and share a name with one that is removed."""
     marked = {row for row, _ in marks}
@@ -59,10 +60,11 @@ TRANSLATIONS = [
 ]
 
 
-def _removed_with_group(line, step):
-    names = [row.name for row in _of_groups(step.rows, step.marks, REMOVE, _ALL)]
+def _removed_member(line, step, action, ours, theirs):
+    """A member of a group with that action is removed, for different reasons."""
+    names = [row.name for row in _of_groups(step.rows, step.marks, action, _ALL)]
     found = re.match(r"records: only (VOK|DNF) remove (.+)-\S+-\S+ \((group|user),", line)
-    return found and found[2] in names and (found[1], found[3]) in (("VOK", "group"), ("DNF", "user"))
+    return found and found[2] in names and (found[1], found[3]) in (("VOK", ours), ("DNF", theirs))
 
 
 def _kept_no_longer(line, step):
@@ -72,7 +74,8 @@ def _kept_no_longer(line, step):
 
 
 EXCLUDES = Translation("excludes", "dnf hides installed packages that the main file excludes, VOK shows and "
-                       "removes them; so the same is said for each repository.", None)
+                       "removes them; so the same is said for each repository. In a step with removals those "
+                       "that are not marked are hidden.", None)
 _REPLACED = {"quill": "fountain-pen", "oldname": "newname", "oldtwin": "merged"}
 
 
@@ -103,7 +106,11 @@ RULES = [
     Rule("other family", "dnf lists what comes for another family of architectures as an upgrade, VOK as an "
          "installation.", _other_family),
     Rule("reason of a removed member", "A member that somebody had installed goes with the group by VOK, "
-         "and is recorded so; dnf is told to remove it by itself.", _removed_with_group),
+         "and is recorded so; dnf is told to remove it by itself.",
+         lambda line, step: _removed_member(line, step, REMOVE, "group", "user")),
+    Rule("member removed by itself", "A member that is removed while its group is installed is recorded as removed "
+         "for the group by dnf, for its own mark by VOK.",
+         lambda line, step: _removed_member(line, step, INSTALL, "user", "group")),
     Rule("reason before removal", "dnf notes that a removed group no longer keeps a member, and then removes "
          "it for another mark.", _kept_no_longer),
     Rule("shared member", "Of two groups with a member, one is removed and one installed: VOK removes what "

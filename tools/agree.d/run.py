@@ -189,12 +189,15 @@ class Chapter:
         hidden = self._hidden(rows, marks)
         if asked and self._mirror.can(marks, *hidden):
             return [f"VOK asks about {asked}, dnf does it as marked"]
-        if {action for _, action in marks} == {window.REMOVE}:
+        removals = {action for _, action in marks} == {window.REMOVE}
+        if removals:
             self._mirror.remove([row for row, _ in marks], *hidden)
-            return self._roots_differ() if ran else self._changed("DNF", self._mirror.place, before)
+            if ran:
+                return self._roots_differ()
         if not ran:
-            if not asked:
+            if not asked and not removals:
                 self._mirror.apply(marks, *hidden)
+            if not asked:
                 # Some of what it cannot do it records all the same.
                 self._same = records.last_transaction(self._mirror.place) == self._mirror_transaction
             return self._changed("DNF", self._mirror.place, before)
