@@ -156,10 +156,11 @@ class Collect(Case):
         main = pathlib.Path(root, "etc/yum.conf")
         good = main.read_text()
         for text, word in (("no section\n", "Missing section header"), ("[main\n", "Missing ']'"),
+                           ("[main]\nproxy_username=caf\xe9\n", "is malformed: line 2 is not UTF-8"),
                            (None, "exists: /etc/yum/yum.conf, /etc/yum.conf, /etc/dnf/dnf.conf")):
             main.unlink()
             if text is not None:
-                main.write_text(text)
+                main.write_text(text, encoding="latin-1")
             kind, error = run(root, {"steps": [COLLECT]})["errors"][0]
             self.assertEqual(kind, "SystemExit")
             self.assertIn(word, error)
@@ -183,6 +184,7 @@ class Collect(Case):
         os.mkfifo(directory / "pipe.repo")
         (directory / "loose.repo").write_text("text\n[loose]\nbaseurl=http://127.0.0.1/\n")
         (directory / "latin.repo").write_bytes(b"[latin]\nname=caf\xe9\nbaseurl=file:///x\n")
+        (pathlib.Path(root, "etc/dnf/vars") / "odd").write_bytes(b"caf\xe9\n")
         (directory / "odd.repo").write_text("[main]\nenabled=1\n[bad id]\nname=x\nenabled=0\n"
                                             "[fine]\nname=x\nbaseurl=http://127.0.0.1/\nenabled=0\n")
         result = run(root, {"steps": [COLLECT, evaluate("list(io.repos.repos)")]})
@@ -192,7 +194,8 @@ class Collect(Case):
         for part in ("/etc/yum.repos.d/broken.repo is left out: IniParser: Missing ']'",
                      "/etc/yum.repos.d/\ufffd.repo is left out: IniParser: Missing ']'",
                      "/etc/yum.repos.d/loose.repo is left out: ", "/etc/yum.repos.d/pipe.repo is left out: ",
-                     "/etc/yum.repos.d/latin.repo is left out: a value is not UTF-8", "Bad id for repo: bad id"):
+                     "/etc/yum.repos.d/latin.repo is left out: line 2 is not UTF-8",
+                     "/etc/dnf/vars/odd is left out: line 1 is not UTF-8", "Bad id for repo: bad id"):
             self.assertTrue([text for text in told if part in text], part)
 
     def test_cleaning(self):

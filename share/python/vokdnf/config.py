@@ -56,9 +56,9 @@ def read_main():
     except OSError as error:
         raise SystemExit(tr("Unable to read the main configuration file %s: %s")
                          % (path, error.strerror)) from error
-    except (dnf.exceptions.Error, RuntimeError) as error:
+    except READING_ERRORS as error:
         raise SystemExit(tr("The main configuration file %s is malformed: %s")
-                         % (path, reason(error))) from error
+                         % (path, reason(error, opened))) from error
     _settings(conf)
     database.check(conf)
     _substitutions(conf, opened)
@@ -99,11 +99,31 @@ def _protected_by_files():
 
 def _substitutions(conf, opened):
     variables = conf.substitutions
-    variables.update_from_etc(conf.installroot, varsdir=conf.varsdir)
+    for directory in conf.varsdir:
+        _read_variables(variables, root.resolve(directory))
     if "releasever" not in variables:
         version = _release_of(conf, opened)
         if version:
             variables["releasever"] = version
+
+
+def _read_variables(variables, directory):
+    """As DNF's update_from_etc, which in some versions ends at a file that is not UTF-8; here it is left out."""
+    try:
+        names = os.listdir(directory)
+    except OSError:
+        return
+    for name in names:
+        path = os.path.join(directory, name)
+        try:
+            name.encode()
+            if os.path.isfile(path):
+                with open(path, "rb") as lines:
+                    variables[name] = lines.readline().rstrip(b"\r\n").decode()
+        except OSError:
+            continue
+        except (UnicodeError, dnf.exceptions.Error) as error:
+            _left_out(tr("The variable file %s is left out: %s"), path, error)
 
 
 def _release_of(conf, opened):
@@ -115,7 +135,7 @@ def _release_of(conf, opened):
         wanted = parser.getValue("main", "distroverpkg")
     except Exception:  # the option is not there; libdnf's binding raises no narrower class
         wanted = None
-    if wanted:
+    if wanted and report.clean(wanted) == wanted:
         reader = dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot)
         for header in reader.dbMatch("name", wanted):
             return report.clean(header["version"])
@@ -181,21 +201,38 @@ def read_repositories(conf, repositories):
                     repositories.add(repo)
         except OSError as error:
             if not os.path.isdir(path):
-                _left_out(path, error.strerror)
+                _left_out(tr("The repository file %s is left out: %s"), path, error.strerror)
         except READING_ERRORS as error:
-            _left_out(path, error)
+            _left_out(tr("The repository file %s is left out: %s"), path, error)
 
 
-def _left_out(path, cause):
-    report.errorlog(0, tr("The repository file %s is left out: %s") % (root.shown(path), reason(cause)))
+def _left_out(text, path, cause):
+    report.errorlog(0, text % (root.shown(path), reason(cause, path)))
 
 
-def reason(error):
-    """The parser's own words, without the sentence that DNF puts around them."""
-    if isinstance(error, TypeError):
-        return tr("a value is not UTF-8")
+def reason(error, path=None):
+    """The parser's own words, without the sentence that DNF puts around them; of text that is not UTF-8 its line
+    in the file."""
+    if isinstance(error, (TypeError, UnicodeError)):
+        number = path and line_not_utf8(path)
+        return tr("line %d is not UTF-8") % number if number else tr("a value is not UTF-8")
     words = getattr(error, "__context__", None)
     return report.clean(words if isinstance(words, RuntimeError) else error).rsplit(" failed: ", 1)[-1]
+
+
+def line_not_utf8(path):
+    """The number of the first such line of a file, comments aside; 0 without one or without the file."""
+    number = 0
+    try:
+        with open(path, "rb") as lines:
+            for number, line in enumerate(lines, 1):
+                if not line.startswith((b"#", b";")):
+                    line.decode()
+    except UnicodeDecodeError:
+        return number
+    except OSError:
+        pass
+    return 0
 
 
 def place_inside(repo):

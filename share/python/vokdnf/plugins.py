@@ -7,7 +7,7 @@ goes on."""
 import dnf.exceptions
 import dnf.plugin
 
-from . import report
+from . import config, report, root
 from .translation import tr
 
 # Here an error of DNF's own classes is what the plug-in has to say about the transaction.
@@ -18,9 +18,11 @@ class Plugins(dnf.plugin.Plugins):
     """The plug-ins of one base. DNF loads their classes once in a process."""
 
     _classes = None
+    directories = ()  # of their configuration
 
     def start(self, base):
         """Loads and makes the plug-ins."""
+        Plugins.directories = tuple(base.conf.pluginconfpath)
         if Plugins._classes is None:
             Plugins._classes = []
             with _Guarded(None):
@@ -71,8 +73,20 @@ class _Guarded:
         self.failed = True
         if self._kind in (Plugins._classes or ()):
             Plugins._classes.remove(self._kind)
-        cause = report.clean(error) or type(error).__name__
         name = getattr(self._kind, "name", None)
+        cause = _in_configuration(self._kind, error) or report.clean(error) or type(error).__name__
         report.errorlog(0, tr("The plug-in %s fails and is left out: %s") % (name, cause) if name
                         else tr("A plug-in of DNF fails and is left out: %s") % cause)
         return True
+
+
+def _in_configuration(kind, error):
+    """Where in the configuration of a plug-in the text is that is not UTF-8, when `error` comes of one; else ""."""
+    name = getattr(kind, "config_name", None) or getattr(kind, "name", None)
+    if isinstance(error, (TypeError, UnicodeError)):
+        for directory in Plugins.directories:
+            path = "%s/%s.conf" % (directory, name)
+            number = config.line_not_utf8(path)
+            if number:
+                return "%s: %s" % (root.shown(path), tr("line %d is not UTF-8") % number)
+    return ""
