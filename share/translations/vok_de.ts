@@ -626,18 +626,6 @@ Eine begonnene rpm-Transaktion lässt sich nicht abbrechen.</translation>
         <translation>Mangels Leserecht ausgelassen: %1</translation>
     </message>
     <message>
-        <source>VOK Yum Error</source>
-        <translation>VOK – Yum-Fehler</translation>
-    </message>
-    <message>
-        <source>Edit Repository</source>
-        <translation>Paketquelle bearbeiten</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
         <source>The packages have not been read yet.</source>
         <translation>Die Pakete sind noch nicht eingelesen.</translation>
     </message>
@@ -826,6 +814,18 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
     <message>
         <source>Not everything could be read. The log (Ctrl+L) tells what is missing.</source>
         <translation>Es konnte nicht alles eingelesen werden. Das Protokoll (Strg+L) sagt, was fehlt.</translation>
+    </message>
+    <message>
+        <source>Left out for this session: %1.</source>
+        <translation>In dieser Sitzung ausgelassen: %1.</translation>
+    </message>
+    <message>
+        <source>The packages of these repositories are missing from the table:</source>
+        <translation>Die Pakete dieser Paketquellen fehlen in der Tabelle:</translation>
+    </message>
+    <message>
+        <source>Use Again</source>
+        <translation>Wieder verwenden</translation>
     </message>
 </context>
 <context>
@@ -2356,6 +2356,41 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
     <message>
         <source>Space toggles the check mark of the current cell, Return edits the repository, Delete removes, Insert adds.</source>
         <translation>Die Leertaste setzt und löscht das Häkchen der aktuellen Zelle, Eingabe bearbeitet die Paketquelle, Entf entfernt sie, Einfg fügt eine hinzu.</translation>
+    </message>
+</context>
+<context>
+    <name>RepoFailureDialog</name>
+    <message>
+        <source>VOK Yum Error</source>
+        <translation>VOK – Yum-Fehler</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out for This Session</source>
+        <translation>Für diese Sitzung aus&amp;lassen</translation>
+    </message>
+    <message>
+        <source>Read the packages without these repositories until VOK ends</source>
+        <translation>Die Pakete ohne diese Paketquellen lesen, bis VOK beendet wird</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>Erneut &amp;versuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Repository</source>
+        <translation>Paketquelle &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>Close this message and open the form of the repository</source>
+        <translation>Diese Meldung schließen und das Formular der Paketquelle öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Repository:</source>
+        <translation>&amp;Paketquelle:</translation>
     </message>
 </context>
 <context>
@@ -4038,6 +4073,18 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>tsflags=noscripts in the configuration: no scriptlets are run.</source>
         <translation>tsflags=noscripts in der Konfiguration: Es werden keine Paketskripte ausgeführt.</translation>
+    </message>
+    <message>
+        <source>line %d is not UTF-8</source>
+        <translation>Zeile %d ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>The variable file %s is left out: %s</source>
+        <translation>Die Variablendatei %s wird ausgelassen: %s</translation>
+    </message>
+    <message>
+        <source>The key 0x%s, which signs its metadata, was not imported.</source>
+        <translation>Der Schlüssel 0x%s, mit dem ihre Metadaten signiert sind, wurde nicht importiert.</translation>
     </message>
 </context>
 </TS>

@@ -42,7 +42,7 @@ void MainWindow::changeFilter(const PackageTable::Query &query, const std::funct
         } else {
             noteUnseen();
         }
-        tellRefused();
+        showFailed();
     }
     anyFilterChanged();
 }
@@ -72,8 +72,8 @@ bool MainWindow::loadExtraData(const PackageTable::Query &query)
     if (!lacksExtraData(query) || m_quitAsked)
         return !m_quitAsked;
     // What keeps the one from loading keeps the other too.
-    if (m_yumIO->collectFileLists(YumIO::Refusals::Kept) && !m_cancelAsked && !m_quitAsked)
-        m_yumIO->collectOtherData(YumIO::Refusals::Kept);
+    if (m_yumIO->collectFileLists(YumIO::Failures::Kept) && !m_cancelAsked && !m_quitAsked)
+        m_yumIO->collectOtherData(YumIO::Failures::Kept);
     return !m_cancelAsked && !m_quitAsked;
 }
 

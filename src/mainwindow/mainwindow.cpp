@@ -168,9 +168,10 @@ void MainWindow::collect(Refresh why)
         m_proxy->setFilterRegExp(m_regexpEdit->text());
     }
     gather(why);
-    tellRefused();
+    showFailed(true);
     if (m_quitAsked)
         return;
+    showLeftOut();
     if (first)
         showMainArea();
     else if (!m_columnsSized)
@@ -179,7 +180,13 @@ void MainWindow::collect(Refresh why)
 
 void MainWindow::gather(Refresh why)
 {
-    const bool collected = m_yumIO->collect(m_reposUsed);
+    QHash<QString, bool> used = m_reposUsed;
+    for (const QString &id : leftOut())
+        used.insert(id, true);
+    const bool collected =
+        m_yumIO->collect(used, leftOut(), [this](const auto &failed, QStringList &without) {
+            return settleFailed(failed, without);
+        });
     noteCollected(collected);
     giveMarksBack(why);
     if (!collected)
@@ -212,6 +219,14 @@ void MainWindow::gather(Refresh why)
         noteUnseen();
 }
 
+QString MainWindow::firstOf(const QStringList &names)
+{
+    QStringList first = names.mid(0, namesInLine);
+    if (first.size() < names.size())
+        first.append(tr("%1 more").arg(names.size() - first.size()));
+    return first.join(QStringLiteral(", "));
+}
+
 // What was marked and is done now has no mark any more, which needs no words.
 void MainWindow::giveMarksBack(Refresh why)
 {
@@ -220,10 +235,7 @@ void MainWindow::giveMarksBack(Refresh why)
         if (names.isEmpty())
             return;
         m_yumIO->log(Log::Kind::Warning, 0, text.arg(names.join(QStringLiteral(", "))));
-        QStringList first = names.mid(0, namesInLine);
-        if (first.size() < names.size())
-            first.append(tr("%1 more").arg(names.size() - first.size()));
-        note(text.arg(first.join(QStringLiteral(", "))));
+        note(text.arg(firstOf(names)));
     };
     if (why == Refresh::Asked)
         tell(tr("No longer possible, and not marked any more: %1."), told.lost);
@@ -413,7 +425,7 @@ void MainWindow::apply()
         checkCredentials();
         recollect(Refresh::AfterApply);
     } else {
-        tellRefused();
+        showFailed();
         if (askToRefresh())
             recollect();
     }

@@ -33,6 +33,10 @@ class QMessageBox;
 class QPushButton;
 class YumConfIO;
 
+namespace Engine {
+struct FailedRepos;
+}
+
 namespace Log {
 class Window;
 }
@@ -177,10 +181,18 @@ private:
     bool checkCredentials();
     void noteUnreadable();
     bool lacksCredentials(const QString &id) const;
-    void tellRefused();
     RepoEditor::Dialog *repoEditor();
     void showPlaceholder(bool withButton);
 
+    // failedrepos.cpp
+    QString textOf(const Engine::FailedRepos &failed) const;
+    bool withoutSkipped(Engine::FailedRepos &failed);
+    int askAbout(const Engine::FailedRepos &failed, int choices);
+    bool settleFailed(const Engine::FailedRepos &failed, QStringList &leftOut);
+    void showFailed(bool wasCollection = false);
+    QStringList leftOut() const;
+    void showLeftOut();
+    void useLeftOut();
     // replacements.cpp
     void findReplacements();
     QList<int> unmarkedReplacements() const;
@@ -206,6 +218,7 @@ private:
     void gather(Refresh why);
     void recollect(Refresh why = Refresh::Asked);
     void giveMarksBack(Refresh why);
+    static QString firstOf(const QStringList &names); // as many as a line has room for
     void cleanAndCollect(bool (YumIO::*operation)());
     void showMainArea();
     void sizeColumns();
@@ -244,6 +257,9 @@ private:
     QMap<int, QString> m_replacements;  // rows, with words about them
     QHash<QString, bool> m_enabledThen; // the repositories when the packages were collected
     QStringList m_unreadable;           // configuration files that were named
+    QStringList m_skipped;              // repositories whose credentials the user skipped
+    QStringList m_refusedSkipped;       // of these, left out because they cannot do without
+    QStringList m_leftOut;              // repositories left out for the session because they failed
     QStringList m_notes;                // what the line shall say when the job has ended
     bool m_closeRefused = false;        // the user was told once that a transaction runs
 

@@ -20,6 +20,7 @@ NoticeRow::NoticeRow(QWidget *parent) : QWidget(parent)
     layout->setContentsMargins(0, 0, 0, 0);
     createPlace(Rights, QStringLiteral("rightsNotice"));
     createPlace(Outdated, QStringLiteral("outdatedNotice"));
+    createPlace(LeftOut, QStringLiteral("leftOutNotice"));
     createPlace(Replacements, QStringLiteral("replacementsNotice"));
     layout->addStretch();
 }

@@ -19,7 +19,7 @@ class NoticeRow : public QWidget
 
 public:
     // Which of them it is; also their order.
-    enum Notice { Rights, Outdated, Replacements };
+    enum Notice { Rights, Outdated, LeftOut, Replacements };
 
     explicit NoticeRow(QWidget *parent);
 

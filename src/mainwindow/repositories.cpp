@@ -7,13 +7,10 @@
 #include "mainwindow/job.h"
 #include "mainwindow/mainwindow.h"
 
-#include "app/harmless.h"
 #include "kivvet/kivvet.h"
 #include "repo/authchecker.h"
 #include "repo/editordialog.h"
 #include "repo/yumconfio.h"
-#include "widgets/messagebox.h"
-#include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
 
 #include <QLabel>
@@ -31,6 +28,8 @@ bool MainWindow::checkCredentials()
     const RepoAuth::Checker checker(this, m_yumConfIO);
     noteUnreadable();
     m_quitAsked = m_quitAsked || checker.quit;
+    m_skipped = checker.skipped;
+    m_refusedSkipped.clear();
     return checker.changed;
 }
 
@@ -57,29 +56,6 @@ bool MainWindow::lacksCredentials(const QString &id) const
                Repo::Kivvet::getAuth(entry, nameKey, name, passwordKey, password) &&
                name.isEmpty() && password.isEmpty();
     });
-}
-
-// Tells whose user name or password is wrong. The form that may be asked for opens when the job has
-// ended.
-void MainWindow::tellRefused()
-{
-    for (const Engine::RefusedRepo &repo : m_yumIO->takeRefusedRepos()) {
-        if (m_quitAsked)
-            return;
-        const QString why = lacksCredentials(repo.id)
-                                ? tr("Repository %1 needs a user name and a password.")
-                                : tr("Wrong user name or password for repository %1.");
-        const QString text =
-            QStringList{why.arg(harmless(repo.id)),
-                        repo.failed.isEmpty() ? tr("The repository is left out.") : repo.failed,
-                        harmless(maskPasswords(repo.text))}
-                .join(QStringLiteral("\n\n"));
-        if (showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Error"), text,
-                           tr("Edit Repository"), tr("Close"), QString(), 0, 1) == 0) {
-            m_repoToEdit = repo.id;
-            return;
-        }
-    }
 }
 
 // The editor lives as long as the window; what it shows is read anew each time.

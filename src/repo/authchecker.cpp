@@ -64,6 +64,10 @@ void Checker::check()
         Auth auth;
         if (!m_yumConfIO->reposUsed.value(entry.id) || !lacksAuth(entry))
             continue;
+        if (!skipped.isEmpty()) {
+            skipped.append(entry.id);
+            continue;
+        }
         const QString host = hostOf(entry);
         if (forAll || forHost.contains(host)) {
             replace(entry, forAll ? *forAll : forHost.value(host));
@@ -74,8 +78,10 @@ void Checker::check()
         m_dialog->setLookOnly(m_yumConfIO->lookOnly());
         const int answer = m_dialog->exec(&entry, warning(i));
         quit = answer == Dialog::Quit;
-        if (quit || answer == Dialog::SkipAll)
+        if (quit)
             return;
+        if (answer == Dialog::SkipAll)
+            skipped.append(entry.id);
         if (answer == Dialog::Disable)
             m_yumConfIO->reposUsed.insert(entry.id, false);
         if (answer != Dialog::OK && answer != Dialog::ApplyAll && answer != Dialog::ApplyHost)

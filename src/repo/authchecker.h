@@ -5,7 +5,7 @@
 
 #include <QCoreApplication>
 #include <QPointer>
-#include <QString>
+#include <QStringList>
 
 class QWidget;
 class YumConfIO;
@@ -42,6 +42,7 @@ public:
 
     bool quit = false;    // the user wants to leave the program
     bool changed = false; // an answer changed the configuration
+    QStringList skipped;  // the repositories that lack credentials after Skip All
 
 private:
     void check();

@@ -22,7 +22,7 @@ constexpr Steps actsPerRepo = 6;
 
 } // namespace
 
-bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
+bool YumIO::collectReal(const QHash<QString, bool> &reposUsed, const QStringList &leftOut)
 {
     m_blocker.block();
     const Progress::User progressUser(m_progress, m_surface.totalBar, m_surface.itemBar);
@@ -34,7 +34,7 @@ bool YumIO::collectReal(const QHash<QString, bool> &reposUsed)
     m_progress->startTotal(tr("Initializing: Total Progress"), totalUnits);
     m_progress->startItem(tr("Preparing"), preparingUnits, 1);
     m_collected = Engine::Collected::Failed;
-    const bool collected = m_session.yumIO && takeLock() && readRepositories(reposUsed) &&
+    const bool collected = m_session.yumIO && takeLock() && readRepositories(reposUsed, leftOut) &&
                            collectPackages() && collectAllGroups();
     if (collected) {
         collectReplacements();
@@ -65,7 +65,7 @@ bool YumIO::takeLock()
     return true;
 }
 
-bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed)
+bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed, const QStringList &leftOut)
 {
     const PyRef repos(PyObject_GetAttrString(m_session.yumIO, "repos"));
     const PyRef dict(repos ? PyObject_GetAttrString(repos.get(), "repos") : nullptr);
@@ -89,6 +89,14 @@ bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed)
         return fail(
             tr("No repositories are enabled.\nUnder the Repositories menu, Edit Configuration "
                "can be used to configure repositories."));
+    }
+
+    if (!leftOut.isEmpty()) {
+        QHash<QString, bool> unused;
+        for (const QString &id : leftOut)
+            unused.insert(id, false);
+        useRepos(repos.get(), unused);
+        m_session.enabledRepos = collectRepos(dict.get());
     }
 
     m_progress->startItem(tr("Reading repositories"), readingUnits, 1);

@@ -457,26 +457,26 @@ QString YumIO::getYumVar(const QString &name)
     return value ? pyStringX(value.get()) : QString();
 }
 
-bool YumIO::collectFileLists(Refusals refusals)
+bool YumIO::collectFileLists(Failures failures)
 {
     if (m_session.fileLists)
         return true;
     QEventLoop loop;
     CollectFileListsThread thread(this, loop);
-    execWorkThread(loop, thread, refusals);
+    execWorkThread(loop, thread, failures);
     m_session.fileLists = thread.result();
     if (m_session.fileLists)
         Q_EMIT collectedExtraData();
     return m_session.fileLists;
 }
 
-bool YumIO::collectOtherData(Refusals refusals)
+bool YumIO::collectOtherData(Failures failures)
 {
     if (m_session.otherData)
         return true;
     QEventLoop loop;
     CollectOtherDataThread thread(this, loop);
-    execWorkThread(loop, thread, refusals);
+    execWorkThread(loop, thread, failures);
     m_session.otherData = thread.result();
     if (m_session.otherData)
         Q_EMIT collectedExtraData();

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <sys/wait.h>
@@ -153,21 +154,20 @@ bool YumIO::isCancellation() const
     return false;
 }
 
-// True when the pending exception, because of which something `failed`, tells what the job's caller
-// shows.
-bool YumIO::isRefusal(const QString &failed)
+// True when the pending exception is about repositories that the job's caller shows; the report is
+// then logged and kept for it.
+bool YumIO::isKept(const QString &report)
 {
-    if (!m_tellsRefused)
-        return false;
-    bool found = false;
     const QString text = exceptionText();
-    for (Engine::RefusedRepo &repo : m_refused) {
-        if (repo.text != text)
-            continue;
-        repo.failed = failed;
-        found = true;
-    }
-    return found;
+    const auto &repos = std::as_const(m_failed.repos);
+    if (!m_keepsFailures || std::none_of(repos.begin(), repos.end(), [&](const auto &repo) {
+            return text.contains(repo.text);
+        }))
+        return false;
+    restBars();
+    m_failed.report = report;
+    log(Log::Kind::Error, 0, report);
+    return true;
 }
 
 bool YumIO::commExceptRaised(PyObject *result, const QString &what)
@@ -202,9 +202,7 @@ bool YumIO::commExceptRaised(PyObject *result, const QString &what)
     } else if (raised(m_script.exceptionTypes[NoMoreMirrorsRepoError])) {
         const QString text = tr("Unable to %1: metadata unavailable from all repo mirrors:\n%2")
                                  .arg(what, exceptionText());
-        if (isRefusal(tr("Unable to %1").arg(what)))
-            log(Log::Kind::Error, 0, text);
-        else
+        if (!isKept(text))
             error(text);
     } else if (raised(m_script.exceptionTypes[RepoError]) ||
                raised(m_script.exceptionTypes[SqliteOperationalError])) {
@@ -255,12 +253,8 @@ void YumIO::pythonExceptionV(const QString &text)
         log(Log::Kind::Warning, 0, exceptionText());
         return;
     }
-    if (isRefusal(text)) {
-        restBars();
-        log(Log::Kind::Error, 0, exceptionText());
-        log(Log::Kind::Error, 0, text);
+    if (isKept(exceptionText() + QLatin1Char('\n') + text))
         return;
-    }
     // Both lines belong to the report, so the mark is set before the first when there is none.
     const int outerMark = m_reports.logMark;
     if (m_reports.logMark == -1)

@@ -192,9 +192,9 @@ bool YumIO::lookUpExceptionTypes()
     return true;
 }
 
-void YumIO::execWorkThread(QEventLoop &loop, QThread &thread, Refusals refusals)
+void YumIO::execWorkThread(QEventLoop &loop, QThread &thread, Failures failures)
 {
-    m_tellsRefused = refusals == Refusals::Kept;
+    m_keepsFailures = failures == Failures::Kept;
     m_cancelled = false;
     m_blocker.prepare();
     const PyThreadStateWrapper unlocked;
@@ -217,7 +217,7 @@ void YumIO::execWorkThread(QEventLoop &loop, QThread &thread, Refusals refusals)
         setEnablePythonSIGINTHandler(false);
     }
     pthread_sigmask(SIG_SETMASK, &previous, nullptr);
-    m_tellsRefused = false;
+    m_keepsFailures = false;
     Q_EMIT jobState(QStringLiteral("done"), false);
 }
 
@@ -226,29 +226,36 @@ void YumIO::blockerRelease()
     m_blocker.release();
 }
 
-bool YumIO::collect(const QHash<QString, bool> &reposUsed)
+bool YumIO::collect(const QHash<QString, bool> &reposUsed, QStringList leftOut,
+                    const Settle &settle)
 {
     m_session.fileLists = false;
     m_session.otherData = false;
     m_search = {};
-    m_refused.clear();
-    QEventLoop loop;
-    CollectThread thread(this, loop, reposUsed);
-    execWorkThread(loop, thread, Refusals::Kept);
-    if (thread.result())
+    bool collected = false;
+    for (bool again = true; again;) {
+        m_failed = {};
+        QEventLoop loop;
+        CollectThread thread(this, loop, reposUsed, leftOut);
+        execWorkThread(loop, thread, settle ? Failures::Kept : Failures::Shown);
+        collected = thread.result();
+        again = !collected && !m_cancelled && !m_failed.report.isEmpty() &&
+                settle(takeFailedRepos(), leftOut) && makeSession();
+    }
+    if (collected)
         publishEntries();
     else if (m_former.yumIO)
         takeFormerBack();
     m_clearing = false;
     Q_EMIT collectedExtraData();
-    return thread.result();
+    return collected;
 }
 
 bool YumIO::apply()
 {
     QEventLoop loop;
     ApplyThread thread(this, loop);
-    execWorkThread(loop, thread, Refusals::Kept);
+    execWorkThread(loop, thread, Failures::Kept);
     m_session.spent = m_session.spent || thread.result();
     return thread.result();
 }
@@ -301,6 +308,15 @@ void YumIO::clear()
     m_former = m_session = {};
     if (m_script.yumIOClass)
         createYumIO();
+}
+
+// For another attempt, in the place of the session that failed.
+bool YumIO::makeSession()
+{
+    const PyGILStateWrapper lock(true);
+    Py_CLEAR(m_session.yumIO);
+    m_session = {};
+    return createYumIO();
 }
 
 void YumIO::renew()

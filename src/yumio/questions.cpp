@@ -50,16 +50,17 @@ PyObject *YumIO::lockWait(PyObject *, PyObject *args)
     return PyLong_FromLong(wait ? 1 : 0);
 }
 
-PyObject *YumIO::credentialsRefused(PyObject *, PyObject *args)
+PyObject *YumIO::repositoryFailed(PyObject *, PyObject *args)
 {
     const char *id, *text;
-    if (!PyArg_ParseTuple(args, "ss", &id, &text))
+    long refused;
+    if (!PyArg_ParseTuple(args, "ssl", &id, &text, &refused))
         return nullptr;
-    if (!m_tellsRefused)
+    if (!m_keepsFailures)
         Py_RETURN_NONE;
     const QString repo = QString::fromUtf8(id);
-    m_refused.removeIf([&](const Engine::RefusedRepo &refused) { return refused.id == repo; });
-    m_refused.append({repo, QString::fromUtf8(text), QString()});
+    m_failed.repos.removeIf([&](const Engine::FailedRepo &failed) { return failed.id == repo; });
+    m_failed.repos.append({repo, QString::fromUtf8(text), refused != 0});
     Py_RETURN_NONE;
 }
 

@@ -58,12 +58,20 @@ struct Session
 // How far a collection came, as far as that decides what can be done next.
 enum class Collected { All, Cancelled, NoRepositories, NoneEnabled, RepositoriesFailed, Failed };
 
-// A repository whose server refused the credentials, and what is to be told of it.
-struct RefusedRepo
+// A repository that could not be used.
+struct FailedRepo
 {
     QString id;
-    QString text;   // the reason
-    QString failed; // what the job could not do because of it; empty when it went on without it
+    QString text;         // the reason
+    bool refused = false; // the server refused user name and password
+};
+
+// Those of a job, with the report of what it could not do because of them; that is empty when it went
+// on without them.
+struct FailedRepos
+{
+    QList<FailedRepo> repos;
+    QString report;
 };
 
 } // namespace Engine

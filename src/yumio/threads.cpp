@@ -13,7 +13,7 @@ void WorkThread::run()
 
 bool CollectThread::work()
 {
-    return m_engine->collectReal(m_reposUsed);
+    return m_engine->collectReal(m_reposUsed, m_leftOut);
 }
 
 bool ClearEntriesThread::work()

@@ -5,7 +5,7 @@
 
 #include <QEventLoop>
 #include <QHash>
-#include <QString>
+#include <QStringList>
 #include <QThread>
 
 class YumIO;
@@ -33,8 +33,9 @@ private:
 class CollectThread : public WorkThread
 {
 public:
-    CollectThread(YumIO *engine, QEventLoop &loop, const QHash<QString, bool> &reposUsed)
-        : WorkThread(engine, loop), m_reposUsed(reposUsed)
+    CollectThread(YumIO *engine, QEventLoop &loop, const QHash<QString, bool> &reposUsed,
+                  const QStringList &leftOut)
+        : WorkThread(engine, loop), m_reposUsed(reposUsed), m_leftOut(leftOut)
     {
     }
 
@@ -43,6 +44,7 @@ protected:
 
 private:
     const QHash<QString, bool> m_reposUsed;
+    const QStringList m_leftOut;
 };
 
 class ClearEntriesThread : public WorkThread

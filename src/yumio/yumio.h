@@ -106,16 +106,22 @@ public:
     bool initialize();
 
     // Jobs: each runs on a worker thread while a local event loop serves the GUI thread.
-    bool collect(const QHash<QString, bool> &reposUsed);
+    //
+    // `leftOut` are repositories to do without, whatever `reposUsed` says; they still count as enabled.
+    // When repositories fail `settle` is called between two attempts, and may add to `leftOut`: true
+    // for another attempt. Without it the engine reports the failure.
+    using Settle = std::function<bool(const Engine::FailedRepos &failed, QStringList &leftOut)>;
+    bool collect(const QHash<QString, bool> &reposUsed, QStringList leftOut = {},
+                 const Settle &settle = {});
     // How far the last collection came.
     Engine::Collected collected() const { return m_collected; }
-    // The repositories whose servers refused the user name and the password that they were given,
-    // each once, in the collection or apply and the loads with Refusals::Kept since the last call.
-    // The engine shows no box of these: that is the caller's.
-    QList<Engine::RefusedRepo> takeRefusedRepos() { return std::exchange(m_refused, {}); }
-    enum class Refusals { Shown, Kept };
-    bool collectFileLists(Refusals refusals = Refusals::Shown);
-    bool collectOtherData(Refusals refusals = Refusals::Shown);
+    // The repositories that failed, each once, in the collection or apply and the loads with
+    // Failures::Kept since the last call; of a collection that succeeded, those that refused user name
+    // and password. The engine shows no box of these: that is the caller's.
+    Engine::FailedRepos takeFailedRepos() { return std::exchange(m_failed, {}); }
+    enum class Failures { Shown, Kept };
+    bool collectFileLists(Failures failures = Failures::Shown);
+    bool collectOtherData(Failures failures = Failures::Shown);
     bool apply();
     // After an apply that returned false: true when it ended before anything was asked because
     // another program had changed the installed packages since they were collected. `changes` gets
@@ -284,7 +290,8 @@ private:
     using EntryPredicate = bool (YumIO::*)(Package::Entry *);
 
     // lifecycle.cpp
-    void execWorkThread(QEventLoop &loop, QThread &thread, Refusals refusals = Refusals::Shown);
+    void execWorkThread(QEventLoop &loop, QThread &thread, Failures failures = Failures::Shown);
+    bool makeSession();
     void flush();
     void clearEntriesReal();
     void dropFormer();
@@ -299,9 +306,9 @@ private:
     bool probe(std::optional<bool> &answer, const char *method);
 
     // collect.cpp
-    bool collectReal(const QHash<QString, bool> &reposUsed);
+    bool collectReal(const QHash<QString, bool> &reposUsed, const QStringList &leftOut);
     bool takeLock();
-    bool readRepositories(const QHash<QString, bool> &reposUsed);
+    bool readRepositories(const QHash<QString, bool> &reposUsed, const QStringList &leftOut);
     PyObject *bracketed(const char *method, const QString &what, bool &reported);
     PyObject *bracketedOrError(const char *method, const QString &what);
     bool collectPackages();
@@ -491,7 +498,7 @@ private:
     void reportPending(const QString &what);
     QString exceptionText();
     bool isCancellation() const;
-    bool isRefusal(const QString &failed);
+    bool isKept(const QString &report);
     void walkback();
     void pythonException(const QString &text);
     void pythonExceptionV(const QString &text);
@@ -556,7 +563,7 @@ private:
     PyObject *lockWait(PyObject *self, PyObject *args);
     PyObject *keyQuestion(PyObject *self, PyObject *args);
     PyObject *confirmRemovals(PyObject *self, PyObject *args);
-    PyObject *credentialsRefused(PyObject *self, PyObject *args);
+    PyObject *repositoryFailed(PyObject *self, PyObject *args);
     PyObject *transactionReport(PyObject *self, PyObject *args);
 
     Surface m_surface;
@@ -576,9 +583,9 @@ private:
     Engine::Session m_former; // of the rows that are kept unseen while new ones are gathered
     Engine::Store m_store;
     Engine::Search m_search;
-    QList<Engine::RefusedRepo> m_refused;
+    Engine::FailedRepos m_failed;
     Engine::Collected m_collected = Engine::Collected::Failed;
-    bool m_tellsRefused = false;          // the caller of the running job shows these
+    bool m_keepsFailures = false;         // the caller of the running job shows these
     std::atomic<bool> m_clearing = false; // no row is seen
     const Package::EntryList m_noEntries = {};
 

@@ -76,7 +76,7 @@ PyMethodDef YumIOC::s_methods[] = {
     VOK_CALLBACK(lockWait, METH_VARARGS),
     VOK_CALLBACK(keyQuestion, METH_VARARGS),
     VOK_CALLBACK(confirmRemovals, METH_VARARGS),
-    VOK_CALLBACK(credentialsRefused, METH_VARARGS),
+    VOK_CALLBACK(repositoryFailed, METH_VARARGS),
     VOK_CALLBACK(transactionReport, METH_VARARGS),
     {"tr", translate, METH_VARARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},

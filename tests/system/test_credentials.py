@@ -38,6 +38,9 @@ class Credentials(scriptdriver.Case):
     def press(self, name, top=None):
         self.program.click(self.program.find("push button", name, top))
 
+    def told(self):
+        return self.program.texts(self.program.find("text", top=self.program.find("dialog", "VOK Yum Error")))
+
     def press_apply(self):
         self.program.wait_enabled(self.program.find("push button", "Apply Actions"), "Apply Actions")
         self.press("Apply Actions")
@@ -69,8 +72,8 @@ class Credentials(scriptdriver.Case):
         key("space")
         self.server.misbehave("status=401;only=*.rpm")
         self.press_apply()
-        told = self.program.texts(self.program.find("label", top=self.program.find("alert")))
-        self.assertRegex(told, "(?s)^Wrong user name or password for repository bulk.*Unable to apply changes\n")
+        told = self.told()
+        self.assertRegex(told, "(?s)^Wrong user name or password for repository bulk.*Unable to apply changes: ")
         self.press("Close")
         self.server.misbehave("")
         self.press_apply()
@@ -86,7 +89,7 @@ class Credentials(scriptdriver.Case):
         self.configure(USER, "wr0ng")
         self.files[0].unlink()
         self.program = start_program(self, self.root)
-        told = self.program.texts(self.program.find("label", top=self.program.find("alert")))
+        told = self.told()
         self.assertIn("Wrong user name or password for repository extras.", told)
         self.press("Edit Repository")
         form = self.program.find("dialog", "VOK Repository Configuration")
@@ -98,6 +101,21 @@ class Credentials(scriptdriver.Case):
         wait_for(lambda: self.server.requests()[-1][2] == 200, "the metadata")
         self.program.wait_enabled(self.program.find("push button", "Refresh"), "Refresh")
         self.assertHidden("wr0ng", PASSWORD, "S3cr", told=told)
+
+    def test_skipped(self):
+        """Who skips the questions has only a line in the window, also after a refresh, until asking again."""
+        self.configure()
+        self.program = start_program(self, self.root)
+        tried = []
+        for question, press in ((True, "Refresh"), (False, "Use Again"), (True, None)):
+            if question:
+                self.press("Skip All")
+            self.program.find("label", "Left out for this session: extras, bulk.")
+            self.program.wait_enabled(self.program.find("push button", "Refresh"), "Refresh")
+            tried.append(len(self.server.requests()))
+            if press:
+                self.press(press)
+        self.assertEqual(tried, [tried[0], tried[0], 2 * tried[0]])
 
     def test_quit(self):
         """Nothing is written and asked any more when the program is ended at the question."""

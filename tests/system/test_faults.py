@@ -6,6 +6,7 @@ in every way. Each failure is told in one dialog that says what failed and why; 
 table can be used afterwards."""
 
 import fcntl
+import hashlib
 import os
 import sqlite3
 import subprocess
@@ -21,6 +22,7 @@ from scriptdriver import mounted
 HOLD = "import fcntl, os, sys; f = open(sys.argv[1], 'r+'); fcntl.flock(f, fcntl.LOCK_EX); " \
        "f.write(str(os.getpid())); f.flush(); print(flush=True); sys.stdin.read()"
 WAIT = {"title": "VOK Package Lock", "button": "Wait"}
+CLOSE = {"title": "VOK Yum Error", "button": "Close"}
 GIVE_UP = {"title": "VOK Package Lock", "button": "Give Up"}
 PASSWORD = "se%40cret"
 # Numbers, as the words change from version to version. What curl says of a refused certificate ends in a
@@ -116,7 +118,7 @@ class Downloads(Case):
             self.serve(url())
             with Recorder(self.root) as window:
                 rows = window.do("wait")["rows"]
-                window.do("answer", rules=[{"title": "VOK Yum Error", "button": "Close"}])
+                window.do("answer", rules=[CLOSE])
                 for name, (urls, options, reason) in cases.items():
                     with self.subTest(name):
                         self.serve(*urls, **options)
@@ -127,7 +129,7 @@ class Downloads(Case):
                 # What is shown can be used, while the files are as they were; after that it has to be read anew.
                 self.serve(url())
                 (self.repositories / "bulk/repodata").rename(self.root / "tmp/repodata")
-                self.one(self.apply(window, "bulk-300"), "^Repository web: ")
+                self.one(self.apply(window, "bulk-300", rules=[CLOSE]), "^Repository web: ")
                 self.assertTrue(self.installed("bulk-300"))
                 self.assertEqual(window.do("rows")["rows"], 0)
                 (self.root / "tmp/repodata").rename(self.repositories / "bulk/repodata")
@@ -146,6 +148,37 @@ class Downloads(Case):
                         self.assertRegex(window.logged(), told)
                 self.assertNotIn(PASSWORD, window.logged())
                 self.assertNotIn("se@cret", window.logged())
+
+    def test_left_out(self):
+        """One dialog names all that failed before they are read, and a declined key as such; another what
+        cannot be read. What is left out stays so, with the installed packages in the table, until it is used
+        again."""
+        damaged = self.root / "srv/damaged/repodata"
+        damaged.mkdir(parents=True)
+        (damaged / "primary.xml").write_bytes(b"<metadata><package")
+        (damaged / "repomd.xml").write_text(
+            '<repomd><data type="primary"><location href="repodata/primary.xml"/><checksum type="sha256">%s'
+            "</checksum></data></repomd>" % hashlib.sha256(b"<metadata><package").hexdigest())
+        (self.root / "etc/yum.repos.d/Aster-Base.repo").write_text(
+            "[gone]\nbaseurl=file:///gone\n[damaged]\nbaseurl=file:///srv/damaged\n[foundry]\nrepo_gpgcheck=1\n"
+            "baseurl=file:///srv/repos/9/x86_64/foundry\ngpgkey=file:///srv/repos/RPM-GPG-KEY-foundry\n")
+        leave = dict(CLOSE, button="Leave Out for This Session")
+        with Server(self.repositories) as server:
+            self.serve(server.url("bulk/", "status=404"))
+            with Recorder(self.root) as window:
+                window.do("answer", rules=[dict(CLOSE, button="Try Again", times=1), leave])
+                dialogs = window.do("wait")["dialogs"]
+                key, first, _, again, second = (dialog["text"] for dialog in dialogs)
+                self.assertIn("Import the key", key)
+                self.assertEqual(first, again)
+                self.assertRegex(first, "(?s)^Repository gone: .*\nRepository foundry: The key 0x[0-9A-F]+, .* not "
+                                        "imported.\nRepository web: .*404.*\nUnable to initialize$")
+                self.assertRegex(second, "(?s)^Unable to setup transaction: .*\nRepository damaged: .* at line 1")
+                self.assertEqual({state for state, *_ in window.do("rows")["table"].values()}, {2})
+                self.assertEqual(window.job("refreshButton")["dialogs"], [])
+                self.serve(server.url("bulk/"))
+                self.assertNotIn("web", window.job("leftOutNoticeButton")["dialogs"][1]["text"])
+                self.assertIn("bulk-001", window.do("rows")["table"])
 
     def test_packages(self):
         with Server(self.repositories) as server:
@@ -258,6 +291,7 @@ class FileSystems(Case):
             (self.root / "etc/yum.repos.d/Aster-Base.repo").unlink()
             with self.start("mkdir -p ROOT/var/cache && "
                             "mount -t tmpfs -o size=16k none ROOT/var/cache") as window:
+                window.do("answer", rules=[CLOSE])
                 answer = window.do("wait")
                 self.one(answer["dialogs"], "'web'", "no room left in .*/var/cache/yum")
                 self.assertEqual(answer["rows"], 0)
@@ -325,24 +359,24 @@ class Termination(Case):
             web, url = self.root / "etc/yum.repos.d/web.repo", server.url("extras/")
             unread = "The repositories could not be read.\nRefresh tries again"
             for name, prepare, box, told in (
-                    ("nothing", lambda: self.serve(url), False, ""),
+                    ("nothing", lambda: self.serve(url), "", ""),
                     ("fresh metadata", lambda: (server.misbehave("status=503"), [
-                        os.utime(file, (0, 0)) for file in (self.root / "var/cache").rglob("*")]), True, unread),
-                    ("a network", lambda: self.serve(server.url("extras/", kind="closed")), True, unread),
-                    ("one of them", lambda: self.serve(server.url("extras/", kind="closed"), skip_if_unavailable=1), False,
+                        os.utime(file, (0, 0)) for file in (self.root / "var/cache").rglob("*")]), "Close", unread),
+                    ("a network", lambda: self.serve(server.url("extras/", kind="closed")), "Close", unread),
+                    ("one of them", lambda: self.serve(server.url("extras/", kind="closed"), skip_if_unavailable=1), "",
                      "Not everything could be read."),
-                    ("one that is enabled", lambda: self.serve(url, enabled=0), True,
+                    ("one that is enabled", lambda: self.serve(url, enabled=0), "OK",
                      "No repositories are enabled.\nEdit Configuration"),
-                    ("repositories", web.unlink, True, "No repositories are configured.\nEdit Configuration"),
+                    ("repositories", web.unlink, "OK", "No repositories are configured.\nEdit Configuration"),
                     ("installed packages", lambda: (server.misbehave(""), self.serve(url), subprocess.run(
-                        ["rm", "-rf", self.root / "var/lib/rpm"], check=True)), False,
+                        ["rm", "-rf", self.root / "var/lib/rpm"], check=True)), "",
                      "Nothing is installed: the rpm database is empty.")):
                 with self.subTest(missing=name):
                     prepare()
                     program = start_program(self, self.root, "-s", "all")
                     if box:
                         program.find(("alert", "dialog"))
-                        program.click(program.find("push button", "OK"))
+                        program.click(program.find("push button", box))
                     program.wait_enabled(program.find("push button", "Refresh"), "Refresh")
                     said = "\n".join(filter(None, [program.find("table", "Packages").get_description(),
                                                    *map(program.texts, program.walk())]))

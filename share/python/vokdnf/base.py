@@ -34,21 +34,35 @@ class Base(dnf.Base):
         self.apart = {}
         self.excluded = None  # query: what is installed and excluded
         self.cookie = ""      # of the rpm database that the sack was filled from
+        self._failed = []  # texts of the repositories that could not be read into the sack
 
     def _add_repo_to_sack(self, repo):
         errors.check_cancelled()
         enabled = sum(1 for _ in self.repos.iter_enabled())
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
-        super()._add_repo_to_sack(repo)
-        self._read.append(repo.id)
+        try:
+            super()._add_repo_to_sack(repo)
+        except dnf.exceptions.RepoError as error:
+            if repo.skip_if_unavailable:
+                raise
+            cause = error.__context__  # DNF only logs it
+            self._failed.append(_failure(repo, report.told(error),
+                                         [report.told(cause)] if isinstance(cause, hawkey.Exception) else []))
+            report.repository_failed(repo.id, self._failed[-1])
+            repo._repo.expire()
+        else:
+            self._read.append(repo.id)
         self._reading += 1
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
 
     def fill_sack(self, load_system_repo=True, load_available_repos=True):
         """DNF's own. What is installed is then there for every query and for the solver, whatever the
         configuration and plugins exclude: excludes rule what can be installed. Source packages are for
-        none of them."""
+        none of them. All repositories are tried; NoMoreMirrorsRepoError then names all that failed."""
+        self._failed = []
         sack = super().fill_sack(load_system_repo, load_available_repos)
+        if self._failed:
+            raise Errors.NoMoreMirrorsRepoError("\n".join(self._failed))
         everything = sack.query(flags=hawkey.IGNORE_EXCLUDES)
         installed = everything.installed().apply()
         self.excluded = installed.difference(sack.query().installed())
@@ -95,39 +109,54 @@ class Base(dnf.Base):
 
 
 def load(dnf_base):
-    """Loads the metadata of the enabled repositories of a base."""
+    """Loads the metadata of the enabled repositories of a base, one by one. All are tried; RepoError then names
+    all that failed and that the configuration does not allow to leave out."""
     enabled = list(dnf_base.repos.iter_enabled())
+    failed = []
     report.yumIOC.collectGrabMultiMeterStart(len(enabled), 0)
     try:
         for repo in enabled:
             errors.check_cancelled(Errors.CancelledRepoError)
-            _load(repo)
+            failed += _load(repo)
     finally:
         report.yumIOC.collectGrabMultiMeterEnd()
+    if failed:
+        raise Errors.RepoError("\n".join(failed))
 
 
 def _load(repo):
+    """Loads one. The result is empty, or a text that says why it failed."""
     callbacks = meters.RepositoryCallbacks(repo)
     repo._repo.setCallbacks(callbacks)
     repo._callbacks = callbacks
     callbacks.this.disown()  # the repository owns it now
-    repo._set_key_import(keys.RepositoryKeyImport(repo))
+    key_import = keys.RepositoryKeyImport(repo)
+    repo._set_key_import(key_import)
     try:
         repo.load()
     except dnf.exceptions.RepoError as error:
         if callbacks.cancelled or report.cancelled():
             raise Errors.CancelledRepoError() from error
-        text = "\n".join([tr("Repository %s: %s") % (repo.id, report.told(error))]
-                         + ["  " + certificates.explain(failure, repo) for failure in callbacks.failures
-                            or [root.shown(address) for address in repo.baseurl]])
-        text += full_cache(repo.basecachedir)
-        credentials.tell_refused(repo, text, text)
+        reason = key_import.reason(error)
+        text = _failure(repo, reason or report.told(error), [] if reason else [
+            certificates.explain(failure, repo) for failure in callbacks.failures
+            or [root.shown(address) for address in repo.baseurl]])
+        refused = credentials.refused(repo, text)
         if not repo.skip_if_unavailable:
-            raise Errors.RepoError(text) from error
+            report.repository_failed(repo.id, text, refused)
+            return [text]
+        if refused:
+            report.repository_failed(repo.id, text, refused)
         report.errorlog(0, tr("%s\nThe repository is left out.") % text)
         repo.disable()
     finally:
         callbacks.finish()
+    return []
+
+
+def _failure(repo, reason, details=()):
+    lines = [tr("Repository %s: %s") % (repo.id, reason), *("  " + detail for detail in details)]
+    return report.clean("\n".join(lines) + full_cache(repo.basecachedir))
 
 
 def full_cache(path):
@@ -174,8 +203,7 @@ class Session:
             report.errorlog(3, tr("Closing the package session: %s") % report.clean(error))
 
     def load_repositories(self):
-        """Loads the metadata of the enabled repositories, one by one. A repository that fails is left
-        out when its configuration allows it, else RepoError is raised."""
+        """Loads the metadata of the enabled repositories; see load."""
         report.job_state("metadata", True)
         load(self.base)
 
@@ -185,12 +213,8 @@ class Session:
         self.base._reading = 0
         # Read before the packages are, so that no change goes unnoticed.
         self.base.cookie = database.cookie(self.conf)
-        try:
-            with errors.translated():
-                locks.guarded("metadata", True, self.base.fill_sack)
-        except Errors.RepoError as error:
-            error.value += full_cache(self.conf.cachedir)
-            raise
+        with errors.translated():
+            locks.guarded("metadata", True, self.base.fill_sack)
         self._cached = {repo.id: solvcache.Cached(self.conf.cachedir, repo.id)
                         for repo in self.base.repos.iter_enabled()}
         errors.check_cancelled()

@@ -5,15 +5,12 @@
 
 import re
 
-from . import report
-
 _REFUSED = re.compile(r"Status code: 40[13] for ")
 _IN_URL = re.compile(r"://[^/@\s]+@|/kivvet\?[^&\s]*=|/rhel/[^/\s]*=[^/\s]*/[^/\s]*=[^/\s]*/")
 
 
-def tell_refused(repo, failure, text):
-    """Tells the program when a failure says that a server refused what `repo` gives it. `text` is what is
-    raised because of it, or logged where the repository is left out."""
+def refused(repo, failure):
+    """Whether the text of a failure says that a server refused what `repo` gives it."""
     addresses = [*repo.baseurl, repo.mirrorlist or "", repo.metalink or ""]
-    if _REFUSED.search(failure) and (repo.username or repo.password or any(map(_IN_URL.search, addresses))):
-        report.credentials_refused(repo.id, text)
+    return bool(_REFUSED.search(failure)
+                and (repo.username or repo.password or any(map(_IN_URL.search, addresses))))

@@ -5,6 +5,7 @@
 
 import concurrent.futures
 import os
+import re
 
 import dnf.callback
 import dnf.exceptions
@@ -18,20 +19,31 @@ from .translation import tr
 
 library.mend()
 
+_SIGNATURE = re.compile("GPG|[Ss]ignature")
+
 
 class RepositoryKeyImport(dnf.callback.KeyImport):
     """Asks about the keys that sign a repository's metadata."""
 
     def __init__(self, repo):
         self._repo = repo
+        self._declined = []
 
     def _confirm(self, id, userid, fingerprint, url, timestamp):
         source = tr("%s (metadata of the repository %s)") % (root.shown(url), self._repo.id)
         answer = report.import_key(id, userid, fingerprint, source)
         if not answer:
+            self._declined.append(id)
             report.errorlog(0, tr("The key 0x%s of the repository %s was not imported.")
                             % (id, self._repo.id))
         return answer
+
+    def reason(self, error):
+        """What to say in the place of `error`: that a key was declined, where libdnf speaks of a bad signature
+        because of it; else ""."""
+        if not self._declined or not _SIGNATURE.search(str(error)):
+            return ""
+        return tr("The key 0x%s, which signs its metadata, was not imported.") % self._declined[-1]
 
 
 def check_signatures(base, packages):

@@ -70,10 +70,11 @@ def job_state(state, can_cancel):
         yumIOC.jobState(state, 1 if can_cancel else 0)
 
 
-def credentials_refused(repo_id, text):
-    """A server refused what a repository gives it; `text` is what RepoError tells if it comes to that."""
-    if offers("credentialsRefused"):
-        yumIOC.credentialsRefused(clean(repo_id), clean(text))
+def repository_failed(repo_id, text, refused=False):
+    """A repository cannot be used. The error that is raised because of it, if any, contains `text`; `refused`:
+    the server refused user name and password."""
+    if offers("repositoryFailed"):
+        yumIOC.repositoryFailed(clean(repo_id), clean(text), 1 if refused else 0)
 
 
 def import_key(key_id, user_id, fingerprint, source):

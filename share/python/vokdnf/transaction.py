@@ -138,7 +138,8 @@ class Transaction:
                                              and "No more mirrors" not in text]
             text = "\n".join(lines) + full_cache(base.conf.cachedir)
             for repo, refusals in progress.refusals.items():
-                credentials.tell_refused(repo, "\n".join(refusals), text)
+                if credentials.refused(repo, "\n".join(refusals)):
+                    report.repository_failed(repo.id, text, True)
             raise Errors.NoMoreMirrorsRepoError(text) from error
         finally:
             progress.finish()
