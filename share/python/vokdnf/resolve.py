@@ -37,14 +37,15 @@ class Marks:
 
 
 class Resolver:
-    """Resolves marks on a base. `group_members` are names that are wanted for their group's sake. Removals
-    alone are resolved against the installed packages alone; with other marks a substitute may be installed
-    for a package that is removed."""
+    """Resolves marks on a base. `group_members` are names that are wanted for their group's sake. With
+    `removals_alone` the solver knows the installed packages alone; otherwise a substitute may be installed for
+    a package that is removed."""
 
-    def __init__(self, base, marks, group_members=()):
+    def __init__(self, base, marks, group_members, removals_alone):
         self._base = base
         self._marks = marks
         self._group_members = set(group_members)
+        self._alone = removals_alone
         self._erased = self._erased_with_removals()
         self._twins = self._other_architectures()
         self._spared = []    # excluded packages that removals would take along
@@ -58,12 +59,12 @@ class Resolver:
             self._attempt(True, erasing)
         except dnf.exceptions.DepsolveError as error:
             return self._way_out(error, erasing)
-        return self._accept_losses() if erasing and self._marks.wanted else True
+        return self._accept_losses() if erasing and not self._alone else True
 
     def _erased_with_removals(self):
         """The marked removals and what depends on them, by the installed packages alone."""
         erased = set(self._marks.unwanted)
-        if erased and self._marks.wanted:
+        if erased and not self._alone:
             with self._base.installed_alone():
                 goal = dnf.goal.Goal(self._base.sack)
                 for pkg in erased:
@@ -75,7 +76,7 @@ class Resolver:
     def _other_architectures(self):
         """The installed packages that share a name with what the removals erase. While a package of the
         better architecture is on offer, the solver would erase them too."""
-        if not self._marks.wanted:
+        if self._alone:
             return []
         names = {pkg.name for pkg in self._erased}.difference(pkg.name for pkg in self._marks.wanted)
         installed = self._base.sack.query().installed().filterm(name=list(names)) if names else ()
@@ -98,7 +99,7 @@ class Resolver:
 
     def _solve(self, strict, erasing, kept):
         base = self._base
-        with contextlib.nullcontext() if self._marks.wanted else base.installed_alone():
+        with base.installed_alone() if self._alone else contextlib.nullcontext():
             base.reset(goal=True)
             for pkg in self._marks.wanted:
                 base.package_install(pkg, strict=strict)

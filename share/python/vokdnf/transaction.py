@@ -61,7 +61,8 @@ class Transaction:
         removed = {pkg.name for pkg in self._marks.unwanted}
         grouped = {name for group, action in self._noted for name in group.members()
                    if (action == groups.REMOVE) == (name in removed)}
-        if not resolve.Resolver(self._base, self._marks, grouped).resolve():
+        alone = not self._marks.wanted and all(action == groups.REMOVE for _, action in self._noted)
+        if not resolve.Resolver(self._base, self._marks, grouped, alone).resolve():
             return False
         errors.check_cancelled()
         self._elements = elements.of(self._base.transaction)
