@@ -371,12 +371,19 @@ bool Dialog::load(PageInfo &info)
     info.page->showMessage(files ? tr("Loading the file lists of the repositories...")
                                  : tr("Loading the change logs of the repositories..."),
                            false);
+    const auto tellCancel = connect(m_progress, &JobProgress::cancelAsked, info.page, [&info] {
+        info.page->showMessage(
+            tr("Cancelling. The repository that is being read is read to its end "
+               "first; that cannot be interrupted."),
+            false);
+    });
     setLoading(true);
     bool loaded = false;
     auto [ran, said] = m_progress->run(m_yumIO, m_runJob, [&] {
         loaded = files ? m_yumIO->collectFileLists() : m_yumIO->collectOtherData();
     });
     setLoading(false);
+    disconnect(tellCancel);
     if (m_closeAsked) {
         done(QDialog::Rejected);
         return false;

@@ -70,4 +70,5 @@ void JobProgress::cancel()
     m_yumIO->cancel();
     m_hadFocus = m_hadFocus || m_cancelButton->hasFocus();
     m_cancelButton->setEnabled(false);
+    Q_EMIT cancelAsked();
 }

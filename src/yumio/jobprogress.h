@@ -35,6 +35,10 @@ public:
     // Asks the job to end; nothing when none runs.
     void cancel();
 
+Q_SIGNALS:
+    // The running job has been asked to end.
+    void cancelAsked();
+
 private:
     YumIO *m_yumIO = nullptr; // whose job runs
     bool m_hadFocus = false;  // the cancel control, when it was used

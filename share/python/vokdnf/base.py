@@ -37,6 +37,7 @@ class Base(dnf.Base):
         self._failed = []  # texts of the repositories that could not be read into the sack
 
     def _add_repo_to_sack(self, repo):
+        """DNF's own, with progress. hawkey reads one repository in one call, which nothing can stop."""
         errors.check_cancelled()
         enabled = sum(1 for _ in self.repos.iter_enabled())
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
@@ -54,6 +55,7 @@ class Base(dnf.Base):
             self._read.append(repo.id)
         self._reading += 1
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
+        errors.check_cancelled()
 
     def fill_sack(self, load_system_repo=True, load_available_repos=True):
         """DNF's own. What is installed is then there for every query and for the solver, whatever the
