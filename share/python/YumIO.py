@@ -21,8 +21,8 @@ import cli  # noqa: F401,E402
 import yum  # noqa: F401,E402
 import yum.Errors  # noqa: F401,E402
 
-from vokdnf import base, clean, collection, errors, groups, interrupted, locks  # noqa: E402
-from vokdnf import otherdata, packages, relations, report, repotest, rights, searchtexts  # noqa: E402
+from vokdnf import base, clean, collection, database, errors, groups, interrupted, locks  # noqa: E402
+from vokdnf import otherdata, packages, relations, report, repotest, rights, root, searchtexts  # noqa: E402
 from vokdnf import transaction, tsinfo  # noqa: E402
 
 import dnf.drpm  # noqa: E402
@@ -125,6 +125,10 @@ class YumIO:
 
     def collectDone(self):
         report.job_state("done", False)
+
+    def usesRpm(self):
+        """Optional: whether this is an rpm system. Another root is one, whatever it holds."""
+        return bool(root.prefix()) or database.has_packages(self._session.conf)
 
     def requiredBy(self, po):
         """Optional. The installed packages that require something of `po`, as a sorted list of texts."""

@@ -3,6 +3,7 @@
 
 #include "mainwindow/mainwindow.h"
 
+#include "app/sysroot.h"
 #include "log/logwindow.h"
 #include "mainwindow/countline.h"
 #include "mainwindow/job.h"
@@ -199,8 +200,10 @@ void MainWindow::gather(Refresh why)
         note(tr("Not everything could be read. The log (Ctrl+L) tells what is missing."));
     m_view->setMissing(nextStep(m_yumIO->collected()));
     if (collected && nothingIsInstalled(*m_yumIO))
-        note(tr("Nothing is installed: the rpm database is empty. View Installable lists what can "
-                "be installed."));
+        note(SysRoot::prefix().isEmpty() ? YumIO::notRpmText()
+                                         : tr("Nothing is installed: the rpm database is empty. "
+                                              "View Installable lists what can "
+                                              "be installed."));
 
     // A search that is installed waits for its data, and is a job of its own. No row is listed
     // before it has ended.

@@ -24,6 +24,8 @@ QString nextStep(Engine::Collected collected)
     case Engine::Collected::Cancelled:
         return Texts::tr("The packages were not read, because that was cancelled.\nRefresh reads "
                          "them.");
+    case Engine::Collected::NotRpm:
+        return YumIO::notRpmText();
     case Engine::Collected::NoRepositories:
         return Texts::tr("No repositories are configured.\nEdit Configuration in the Repositories "
                          "menu (Ctrl+E) adds one.");

@@ -78,6 +78,10 @@ bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed, const QStrin
     useRepos(repos.get(), reposUsed);
     m_session.enabledRepos = collectRepos(dict.get());
     m_metadata = {};
+    if (m_session.enabledRepos.isEmpty() && !usesRpm()) {
+        m_collected = Engine::Collected::NotRpm;
+        return fail(notRpmText());
+    }
     if (PyDict_Size(dict.get()) == 0) {
         m_collected = Engine::Collected::NoRepositories;
         return fail(
@@ -116,6 +120,23 @@ bool YumIO::readRepositories(const QHash<QString, bool> &reposUsed, const QStrin
     m_progress->endItemActs();
     m_session.basearch = getYumVar(QStringLiteral("basearch"));
     return true;
+}
+
+bool YumIO::usesRpm()
+{
+    if (!PyObject_HasAttrString(m_session.yumIO, "usesRpm"))
+        return true;
+    const PyRef result(pyMethodCall(m_session.yumIO, "usesRpm", "()"));
+    if (!result)
+        handleException();
+    return !result || PyObject_IsTrue(result.get());
+}
+
+QString YumIO::notRpmText()
+{
+    return tr("This system does not use rpm: no package is installed through it.\nTo work on "
+              "another system, such as a mounted image or a chroot, start VOK with the directory "
+              "of that system in the variable VOKROOT:\nsudo VOKROOT=/mnt/image vok");
 }
 
 bool YumIO::useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed)

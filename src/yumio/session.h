@@ -56,7 +56,15 @@ struct Session
 };
 
 // How far a collection came, as far as that decides what can be done next.
-enum class Collected { All, Cancelled, NoRepositories, NoneEnabled, RepositoriesFailed, Failed };
+enum class Collected {
+    All,
+    Cancelled,
+    NotRpm,
+    NoRepositories,
+    NoneEnabled,
+    RepositoriesFailed,
+    Failed
+};
 
 // A repository that could not be used.
 struct FailedRepo

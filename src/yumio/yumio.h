@@ -169,6 +169,8 @@ public:
     QString getBuildTime(const Package::Entry &) const;
     static QString getState(Package::State);
     static QString getKind(Package::Kind);
+    // What to tell where VOK runs on a system that does not use rpm.
+    static QString notRpmText();
     QString getState(const Package::Entry &) const;
     QString getKind(const Package::Entry &) const;
 
@@ -322,6 +324,7 @@ private:
                      const std::function<void(Package::Entry *&)> &create);
     Package::Entry *&findSlot(EntryHash &hash, const QString &name, const QString &arch,
                               const QString &family);
+    bool usesRpm();
     bool useRepos(PyObject *repos, const QHash<QString, bool> &reposUsed);
     QStringList collectRepos(PyObject *reposDict);
     bool collectField(EntryHash &hash, PyObject *all, const char *field, Package::State state);

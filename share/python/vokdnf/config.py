@@ -43,9 +43,12 @@ def read_main():
     is no usable main file, or the rpm database cannot be read."""
     path = main_file()
     if path is None:
-        raise SystemExit(tr("There is no main configuration file; none of these exists: %s. "
-                            "One that holds nothing but the line [main] will do.")
-                         % ", ".join(MAIN_FILES))
+        text = tr("There is no main configuration file; none of these exists: %s. "
+                  "One that holds nothing but the line [main] will do.") % ", ".join(MAIN_FILES)
+        if not root.prefix():
+            text += "\n" + tr("If this system does not use rpm, start VOK with the directory of another system: "
+                              "sudo VOKROOT=/mnt/image vok")
+        raise SystemExit(text)
     opened = root.resolve(path)
     conf = dnf.conf.Conf()
     conf.installroot = root.prefix() or "/"

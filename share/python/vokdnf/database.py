@@ -83,6 +83,11 @@ def numbers(conf):
         return None
 
 
+def has_packages(conf):
+    """Whether rpm has installed anything; True when its database cannot be read."""
+    return numbers(conf) != set()
+
+
 def contents(conf):
     """{number: (name, arch, epoch, version, release)} of the installed packages, keys left out. The number
     is rpm's own, under which a transaction removes a package; a reinstallation changes it."""
