@@ -21,13 +21,15 @@ class Launcher(unittest.TestCase):
         with tempfile.TemporaryDirectory() as place, socket.socket(socket.AF_UNIX) as server:
             os.chmod(place, 0o755)
             server.bind(f"{place}/wayland-3")
-            for name, text in (("auth", ""), ("pkexec", f"#!/bin/sh\n{pkexec}\n")):
+            for name, text in (("auth", ""), ("pkexec", f"#!/bin/sh\n{pkexec}\n"),
+                               ("helper", (BUILD / "vok-as-root").read_text())):
                 pathlib.Path(place, name).write_text(text, encoding="utf-8")
                 os.chmod(f"{place}/{name}", 0o755)
             environment = {"PATH": f"{place}:/usr/bin:/bin", "XDG_RUNTIME_DIR": place, **environment}
             # By its text: the user may not be let into the folder of the build.
             done = subprocess.run([*AS_USER, "sh", "-s", "--", "-s", "all"], env=environment, cwd=place, check=False,
-                                  input=(BUILD / "vok-launch").read_text(), capture_output=True, text=True)
+                                  input=re.sub("(?m)^helper=.*", f"helper={place}/helper",
+                                               (BUILD / "vok-launch").read_text()), capture_output=True, text=True)
             return done.returncode, done.stdout.replace(place, "PLACE"), done.stderr
 
     def test_hands_over_what_leads_to_the_display(self):
@@ -38,6 +40,13 @@ class Launcher(unittest.TestCase):
         self.assertEqual(told, "WAYLAND_DISPLAY=PLACE/wayland-3 DISPLAY=:3 XAUTHORITY=PLACE/auth "
                                "QT_SCALE_FACTOR=1.5 LANG=de_DE.UTF-8 -- -s all\n")
 
+    def test_hands_over_a_root_that_only_root_changes(self):
+        for root, told in (("/usr/../usr/share", "VOKROOT=/usr/share "), ("/tmp", "nobody but root"),
+                           ("usr", "absolute path"), ("/usr/absent", "absolute path")):
+            done = self.launch('echo "$2 "', VOKROOT=root)
+            self.assertIn(told, done[1] + done[2], root)
+            self.assertEqual("VOKROOT=" in done[1], root == "/usr/../usr/share", root)
+
     def test_tells_why_the_rights_were_not_given(self):
         for status, word in ((126, "dismissed"), (127, "not given"), (134, "error")):
             done = self.launch(f"exit {status}")
@@ -46,7 +55,8 @@ class Launcher(unittest.TestCase):
     def test_root_takes_nothing_that_could_load_code(self):
         for words in (["LD_PRELOAD=/x", "--"], ["VOKSHARE=/x", "--"], ["XAUTHORITY=/etc/absent", "--"],
                       ["AT_SPI_BUS_ADDRESS=unixexec:path=/x", "--"], ["AT_SPI_BUS_ADDRESS=unix:path=/x", "--"],
-                      ["LANG=$(id)", "--"], ["--", "-platformpluginpath", "/x"], ["--", "-e", "-style"], []):
+                      ["LANG=$(id)", "--"], ["VOKROOT=/tmp", "--"],
+                      ["VOKROOT=/usr/../usr", "--"], ["VOKROOT=/proc/self/cwd", "--"], ["--", "-platformpluginpath", "/x"], ["--", "-e", "-style"], []):
             done = subprocess.run([*AS_ROOT, "sh", BUILD / "vok-as-root", *words], capture_output=True, text=True,
                                   check=False)
             self.assertEqual((done.returncode, "refused" in done.stderr), (2, True), words)
