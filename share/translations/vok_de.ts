@@ -1280,6 +1280,14 @@ Das Protokoll (Strg+L) nennt den Grund. „Neu einlesen“ versucht es noch einm
             <numerusform>%L1 von %Ln Dateien</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Cancelling. The repository that is being read is read to its end first; that cannot be interrupted.</source>
+        <translation>Wird abgebrochen. Die Paketquelle, die gerade gelesen wird, wird noch zu Ende gelesen; das kann nicht unterbrochen werden.</translation>
+    </message>
+    <message>
+        <source>%1 (if %2 is installed)</source>
+        <translation>%1 (wenn %2 installiert ist)</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::Describe::Page</name>
@@ -3653,6 +3661,14 @@ Den Schlüssel importieren und dem vertrauen, was damit signiert ist?</translati
         <source>Tested:</source>
         <translation>Geprüft:</translation>
     </message>
+    <message>
+        <source>This system does not use rpm: no package is installed through it.
+To work on another system, such as a mounted image or a chroot, start VOK with the directory of that system in the variable VOKROOT:
+sudo VOKROOT=/mnt/image vok</source>
+        <translation>Dieses System verwendet rpm nicht: Damit ist kein Paket installiert.
+Um an einem anderen System zu arbeiten, etwa einem eingehängten Abbild oder einem Chroot, starten Sie VOK mit dem Verzeichnis dieses Systems in der Variablen VOKROOT:
+sudo VOKROOT=/mnt/image vok</translation>
+    </message>
 </context>
 <context>
     <name>YumIO script</name>
@@ -4085,6 +4101,10 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>The key 0x%s, which signs its metadata, was not imported.</source>
         <translation>Der Schlüssel 0x%s, mit dem ihre Metadaten signiert sind, wurde nicht importiert.</translation>
+    </message>
+    <message>
+        <source>If this system does not use rpm, start VOK with the directory of another system: sudo VOKROOT=/mnt/image vok</source>
+        <translation>Wenn dieses System rpm nicht verwendet, starten Sie VOK mit dem Verzeichnis eines anderen Systems: sudo VOKROOT=/mnt/image vok</translation>
     </message>
 </context>
 </TS>
