@@ -200,10 +200,12 @@ void MainWindow::gather(Refresh why)
         note(tr("Not everything could be read. The log (Ctrl+L) tells what is missing."));
     m_view->setMissing(nextStep(m_yumIO->collected()));
     if (collected && nothingIsInstalled(*m_yumIO))
-        note(SysRoot::prefix().isEmpty() ? YumIO::notRpmText()
-                                         : tr("Nothing is installed: the rpm database is empty. "
-                                              "View Installable lists what can "
-                                              "be installed."));
+        note(SysRoot::prefix().isEmpty()
+                 ? tr("Nothing is installed through rpm here. To work on another system: sudo "
+                      "VOKROOT=/mnt/image vok")
+                 : tr("Nothing is installed: the rpm database is empty. "
+                      "View Installable lists what can "
+                      "be installed."));
 
     // A search that is installed waits for its data, and is a job of its own. No row is listed
     // before it has ended.
