@@ -827,6 +827,10 @@ Die Tabelle neu einlesen? Was vorgemerkt ist, bleibt vorgemerkt, soweit es noch 
         <source>Use Again</source>
         <translation>Wieder verwenden</translation>
     </message>
+    <message>
+        <source>Nothing is installed through rpm here. To work on another system: sudo VOKROOT=/mnt/image vok</source>
+        <translation>Hier ist nichts über rpm installiert. Um an einem anderen System zu arbeiten: sudo VOKROOT=/mnt/image vok</translation>
+    </message>
 </context>
 <context>
     <name>NextStep</name>
