@@ -76,7 +76,7 @@ private Q_SLOTS:
         row("done", "There is no change log.");
         row("cancelled", "The change logs are not loaded.\n\nLoading was cancelled.");
         row("failed", "no mirror");
-        row("closed", "Loading the change logs of the repositories...");
+        row("closed", "Cancelling. The repository that is being read is read to its end");
     }
 
     void loads()
