@@ -4110,5 +4110,13 @@ Es wurde nichts geändert.</translation>
         <source>If this system does not use rpm, start VOK with the directory of another system: sudo VOKROOT=/mnt/image vok</source>
         <translation>Wenn dieses System rpm nicht verwendet, starten Sie VOK mit dem Verzeichnis eines anderen Systems: sudo VOKROOT=/mnt/image vok</translation>
     </message>
+    <message>
+        <source>%s is not a plain file and is not opened. Remove it.</source>
+        <translation>%s ist keine gewöhnliche Datei und wird nicht geöffnet. Löschen Sie sie.</translation>
+    </message>
+    <message>
+        <source>%s is a symbolic link that leads out of %s, or no file at all, and is not opened. Remove it, or make it a file or directory.</source>
+        <translation>%s ist ein symbolischer Link, der aus %s hinausführt, oder gar keine Datei, und wird nicht geöffnet. Löschen Sie den Eintrag oder ersetzen Sie ihn durch eine Datei oder ein Verzeichnis.</translation>
+    </message>
 </context>
 </TS>

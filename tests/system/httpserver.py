@@ -36,6 +36,7 @@ import http.server
 import json
 import os
 import pathlib
+import shutil
 import re
 import socket
 import ssl
@@ -74,6 +75,12 @@ class Server:
         scheme = "https" if kind in ("https", "expired", "stranger") else "http"
         first = f"~{behaviour}/" if behaviour else ""
         return f"{scheme}://127.0.0.1:{self.ports[kind]}/{first}{path}"
+
+    def authority_in(self, root, name="ca.pem"):
+        """A certificate's path inside a root, into which it is copied."""
+        target = pathlib.Path(root, "etc", name)
+        shutil.copy(pathlib.Path(self.authority).with_name(name), target)
+        return f"/etc/{target.name}"
 
     def misbehave(self, behaviour):
         """From now on every URL does that; an empty text ends it."""

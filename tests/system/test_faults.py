@@ -96,9 +96,9 @@ class Downloads(Case):
                 plain = server.url("bulk/", behaviour, kind)
                 return plain.replace("://", f"://joe:{PASSWORD}@")
 
-            trusted = {"sslcacert": server.authority}
+            trusted = {"sslcacert": server.authority_in(self.root)}
             # Trusting somebody else asks nothing of the authorities that this machine knows.
-            untrusted = {"sslcacert": server.authority.replace("ca.pem", "stranger.pem")}
+            untrusted = {"sslcacert": server.authority_in(self.root, "stranger.pem")}
             cases = {
                 "refused": ([url(kind="closed")], {}, CURL % 7),
                 "timeout": ([url("hang")], {}, CURL % 28),

@@ -230,7 +230,7 @@ class Failures(Case):
             names = {"good": good, "gone": server.url("gone/"), "page": server.url("", "html"),
                      "wrong": server.url("", "status=401"),
                      "mirrors": server.url("mirrors"), "metalink": server.url("metalink"),
-                     "ca": server.authority, "port": server.ports["closed"], "files": "/srv/repos/9",
+                     "ca": server.authority_in(root), "port": server.ports["closed"], "files": "/srv/repos/9",
                      **{kind: server.url(kind=kind) for kind in ("closed", "https", "stranger")}}
             sections = [("[one]\n" if lines[0] != "[" else "") + lines.format_map(names) + "\n"
                         for lines, _ in REPO_TESTS.values()]

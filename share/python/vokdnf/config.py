@@ -3,13 +3,12 @@
 
 """The configuration: yum's or DNF's main file and the repository files, read into DNF's objects."""
 
-import errno
 import glob
 import os
-import stat
 
 import dnf.conf
 import dnf.conf.read
+import dnf.const
 import dnf.exceptions
 import dnf.repo
 import dnf.rpm
@@ -26,6 +25,7 @@ CACHE_DIRECTORY = "/var/cache/yum"
 LOG_DIRECTORY = "/var/log"
 # Without these the system cannot mend itself; a protected_packages option takes their place.
 FOUNDATIONS = ("dnf", "filesystem", "glibc", "rpm", "setup", "systemd", "yum")
+_OPENED_BY_LIBDNF = ("/etc/dnf/modules.d", "/etc/dnf/modules.defaults.d")
 # What reading a repository raises; the last is the binding's word for text that is not UTF-8.
 READING_ERRORS = (dnf.exceptions.Error, libdnf.error.Error, RuntimeError, TypeError)
 _SET_BY_FILE = dnf.conf.PRIO_MAINCONFIG
@@ -34,13 +34,20 @@ dnf.yum.misc.getCacheDir = root.user_cache
 
 
 def main_file():
-    """The main file's path inside the system, None when there is none."""
+    """The main file's path inside the system, None when there is none. OSError."""
     return next((path for path in MAIN_FILES if os.path.exists(root.resolve(path))), None)
 
 
 def read_main():
     """The main section as DNF's configuration object. Raises SystemExit with the cause when there
     is no usable main file, or the rpm database cannot be read."""
+    try:
+        return _read_main()
+    except OSError as error:
+        raise SystemExit(tr("%s cannot be read: %s") % (error.filename, error.strerror)) from error
+
+
+def _read_main():
     path = main_file()
     if path is None:
         text = tr("There is no main configuration file; none of these exists: %s. "
@@ -54,7 +61,8 @@ def read_main():
     conf.installroot = root.prefix() or "/"
     conf.config_file_path = opened
     try:
-        with open(opened, "rb"), language.english():
+        os.close(root.open_file(path, os.O_RDONLY))
+        with language.english():
             conf.read(opened, _SET_BY_FILE)
     except OSError as error:
         raise SystemExit(tr("Unable to read the main configuration file %s: %s")
@@ -66,6 +74,7 @@ def read_main():
     database.check(conf)
     _substitutions(conf, opened)
     _directories(conf)
+    _refuse_links(conf)
     return conf
 
 
@@ -80,30 +89,30 @@ def _settings(conf):
     conf.assumeyes = conf.assumeno = False
     conf.comment = "Done with VOK"
     if root.prefix():
+        # What the system in that directory says is data: no code of its own runs here.
+        conf.pluginpath = [dnf.const.PLUGINPATH]
         conf.pluginconfpath = [root.resolve(path) for path in conf.pluginconfpath]
-    for option in ("sslcacert", "sslclientcert", "sslclientkey"):
-        path = getattr(conf, option)
-        if path and root.inside(path) != path:
-            setattr(conf, option, root.inside(path))
+        conf.destdir = ""
+    place_inside(conf)
     if conf._get_priority("protected_packages") < _SET_BY_FILE:
         conf.protected_packages = sorted(set(FOUNDATIONS).union(_protected_by_files()))
 
 
 def _protected_by_files():
     for directory in ("/etc/dnf/protected.d", "/etc/yum/protected.d"):
-        for path in sorted(glob.glob(root.resolve(directory) + "/*.conf")):
+        for path in sorted(glob.glob(glob.escape(root.resolve(directory)) + "/*.conf")):
+            path = root.shown(path)
             try:
-                with open(path, encoding="utf-8", errors="replace") as lines:
-                    for line in lines:
-                        yield from line.partition("#")[0].replace(",", " ").split()
+                for line in root.read(path).split("\n"):
+                    yield from line.partition("#")[0].replace(",", " ").split()
             except OSError as error:
-                report.errorlog(1, tr("%s cannot be read: %s") % (root.shown(path), error.strerror))
+                report.errorlog(1, tr("%s cannot be read: %s") % (path, error.strerror))
 
 
 def _substitutions(conf, opened):
     variables = conf.substitutions
     for directory in conf.varsdir:
-        _read_variables(variables, root.resolve(directory))
+        _read_variables(variables, directory)
     if "releasever" not in variables:
         version = _release_of(conf, opened)
         if version:
@@ -113,20 +122,19 @@ def _substitutions(conf, opened):
 def _read_variables(variables, directory):
     """As DNF's update_from_etc, which in some versions ends at a file that is not UTF-8; here it is left out."""
     try:
-        names = os.listdir(directory)
+        names = os.listdir(root.resolve(directory))
     except OSError:
         return
     for name in names:
         path = os.path.join(directory, name)
         try:
             name.encode()
-            if os.path.isfile(path):
-                with open(path, "rb") as lines:
-                    variables[name] = lines.readline().rstrip(b"\r\n").decode()
+            with open(root.open_file(path, os.O_RDONLY), "rb") as lines:
+                variables[name] = lines.readline().rstrip(b"\r\n").decode()
         except OSError:
             continue
         except (UnicodeError, dnf.exceptions.Error) as error:
-            _left_out(tr("The variable file %s is left out: %s"), path, error)
+            _left_out(tr("The variable file %s is left out: %s"), root.resolve(path), error)
 
 
 def _release_of(conf, opened):
@@ -146,11 +154,10 @@ def _release_of(conf, opened):
     if version:
         return version
     try:
-        with open(root.resolve("/etc/os-release"), encoding="utf-8", errors="replace") as lines:
-            for line in lines:
-                key, _, value = line.strip().partition("=")
-                if key == "VERSION_ID":
-                    return value.strip("\"'")
+        for line in root.read("/etc/os-release").split("\n"):
+            key, _, value = line.strip().partition("=")
+            if key == "VERSION_ID":
+                return value.strip("\"'")
     except OSError:
         pass
     return None
@@ -162,11 +169,8 @@ def _directories(conf):
     if conf._get_priority("logdir") < _SET_BY_FILE:
         conf.logdir = LOG_DIRECTORY
     for option in ("cachedir", "logdir", "persistdir"):
-        if conf.installroot != "/":
-            conf.prepend_installroot(option)
-        else:
-            setattr(conf, option, libdnf.conf.ConfigParser.substitute(getattr(conf, option),
-                                                                       conf.substitutions))
+        path = libdnf.conf.ConfigParser.substitute(getattr(conf, option), conf.substitutions)
+        setattr(conf, option, root.resolve(path))
     conf.own_cache = not root.writable(conf.cachedir)
     if conf.own_cache:
         conf.cachedir = root.user_cache()
@@ -184,6 +188,15 @@ def _directories(conf):
     conf.reposdir = [root.resolve(path) for path in conf.reposdir]
 
 
+def _refuse_links(conf):
+    logs = glob.glob(glob.escape(conf.logdir) + "/hawkey.log*")
+    for path in (conf.cachedir, conf.persistdir, *logs):
+        if path != root.shown(path):
+            root.refuse_links(root.shown(path))
+    for path in _OPENED_BY_LIBDNF:
+        root.refuse_links(path)
+
+
 def read_repositories(conf, repositories):
     """Fills DNF's dictionary from the main file and the repository directories. A file that cannot be
     used is reported with the reason and left out; the others are used."""
@@ -193,14 +206,15 @@ def read_repositories(conf, repositories):
         files += sorted(glob.glob(glob.escape(directory) + "/*.repo"))
     for path in files:
         try:
-            if stat.S_ISFIFO(os.stat(path).st_mode):  # which would be waited for
-                raise OSError(errno.ENOTSUP, os.strerror(errno.ENOTSUP))
-            with open(path, "rb") as stream, language.english():
-                # The parser takes no name that is not UTF-8.
-                name = path if report.clean(path) == path else "/proc/self/fd/%d" % stream.fileno()
+            with open(root.open_file(root.shown(path), os.O_RDONLY), "rb") as stream, language.english():
+                name = root.resolve(root.shown(path))
+                if report.clean(name) != name:  # the parser takes no name that is not UTF-8
+                    name = "/proc/self/fd/%d" % stream.fileno()
                 for repo in reader._get_repos(name):
                     repo.repofile = report.clean(path)
                     place_inside(repo)
+                    if root.prefix():
+                        repo.basecachedir = conf.cachedir
                     repositories.add(repo)
         except OSError as error:
             if not os.path.isdir(path):
@@ -227,7 +241,7 @@ def line_not_utf8(path):
     """The number of the first such line of a file, comments aside; 0 without one or without the file."""
     number = 0
     try:
-        with open(path, "rb") as lines:
+        with open(root.open_file(root.shown(path), os.O_RDONLY), "rb") as lines:
             for number, line in enumerate(lines, 1):
                 if not line.startswith((b"#", b";")):
                     line.decode()
@@ -238,16 +252,24 @@ def line_not_utf8(path):
     return 0
 
 
-def place_inside(repo):
-    """Makes the files that a repository names those of the system."""
+def place_inside(options):
+    """Makes the files that a repository, or the main section, names those of the system."""
     if not root.prefix():
         return
     for option in ("gpgkey", "baseurl"):
-        values = list(getattr(repo, option) or ())
-        placed = [root.inside(value) if value.startswith("file://") else value for value in values]
+        values = list(getattr(options, option, None) or ())
+        placed = [_placed(value, option) if value.startswith("file://") else value for value in values]
         if placed != values:
-            setattr(repo, option, placed)
-    for option in ("sslcacert", "sslclientcert", "sslclientkey", "mirrorlist", "metalink"):
-        value = getattr(repo, option, None)
+            setattr(options, option, placed)
+    for option in ("sslcacert", "sslclientcert", "sslclientkey", "proxy_sslcacert", "proxy_sslclientcert",
+                   "proxy_sslclientkey", "mirrorlist", "metalink"):
+        value = getattr(options, option, None)
         if value and root.inside(value) != value:
-            setattr(repo, option, root.inside(value))
+            setattr(options, option, root.inside(value))
+
+
+def _placed(address, option):
+    """Packages may come from a directory beside the system, as from a medium."""
+    inside = root.inside(address)
+    bare = inside[len("file://"):]
+    return address if option == "baseurl" and not os.path.exists(bare) else inside

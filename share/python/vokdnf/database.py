@@ -28,6 +28,7 @@ def _reach():
     if root.prefix() and rpm.expandMacro("%{_dbpath}") != _PATH:
         rpm.addMacro("_dbpath", _PATH)
     _place["directory"] = rpm.expandMacro("%{_dbpath}")
+    root.refuse_links(_place["directory"])
     _place["copy"] = None
     if databasecopy.wanted(root.resolve(_place["directory"])):
         copy = databasecopy.make(root.resolve(_place["directory"]))

@@ -20,23 +20,32 @@ MARKER = "/var/lib/vok/transaction.json"
 def write(elements):
     """Notes the elements of a transaction before rpm begins. A system that takes no marker takes no
     transaction either, so a failure is only logged."""
-    path = root.resolve(MARKER)
     noted = [{"action": element.action, "package": element.envra} for element in elements]
     try:
+        path = root.resolve(os.path.dirname(MARKER)) + "/" + os.path.basename(MARKER)
         os.makedirs(os.path.dirname(path), mode=0o755, exist_ok=True)
-        with open(path + ".new", "w", encoding="utf-8") as stream:
+        _remove(path + ".new")  # of a process that was killed
+        descriptor = root.open_file(MARKER + ".new", os.O_WRONLY | os.O_CREAT | os.O_EXCL | os.O_NOFOLLOW)
+        with open(descriptor, "w", encoding="utf-8") as stream:
             json.dump({"pid": os.getpid(), "elements": noted}, stream)
             stream.flush()
             os.fsync(stream.fileno())
         os.replace(path + ".new", path)
     except OSError as error:
-        report.errorlog(1, tr("%s cannot be written: %s") % (path, error.strerror))
+        report.errorlog(1, tr("%s cannot be written: %s") % (MARKER, error.strerror))
 
 
 def clear():
     try:
-        os.unlink(root.resolve(MARKER))
+        _remove(root.entry(MARKER))
     except OSError:
+        pass
+
+
+def _remove(path):
+    try:
+        os.unlink(path)
+    except FileNotFoundError:
         pass
 
 
@@ -46,12 +55,11 @@ def check(session):
     if not locks.held():
         return []
     try:
-        with open(root.resolve(MARKER), encoding="utf-8") as stream:
-            elements = json.load(stream)["elements"]
+        elements = json.loads(root.read(MARKER))["elements"]
         planned = [(str(one["package"]), int(one["action"])) for one in elements]
     except FileNotFoundError:
         return []
-    except (OSError, ValueError, KeyError, TypeError) as error:
+    except (OSError, ValueError, KeyError, TypeError, RecursionError) as error:
         lines = [tr("A transaction was interrupted; what it was to do cannot be read: %s") % error]
     else:
         lines = _lines(planned, installed_packages(session.base))

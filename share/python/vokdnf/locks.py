@@ -3,6 +3,7 @@
 
 """Locks: VOK's own, one for a system and held by this module, and the waiting for DNF's."""
 
+import errno
 import fcntl
 import os
 import time
@@ -18,7 +19,7 @@ from .translation import tr
 LOCK_FILE = "/run/vok/vok.lock"
 _PAUSE = 0.3  # seconds between two attempts
 _SHOWN = 200  # characters of a command line
-_held = {}    # path of the lock file: its descriptor
+_held = {}    # path of the lock file, with the system's directory: its descriptor
 
 
 def command_of(pid):
@@ -52,7 +53,7 @@ def acquire(conf):
 
 def held():
     """Whether this process has VOK's lock on the system."""
-    return root.resolve(LOCK_FILE) in _held
+    return _key() in _held
 
 
 def release():
@@ -60,16 +61,22 @@ def release():
     _release()
 
 
+def _key():
+    return root.prefix() + LOCK_FILE
+
+
 def _take():
     """None when the lock is ours (or cannot be had for lack of rights), else the holder's pid and
     command."""
-    path = root.resolve(LOCK_FILE)
+    path = _key()
     if path in _held:
         return None
     try:
-        os.makedirs(os.path.dirname(path), mode=0o755, exist_ok=True)
-        descriptor = os.open(path, os.O_RDWR | os.O_CREAT | os.O_CLOEXEC, 0o644)
-    except OSError:
+        os.makedirs(root.resolve(os.path.dirname(LOCK_FILE)), mode=0o755, exist_ok=True)
+        descriptor = root.open_file(LOCK_FILE, os.O_RDWR | os.O_CREAT | os.O_NOFOLLOW)
+    except OSError as error:
+        if error.errno in (errno.ELOOP, errno.ENOTSUP):
+            raise Errors.LockError(tr("%s is not a plain file and is not opened. Remove it.") % LOCK_FILE, 0) from error
         return None
     try:
         fcntl.flock(descriptor, fcntl.LOCK_EX | fcntl.LOCK_NB)
@@ -85,7 +92,7 @@ def _take():
 
 
 def _release():
-    descriptor = _held.pop(root.resolve(LOCK_FILE), None)
+    descriptor = _held.pop(_key(), None)
     if descriptor is not None:
         # The file stays: removing it would let two programs lock two files of one name.
         os.ftruncate(descriptor, 0)

@@ -10,6 +10,9 @@ import dnf.plugin
 from . import config, report, root
 from .translation import tr
 
+# Those that run programs, or write files, as their configuration says: that of a system in a directory must not
+# have it done on this one.
+_NOT_FOR_A_DIRECTORY = ("etckeeper", "local", "post-transaction-actions", "pre-transaction-actions", "snapper")
 # Here an error of DNF's own classes is what the plug-in has to say about the transaction.
 _OBJECTIONS = ("resolved", "pre_transaction")
 
@@ -34,6 +37,8 @@ class Plugins(dnf.plugin.Plugins):
     def _check_enabled(self, conf, enable_plugins):
         enabled = []
         for kind in self.plugin_cls:
+            if root.prefix() and kind.name in _NOT_FOR_A_DIRECTORY:
+                continue
             alone = dnf.plugin.Plugins()
             alone.plugin_cls = [kind]
             with _Guarded(kind):

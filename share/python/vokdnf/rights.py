@@ -38,7 +38,10 @@ def to_change_configuration():
 
 
 def _may_write(path):
-    return os.geteuid() == 0 and os.access(root.resolve(path), os.W_OK)
+    try:
+        return os.geteuid() == 0 and os.access(root.resolve(path), os.W_OK)
+    except OSError:
+        return False
 
 
 def _is_for_others(path):
