@@ -4118,5 +4118,21 @@ Es wurde nichts geändert.</translation>
         <source>%s is a symbolic link that leads out of %s, or no file at all, and is not opened. Remove it, or make it a file or directory.</source>
         <translation>%s ist ein symbolischer Link, der aus %s hinausführt, oder gar keine Datei, und wird nicht geöffnet. Löschen Sie den Eintrag oder ersetzen Sie ihn durch eine Datei oder ein Verzeichnis.</translation>
     </message>
+    <message>
+        <source>The metadata cannot be processed: %s</source>
+        <translation>Die Metadaten können nicht verarbeitet werden: %s</translation>
+    </message>
+    <message>
+        <source>Repository %s: packages are left out because their name, version, release, architecture or location is malformed: %s</source>
+        <translation>Paketquelle %s: Pakete mit fehlerhaftem Namen, Version, Release, Architektur oder Ort werden ausgelassen: %s</translation>
+    </message>
+    <message>
+        <source>Repository %s: groups without an identifier are left out.</source>
+        <translation>Paketquelle %s: Gruppen ohne Kennung werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Repository %s: the groups are left out because they cannot be read.</source>
+        <translation>Paketquelle %s: Die Gruppen werden ausgelassen, weil sie nicht gelesen werden können.</translation>
+    </message>
 </context>
 </TS>

@@ -14,7 +14,7 @@ import libdnf.conf
 
 from yum import Errors
 
-from . import certificates, config, credentials, database, errors, keys, locks, meters, plugins, report, root
+from . import certificates, checked, config, credentials, database, errors, keys, locks, meters, plugins, report, root
 from . import solvcache
 from .translation import tr
 
@@ -56,6 +56,12 @@ class Base(dnf.Base):
         self._reading += 1
         report.yumIOC.collectProgress(self._reading, enabled, report.clean(repo.id))
         errors.check_cancelled()
+
+    def _setup_excludes_includes(self, only_main=False):
+        # The first that looks at packages once all are there.
+        for repo in self.repos.iter_enabled():
+            checked.leave_out(self.sack, repo)
+        super()._setup_excludes_includes(only_main)
 
     def fill_sack(self, load_system_repo=True, load_available_repos=True):
         """DNF's own. What is installed is then there for every query and for the solver, whatever the
@@ -119,14 +125,14 @@ def load(dnf_base):
     try:
         for repo in enabled:
             errors.check_cancelled(Errors.CancelledRepoError)
-            failed += _load(repo)
+            failed += _load(dnf_base, repo)
     finally:
         report.yumIOC.collectGrabMultiMeterEnd()
     if failed:
         raise Errors.RepoError("\n".join(failed))
 
 
-def _load(repo):
+def _load(dnf_base, repo):
     """Loads one. The result is empty, or a text that says why it failed."""
     callbacks = meters.RepositoryCallbacks(repo)
     repo._repo.setCallbacks(callbacks)
@@ -136,6 +142,7 @@ def _load(repo):
     repo._set_key_import(key_import)
     try:
         repo.load()
+        checked.check(dnf_base, repo)
     except dnf.exceptions.RepoError as error:
         if callbacks.cancelled or report.cancelled():
             raise Errors.CancelledRepoError() from error

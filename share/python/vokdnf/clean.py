@@ -17,7 +17,7 @@ KINDS = {
     "packages": re.compile(r"^%s/packages/[^/]+\.d?rpm$" % _REPOSITORY),
     "metadata": re.compile(dnf.repo.CACHE_FILES["metadata"].replace("?P<repoid>", "?:")),
     "pickles": re.compile(r"^(%s/)?[^/]+\.pickle$" % _REPOSITORY),
-    "sqlite": re.compile(r"^(%s/)?[^/]+\.(solvx?|sqlite|search)$" % _REPOSITORY),
+    "sqlite": re.compile(r"^(%s/)?[^/]+\.(solvx?|sqlite|search|check)$" % _REPOSITORY),
 }
 
 

@@ -63,8 +63,14 @@ class GroupInfo:
     def __init__(self, session):
         names = {pkg.name for pkg in session.sack.query().installed()}
         recorded = _recorded_groups(session.base)
-        self.visible_groups = [Group(group, group.id in recorded, names)
-                               for group in session.base.comps.groups]
+        found = [Group(group, group.id in recorded, names) for group in session.base.comps.groups]
+        without = nameless(found)
+        self.visible_groups = [group for group in found if group not in without]
+
+
+def nameless(found):
+    """Those of some groups that lack an identifier, by which DNF's records know a group."""
+    return [group for group in found if not group.group_id]
 
 
 def _recorded_groups(base):
@@ -72,7 +78,7 @@ def _recorded_groups(base):
     and this file system takes no new ones."""
     try:
         history = base.history.group
-        return {group.id for group in base.comps.groups if history.get(group.id) is not None}
+        return {group.id for group in base.comps.groups if group.id and history.get(group.id) is not None}
     except libdnf.error.Error as error:
         report.errorlog(2, tr("DNF's group records cannot be read: %s") % report.clean(error))
         return set()

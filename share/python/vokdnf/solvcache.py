@@ -49,7 +49,7 @@ class _Extension:
     def open(cls, cached, count):
         """None when the file is not that of the metadata that were loaded, or cannot be read here."""
         path = cached.stem + cls.SUFFIX
-        if solv is None or not cached.mark or head(path) != (count, cached.mark):
+        if solv is None or not count or not cached.mark or head(path) != (count, cached.mark):
             return None
         try:
             return cls(path, count)
