@@ -2406,6 +2406,35 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
     </message>
 </context>
 <context>
+    <name>SaveRow</name>
+    <message>
+        <source>This text is too long to be shown whole.</source>
+        <translation>Dieser Text ist zu lang, um ganz angezeigt zu werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>S&amp;peichern ...</translation>
+    </message>
+    <message>
+        <source>Save the whole text to a file</source>
+        <translation>Den ganzen Text in einer Datei speichern</translation>
+    </message>
+    <message>
+        <source>Save Text</source>
+        <translation>Text speichern</translation>
+    </message>
+    <message>
+        <source>VOK Error</source>
+        <translation>VOK-Fehler</translation>
+    </message>
+    <message>
+        <source>Unable to save the text to %1:
+%2</source>
+        <translation>Der Text kann nicht in %1 gespeichert werden:
+%2</translation>
+    </message>
+</context>
+<context>
     <name>ScrollableDialog</name>
     <message>
         <source>Message</source>

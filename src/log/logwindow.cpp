@@ -271,6 +271,10 @@ QString Log::Window::toHtml(const Entry &entry)
 
 void Log::Window::htmlProtect(QString &text)
 {
+    // References by which a message could hide or reorder what is around it show as they are.
+    text.replace(QStringLiteral("&#"), QStringLiteral("&amp;#"));
+    text.replace(QStringLiteral("&lrm"), QStringLiteral("&amp;lrm"));
+    text.replace(QStringLiteral("&rlm"), QStringLiteral("&amp;rlm"));
     text.replace(u'<', QStringLiteral("&lt;"));
     text.replace(u'>', QStringLiteral("&gt;"));
     text.replace(u' ', QStringLiteral("&#x0020;"));

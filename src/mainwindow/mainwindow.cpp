@@ -3,6 +3,7 @@
 
 #include "mainwindow/mainwindow.h"
 
+#include "app/harmless.h"
 #include "app/sysroot.h"
 #include "log/logwindow.h"
 #include "mainwindow/countline.h"
@@ -16,6 +17,7 @@
 #include "widgets/hmenu.h"
 #include "widgets/messagebox.h"
 #include "widgets/onscreen.h"
+#include "widgets/plaintexts.h"
 #include "yumio/yumio.h"
 
 #include <QAction>
@@ -38,6 +40,7 @@ MainWindow::MainWindow() : m_yumIO(new YumIO)
     setWindowTitle(tr("VOK"));
     setObjectName(QStringLiteral("mainWindow"));
     m_yumIO->setParent(this);
+    new PlainTexts(this);
     createMenuBar();
     createCentralWidget();
     m_yumIO->setup(this, m_totalBar, m_itemBar);
@@ -299,7 +302,7 @@ void MainWindow::setReady(bool ready)
 void MainWindow::yumConfIOChanged()
 {
     const QString own = m_yumIO->missingRights().ownCache;
-    const QString dir = own.isEmpty() ? m_yumConfIO->cachedir : own;
+    const QString dir = harmlessLine(own.isEmpty() ? m_yumConfIO->cachedir : own);
     m_cleanHeadersAction->setToolTip(tr("Clean RPM package headers cached locally in %1").arg(dir));
     m_cleanPackagesAction->setToolTip(
         tr("Clean RPM packages cached locally in %1\n(useful for recovering disk space)").arg(dir));

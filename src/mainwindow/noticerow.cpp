@@ -55,14 +55,14 @@ void NoticeRow::setNotice(Notice which, const QString &text, const QString &tool
                           const QString &buttonText, const std::function<void()> &slot)
 {
     Place &place = m_places[which];
-    const QString shown = harmless(text);
+    const QString shown = harmlessLine(text);
     const bool isNews = !has(which) || place.label->text() != shown;
     place.label->setText(shown);
-    const QString tip = harmless(toolTip);
+    const QString tip = harmlessTip(toolTip);
     place.label->setToolTip(tip);
     place.label->setAccessibleDescription(tip);
     place.button->setText(buttonText);
-    place.button->setToolTip(Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip);
+    place.button->setToolTip(tip);
     place.button->setAccessibleDescription(shown);
     place.button->setVisible(!buttonText.isEmpty());
     place.slot = slot;

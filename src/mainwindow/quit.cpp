@@ -4,6 +4,7 @@
 #include "mainwindow/job.h"
 #include "mainwindow/mainwindow.h"
 
+#include "app/harmless.h"
 #include "log/logwindow.h"
 #include "mainwindow/keptreport.h"
 #include "packagetable/sortfilterproxymodel.h"
@@ -261,7 +262,8 @@ void MainWindow::tell(const QString &text)
 {
     if (m_finished)
         return;
-    m_message->setText(text);
-    if (!text.isEmpty())
-        announce(this, text);
+    const QString shown = harmlessLine(text);
+    m_message->setText(shown);
+    if (!shown.isEmpty())
+        announce(this, shown);
 }

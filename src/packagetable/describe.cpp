@@ -10,6 +10,7 @@
 #include "packagetable/icons.h"
 #include "repo/repobrowse.h"
 #include "repo/yumconfio.h"
+#include "widgets/longtext.h"
 #include "widgets/messagebox.h"
 #include "yumio/jobprogress.h"
 #include "yumio/passwordsintext.h"
@@ -20,7 +21,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
@@ -131,14 +131,11 @@ QLayout *Dialog::createHead()
     return head;
 }
 
-QPlainTextEdit *Dialog::newText(const char *name, const QString &accessibleName)
+LongText *Dialog::newText(const char *name, const QString &accessibleName)
 {
-    auto *text = new QPlainTextEdit(this);
+    auto *text = new LongText(this);
     text->setObjectName(QLatin1String(name));
     text->setAccessibleName(accessibleName);
-    text->setReadOnly(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->setTabChangesFocus(true);
     return text;
 }
 
@@ -393,7 +390,7 @@ bool Dialog::load(PageInfo &info)
         QMetaObject::invokeMethod(this, &Dialog::openPage, Qt::QueuedConnection);
     if (loaded) {
         if (!said.isEmpty())
-            showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Warning"), shown(said));
+            showMessageBox(QMessageBox::Warning, this, tr("VOK Yum Warning"), said);
         return true;
     }
     if (!ran)

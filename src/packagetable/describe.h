@@ -14,7 +14,7 @@ class JobProgress;
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QPlainTextEdit;
+class LongText;
 class QPushButton;
 class QTabWidget;
 class QTreeView;
@@ -73,7 +73,7 @@ private:
         void (Dialog::*fill)();
     };
 
-    QPlainTextEdit *newText(const char *name, const QString &accessibleName);
+    LongText *newText(const char *name, const QString &accessibleName);
     QLayout *createHead();
     void createPages();
     QWidget *createFiles();
@@ -100,7 +100,7 @@ private:
     void fillUpdate();
     void fillMembers();
 
-    QString shown(const QString &text) const;
+    static QString shown(const QString &text);
     const Package::Entry *installed() const;
     bool isGroup() const;
     bool isFromRepository() const;
@@ -129,16 +129,16 @@ private:
     QPushButton *m_browseButton = nullptr;
     QPushButton *m_urlButton = nullptr;
     QTabWidget *m_tabs = nullptr;
-    QPlainTextEdit *m_description = nullptr;
+    LongText *m_description = nullptr;
     FieldsText *m_details = nullptr;
-    QPlainTextEdit *m_relations = nullptr;
+    LongText *m_relations = nullptr;
     QLineEdit *m_fileFilter = nullptr;
     QLabel *m_fileCount = nullptr;
     QTreeView *m_fileTree = nullptr;
     FileTreeModel *m_files = nullptr;
-    QPlainTextEdit *m_changes = nullptr;
-    QPlainTextEdit *m_requiredBy = nullptr;
-    QPlainTextEdit *m_update = nullptr;
+    LongText *m_changes = nullptr;
+    LongText *m_requiredBy = nullptr;
+    LongText *m_update = nullptr;
     QTreeWidget *m_members = nullptr;
     JobProgress *m_progress = nullptr;
     QPushButton *m_previousButton = nullptr;

@@ -5,11 +5,13 @@
 
 #include "packagetable/describe.h"
 
+#include "app/harmless.h"
 #include "packagetable/fieldstext.h"
 #include "packagetable/filetree.h"
 #include "packagetable/icons.h"
 #include "repo/repobrowse.h"
 #include "repo/yumconfio.h"
+#include "widgets/longtext.h"
 #include "yumio/formats.h"
 #include "yumio/passwordsintext.h"
 #include "yumio/yumio.h"
@@ -18,7 +20,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSet>
@@ -96,30 +97,31 @@ bool Dialog::isFromRepository() const
                        [this](const Repo::Entry &repo) { return repo.id == m_entry->repo; });
 }
 
-QString Dialog::shown(const QString &text) const
+// The pages make the text harmless themselves.
+QString Dialog::shown(const QString &text)
 {
     return maskPasswords(text);
 }
 
 void Dialog::fillHead()
 {
-    setWindowTitle(tr("Description of %1").arg(shown(m_entry->name)));
+    setWindowTitle(tr("Description of %1").arg(harmlessLine(shown(m_entry->name))));
     const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
     m_icon->setPixmap(
         shareIcon(kindIconName(m_entry->kind)).pixmap(QSize(size, size), devicePixelRatio()));
     m_icon->setToolTip(YumIO::getKind(m_entry->kind));
     m_icon->setAccessibleName(YumIO::getKind(m_entry->kind));
-    m_name->setText(shown(m_entry->name));
+    m_name->setText(harmlessLine(shown(m_entry->name)));
     QStringList facts;
     if (!m_entry->verRel.isEmpty())
         facts.append(tr("Version %1").arg(m_entry->verRel));
     facts.append(YumIO::getState(m_entry->state));
     if (!m_entry->repo.isEmpty() && m_entry->state != State::Installed)
         facts.append(tr("Repository %1").arg(m_entry->repo));
-    m_facts->setText(facts.join(QStringLiteral(" \u00b7 ")));
+    m_facts->setText(harmlessLine(facts.join(QStringLiteral(" \u00b7 "))));
     m_url = m_yumIO->getUrl(*m_entry);
     m_urlButton->setVisible(!m_url.isEmpty());
-    m_urlButton->setToolTip(shown(m_url));
+    m_urlButton->setToolTip(harmlessTip(shown(m_url)));
     m_browseButton->setVisible(isFromRepository());
     updateButtons();
 }
@@ -129,8 +131,8 @@ void Dialog::fillDescription()
     QStringList texts = {m_entry->summary, isGroup() ? m_yumIO->getGroupDescription(*m_entry)
                                                      : m_yumIO->getDescription(*m_entry)};
     texts.removeAll(QString());
-    m_description->setPlainText(texts.isEmpty() ? tr("There is no description.")
-                                                : shown(texts.join(paragraph)));
+    m_description->setText(texts.isEmpty() ? tr("There is no description.")
+                                           : shown(texts.join(paragraph)));
 }
 
 void Dialog::fillDetails()
@@ -190,8 +192,8 @@ void Dialog::fillRelations()
     add(tr("Obsoletes:"), m_yumIO->getObsoletes(entry));
     if (entry.state != State::Installed)
         add(tr("Replaces the installed:"), m_yumIO->getReplaced(entry));
-    m_relations->setPlainText(sections.isEmpty() ? tr("There are none.")
-                                                 : shown(sections.join(paragraph)));
+    m_relations->setText(sections.isEmpty() ? tr("There are none.")
+                                            : shown(sections.join(paragraph)));
 }
 
 void Dialog::fillFiles()
@@ -230,7 +232,7 @@ void Dialog::copyFiles()
 void Dialog::fillChanges()
 {
     const QString text = m_yumIO->getChangeLog(*m_entry);
-    m_changes->setPlainText(text.isEmpty() ? tr("There is no change log.") : shown(text));
+    m_changes->setText(text.isEmpty() ? tr("There is no change log.") : shown(text));
 }
 
 void Dialog::fillRequiredBy()
@@ -240,8 +242,8 @@ void Dialog::fillRequiredBy()
         names.append(lines(m_yumIO->getRequiredBy(*version)));
     names.sort();
     names.removeDuplicates();
-    m_requiredBy->setPlainText(names.isEmpty() ? tr("Nothing that is installed requires it.")
-                                               : shown(names.join(u'\n')));
+    m_requiredBy->setText(names.isEmpty() ? tr("Nothing that is installed requires it.")
+                                          : shown(names.join(u'\n')));
 }
 
 void Dialog::fillUpdate()
@@ -270,7 +272,7 @@ void Dialog::fillUpdate()
     texts.append(found);
     if (!found.isEmpty() && !oldLog.isEmpty() && found.size() == changes(newLog).size())
         texts.append(tr("The repository keeps no older changes; there may have been others."));
-    m_update->setPlainText(shown(texts.join(paragraph)));
+    m_update->setText(shown(texts.join(paragraph)));
 }
 
 void Dialog::fillMembers()
@@ -287,12 +289,13 @@ void Dialog::fillMembers()
         for (const QString &name : members) {
             const Entry *member = packages ? m_yumIO->packageNamed(name) : nullptr;
             const QString needed = conditions.value(name);
-            const QString text =
-                needed.isEmpty() ? name : tr("%1 (if %2 is installed)").arg(name, needed);
+            const QString text = harmlessLine(
+                needed.isEmpty() ? name : tr("%1 (if %2 is installed)").arg(name, needed));
             auto *item = new QTreeWidgetItem(
                 section, !packages ? QStringList{text}
                          : member  ? QStringList{text, YumIO::getState(member->state),
-                                                member->verRel, shown(member->summary)}
+                                                harmlessLine(member->verRel),
+                                                harmlessLine(shown(member->summary))}
                                    : QStringList{text, tr("Not available")});
             if (member)
                 item->setIcon(0, shareIcon(kindIconName(member->kind)));

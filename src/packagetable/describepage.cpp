@@ -3,6 +3,8 @@
 
 #include "packagetable/describepage.h"
 
+#include "app/harmless.h"
+
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -39,7 +41,7 @@ void Page::showContent()
 
 void Page::showMessage(const QString &text, bool canRetry)
 {
-    m_text->setPlainText(text);
+    m_text->setPlainText(harmlessPage(text));
     m_retry->setVisible(canRetry);
     setFocusProxy(m_text);
     setCurrentWidget(m_message);

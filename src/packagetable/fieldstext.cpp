@@ -3,6 +3,9 @@
 
 #include "packagetable/fieldstext.h"
 
+#include "app/harmless.h"
+#include "widgets/saverow.h"
+
 #include <QFontMetrics>
 #include <QTextBlockFormat>
 #include <QTextCursor>
@@ -11,6 +14,13 @@
 #include <algorithm>
 
 namespace PackageTable {
+
+namespace {
+
+// Characters of a value: all of this text is laid out at once.
+constexpr qsizetype longestValue = 20'000;
+
+} // namespace
 
 FieldsText::FieldsText(QWidget *parent) : QTextEdit(parent)
 {
@@ -36,14 +46,24 @@ void FieldsText::setFields(const QList<Field> &fields)
     clear();
     QTextCursor cursor(document());
     cursor.setBlockFormat(format);
-    QString separator;
+    QString separator, whole, shown;
     for (const auto &[title, value] : fields) {
-        QString lines = value;
+        QString lines = harmlessPage(value).left(longestValue);
+        whole += title + u'\t' + value + u'\n';
+        shown += title + u'\t' + lines + u'\n';
         lines.replace(u'\n', QChar::LineSeparator);
         cursor.insertText(separator + title + u'\t' + lines);
         separator = u'\n';
     }
     moveCursor(QTextCursor::Start);
+    setViewportMargins(0, 0, 0, SaveRow::update(m_saveRow, this, whole, shown));
+}
+
+void FieldsText::resizeEvent(QResizeEvent *event)
+{
+    QTextEdit::resizeEvent(event);
+    if (m_saveRow)
+        m_saveRow->place();
 }
 
 } // namespace PackageTable

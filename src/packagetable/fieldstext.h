@@ -9,10 +9,12 @@
 
 #include <utility>
 
+class SaveRow;
+
 namespace PackageTable {
 
 // Titles with their values in a column beside them, as one text that can only be read, selected and
-// copied. A value is plain text of any length, of one line or several; it is wrapped, within a word
+// copied. A value is plain text of unknown origin, of one line or several; it is wrapped, within a word
 // where it must be.
 class FieldsText : public QTextEdit
 {
@@ -24,6 +26,12 @@ public:
     explicit FieldsText(QWidget *parent = nullptr);
 
     void setFields(const QList<Field> &fields);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    SaveRow *m_saveRow = nullptr;
 };
 
 } // namespace PackageTable

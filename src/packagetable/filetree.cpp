@@ -3,6 +3,8 @@
 
 #include "packagetable/filetree.h"
 
+#include "app/harmless.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -150,10 +152,10 @@ QVariant FileTreeModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole: {
         const QString name = node->parent->parent ? node->name : u'/' + node->name;
-        return node->children.empty() ? name : name + u'/';
+        return harmlessLine(node->children.empty() ? name : name + u'/');
     }
     case Qt::ToolTipRole:
-        return pathOf(index);
+        return harmlessTip(pathOf(index));
     default:
         return {};
     }

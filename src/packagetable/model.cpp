@@ -4,6 +4,7 @@
 #include "packagetable/model.h"
 
 #include "app/colors.h"
+#include "app/harmless.h"
 #include "packagetable/describe.h"
 #include "packagetable/icons.h"
 #include "repo/repobrowse.h"
@@ -103,13 +104,14 @@ QString Model::text(const Entry &entry, int column)
 {
     switch (column) {
     case NameColumn:
-        return entry.name;
+        return harmlessLine(entry.name);
     case VersionColumn:
-        return hasOtherVersions(entry) ? entry.verRel + QStringLiteral(" *") : entry.verRel;
+        return hasOtherVersions(entry) ? harmlessLine(entry.verRel) + QStringLiteral(" *")
+                                       : harmlessLine(entry.verRel);
     case RepositoryColumn:
-        return entry.repo;
+        return harmlessLine(entry.repo);
     case ArchitectureColumn:
-        return entry.arch;
+        return harmlessLine(entry.arch);
     case SizeColumn:
         return entry.sizeText;
     case BuildTimeColumn:
@@ -196,7 +198,7 @@ QVariant Model::toolTip(const Entry &entry, int column) const
             history +=
                 (installed ? tr("Installed: %1\n") : tr("Available: %1\n")).arg(version->verRel);
         }
-        return history.trimmed();
+        return harmlessTip(history.trimmed());
     }
     default:
         break;

@@ -3,6 +3,8 @@
 
 #include "hprogressbar.h"
 
+#include "app/harmless.h"
+
 #include <QAccessible>
 #include <QHelpEvent>
 
@@ -41,7 +43,7 @@ void HProgressBar::setTitle(const QString &title)
 
 void HProgressBar::setActivity(const QString &activity)
 {
-    m_pending.activity = activity;
+    m_pending.activity = harmlessLine(activity);
     showSoon();
 }
 

@@ -3,6 +3,7 @@
 
 // The tip of the item bar: the parallel downloads, a row for each.
 
+#include "app/harmless.h"
 #include "generaltip.h"
 #include "progress.h"
 
@@ -20,7 +21,7 @@ const QColor completeColor(144, 238, 144);
 
 QLabel *makeLabel(const QString &text, const QColor &color)
 {
-    auto *label = new QLabel(text);
+    auto *label = new QLabel(harmlessLine(text));
     label->setTextFormat(Qt::PlainText);
     label->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     label->setAutoFillBackground(true);
@@ -40,7 +41,7 @@ public:
 
     void addRow(const QString &activity, const QString &state, const QColor &color)
     {
-        auto *label = new QLabel(activity);
+        auto *label = new QLabel(harmlessLine(activity));
         label->setTextFormat(Qt::PlainText);
         const int row = m_grid->rowCount();
         m_grid->addWidget(label, row, 0);

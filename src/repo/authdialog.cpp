@@ -34,7 +34,7 @@ constexpr int firstAnswer = 3; // of the buttons
 // A key of a URL may hold what a label would take for the mark of a shortcut.
 void showKey(QLabel *label, const QString &key, const QString &fallback)
 {
-    label->setText(key.isEmpty() ? fallback : harmless(key).replace(u'&', QLatin1String("&&")));
+    label->setText(key.isEmpty() ? fallback : harmlessLabel(key));
 }
 
 // Screen readers tell an empty label by the text of the label beside it.

@@ -196,7 +196,7 @@ void ConfigDialog::updateStatusLabel()
     const QString problem = identifierProblem();
     if (!problem.isEmpty())
         m_status->setPalette(Colors::makeWarning(m_status->palette()));
-    m_status->setText(problem);
+    m_status->setText(harmlessLine(problem));
 }
 
 void ConfigDialog::setHasChanged(bool flag)

@@ -64,7 +64,7 @@ void showKey(QLabel *label, const QString &key, const QString &otherwise)
     QString text = key.isEmpty() ? otherwise : key.simplified();
     if (text.size() > longestKey)
         text = text.left(longestKey) + QChar(0x2026);
-    label->setText(text.replace(u'&', QLatin1String("&&")));
+    label->setText(harmlessLabel(text));
 }
 
 // What a tip says beside `tip` of a text with variables; it has no line breaks of its own.
@@ -330,7 +330,7 @@ bool Config::setStatus(YumConfIO *yumConfIO, HFrameLabel *label) const
 {
     const auto show = [label](const QPalette &palette, const QString &text) {
         label->setPalette(palette);
-        label->setText(text);
+        label->setText(harmlessLine(text));
         return true;
     };
     const auto warn = [&](const QString &text) {

@@ -3,6 +3,7 @@
 
 #include "editormodel.h"
 
+#include "app/harmless.h"
 #include "app/share.h"
 #include "repobrowse.h"
 #include "yumconfio.h"
@@ -67,8 +68,8 @@ QVariant Model::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         if (column == IdColumn)
-            return entry.id.isEmpty() ? tr("(new)") : entry.id;
-        return column == NameColumn ? QVariant(entry.name) : QVariant();
+            return entry.id.isEmpty() ? tr("(new)") : harmlessLine(entry.id);
+        return column == NameColumn ? QVariant(harmlessLine(entry.name)) : QVariant();
     case Qt::DecorationRole:
         if (column > PermColumn)
             return {};
@@ -98,9 +99,9 @@ QVariant Model::toolTip(const QModelIndex &index) const
     else
         return {};
     const QString lookOnly = m_yumConfIO->lookOnly();
-    return lookOnly.isEmpty() || index.column() == SessColumn
-               ? text
-               : text + QStringLiteral("\n\n") + lookOnly;
+    return harmlessTip(lookOnly.isEmpty() || index.column() == SessColumn
+                           ? text
+                           : text + QStringLiteral("\n\n") + lookOnly);
 }
 
 QVariant Model::headerData(int section, Qt::Orientation orientation, int role) const

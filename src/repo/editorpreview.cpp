@@ -5,6 +5,7 @@
 
 #include "app/colors.h"
 #include "app/fonts.h"
+#include "app/harmless.h"
 #include "linediff.h"
 #include "rootpath.h"
 #include "widgets/htextedit.h"
@@ -85,7 +86,7 @@ void PreviewDialog::put(const QString &line, Style style)
             Colors::readable(style == Good ? Colors::ok() : Colors::error(), background));
     if (!m_cursor.atStart())
         m_cursor.insertBlock();
-    m_cursor.insertText(line, format);
+    m_cursor.insertText(harmlessPage(line), format);
 }
 
 void PreviewDialog::putChange(const YumConfIO::FileChange &change)

@@ -6,6 +6,7 @@
 #include "editordialog.h"
 
 #include "app/colors.h"
+#include "app/harmless.h"
 #include "editorview.h"
 #include "widgets/explaindisabled.h"
 #include "widgets/hframelabel.h"
@@ -55,7 +56,7 @@ void Dialog::updateButtons()
     m_okButton->setEnabled(canUse);
     const auto toolTip = [&](const QPushButton *button, const QString &all,
                              const QString &ofSession) {
-        return canApply ? all : button->isEnabled() ? ofSession : reason;
+        return harmlessTip(canApply ? all : button->isEnabled() ? ofSession : reason);
     };
     m_applyButton->setToolTip(
         toolTip(m_applyButton,
@@ -117,7 +118,7 @@ void Dialog::updateStatusLabel()
         m_status->setPalette(Colors::makeWarning(m_status->palette()));
         text = tr("Some files cannot be read, so nothing can be written");
     }
-    m_status->setText(text);
+    m_status->setText(harmlessLine(text));
 }
 
 } // namespace RepoEditor

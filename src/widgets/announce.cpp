@@ -3,6 +3,8 @@
 
 #include "announce.h"
 
+#include "app/harmless.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QWidget>
@@ -60,7 +62,7 @@ void announce(QWidget *window, const QString &text)
         QAccessible::installFactory(notification); // once, however often it is given
         shown = new Notification(window);
     }
-    shown->setAccessibleName(text);
+    shown->setAccessibleName(harmlessLine(text));
     QAccessibleEvent event(shown, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }

@@ -3,6 +3,8 @@
 
 #include "explaindisabled.h"
 
+#include "app/harmless.h"
+
 #include <QVariant>
 #include <QWidget>
 
@@ -11,5 +13,6 @@ void explainDisabled(QWidget *control, const QString &reason)
     static const char usual[] = "usualToolTip";
     if (!control->property(usual).isValid())
         control->setProperty(usual, control->toolTip());
-    control->setToolTip(reason.isEmpty() ? control->property(usual).toString() : reason);
+    control->setToolTip(reason.isEmpty() ? control->property(usual).toString()
+                                         : harmlessTip(reason));
 }

@@ -3,6 +3,8 @@
 
 #include "helidedlabel.h"
 
+#include "app/harmless.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -49,7 +51,7 @@ int HElidedLabel::heightForWidth(int width) const
 
 QStringList HElidedLabel::linesIn(int width) const
 {
-    const QString whole = text().simplified();
+    const QString whole = harmlessLine(text().simplified());
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     QTextLayout layout(whole, font());
@@ -77,10 +79,8 @@ bool HElidedLabel::event(QEvent *event)
         parts += text();
     if (!toolTip().isEmpty())
         parts += toolTip();
-    const QString tip = parts.join(QStringLiteral("\n\n"));
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       tip.isEmpty() ? tip : Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal),
-                       this);
+                       harmlessTip(parts.join(QStringLiteral("\n\n"))), this);
     return true;
 }
 

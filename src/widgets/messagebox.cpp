@@ -3,6 +3,7 @@
 
 #include "messagebox.h"
 
+#include "app/harmless.h"
 #include "summon.h"
 
 #include <QPushButton>
@@ -15,8 +16,9 @@ constexpr qsizetype mostLines = 25;
 
 const QString buttonName = QStringLiteral("button%1");
 
-void setText(QMessageBox &box, const QString &text)
+void setText(QMessageBox &box, const QString &given)
 {
+    const QString text = harmless(given);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     qsizetype end = text.size();
@@ -30,7 +32,7 @@ void setText(QMessageBox &box, const QString &text)
         box.setText(text);
     } else {
         box.setText(text.left(end) + QStringLiteral("\n..."));
-        box.setDetailedText(text);
+        box.setDetailedText(harmlessPage(given));
     }
 }
 

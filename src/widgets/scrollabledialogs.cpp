@@ -3,9 +3,10 @@
 
 #include "scrollabledialogs.h"
 
+#include "longtext.h"
+
 #include <QDialogButtonBox>
 #include <QFontMetrics>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -65,7 +66,7 @@ QSize textSize(const QPlainTextEdit *edit, QSize most)
 } // namespace
 
 ScrollableDialog::ScrollableDialog(const QString &text, QWidget *parent)
-    : HDialog(parent), m_text(new QPlainTextEdit(this)), m_buttons(new QDialogButtonBox(this))
+    : HDialog(parent), m_text(new LongText(this)), m_buttons(new QDialogButtonBox(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
@@ -74,12 +75,9 @@ ScrollableDialog::ScrollableDialog(const QString &text, QWidget *parent)
     m_buttons->setObjectName(QStringLiteral("buttons"));
     m_text->setObjectName(QStringLiteral("text"));
     m_text->setAccessibleName(tr("Message"));
-    m_text->setReadOnly(true);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_text->setTabChangesFocus(true);
     m_text->setTabStopDistance(tabColumns * m_text->fontMetrics().averageCharWidth());
-    m_text->setPlainText(text);
-    setAccessibleDescription(text.left(mostSpoken));
+    m_text->setText(text);
+    setAccessibleDescription(m_text->toPlainText().left(mostSpoken));
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }

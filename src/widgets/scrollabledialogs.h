@@ -6,7 +6,7 @@
 #include "hdialog.h"
 
 class QDialogButtonBox;
-class QPlainTextEdit;
+class LongText;
 class QPushButton;
 
 // A dialog that shows a plain text of any length: as large as the text needs, within the screen,
@@ -23,7 +23,7 @@ protected:
 
     void setDefaultButton(QPushButton *button);
 
-    QPlainTextEdit *m_text;
+    LongText *m_text;
     QDialogButtonBox *m_buttons;
 };
 

@@ -37,8 +37,9 @@ private Q_SLOTS:
     void harmlessTexts_data()
     {
         columns<QString, QString>("text", "result");
-        const char *const plain = "a\tb\nc <&> \u00e9 \u05d0\u200f! \U0001f600";
+        const char *const plain = "a\tb\nc <&> \u00e9 \u05d0! \U0001f600";
         row("harmless", plain, plain);
+        row("marks", "\u05d0\u200f!\u061c \u200e", "\u05d0! ");
         row("line ends", "a\r\nb\rc", "a\nb\ufffdc");
         row("controls", "\x1b[31m\x7f\u009b", "\ufffd[31m\ufffd\ufffd");
         row("order", "a\u202eb\u2066c", "a\ufffdb\ufffdc");
@@ -50,6 +51,23 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QTEST(harmless(text), "result");
+    }
+
+    // A place for one line, a tip, a page and a label take no more than they can show.
+    void harmlessPlaces()
+    {
+        const QString word(300'000, u'x'), dots = QStringLiteral("\u2026");
+        QCOMPARE(harmlessLine(QStringLiteral("a\n b\u202e\tc")), QStringLiteral("a b\ufffd c"));
+        QCOMPARE(harmlessLine(word), word.left(1000) + dots);
+        QCOMPARE(harmlessLabel(QStringLiteral("a&b")), QStringLiteral("a&&b"));
+        const QString before = QStringLiteral("a\n"), after = QStringLiteral("\nb\n");
+        QCOMPARE(harmlessPage(before + word + after), before + word.left(10'000) + dots + after);
+        QCOMPARE(harmlessPage(QStringLiteral("a\nb")), QStringLiteral("a\nb"));
+        const QStringList tip = harmlessTip(word + u'\n' + word).split(u'\n');
+        QCOMPARE(tip.size(), 31);
+        QVERIFY(std::all_of(tip.begin(), tip.end(),
+                            [](const QString &row) { return row.size() <= 101; }));
+        QCOMPARE(harmlessTip(QStringLiteral("w ").repeated(60)).count(u'\n'), 1);
     }
 
     // The launched program is nobody's zombie, has no descriptor of ours, and gets its arguments as

@@ -61,6 +61,8 @@ private Q_SLOTS:
         row("unknown kind", 7, 0, u"a", u"a", Colors::error());
         row("markup", 1, 0, u"<b> & </b>", u"<b> & </b>", Colors::ok());
         row("blanks and lines", 0, 0, u"  a   b\tc \nd", u"  a   b\tc \nd", plain);
+        row("references", 0, 0, u"&#x202e;&#8238;&#X9;&rlm;&lrm;a &amp;#10; &lt;&copy;",
+            u"&#x202e;&#8238;&#X9;&rlm;&lrm;a &#10; <\u00a9", plain);
         const char16_t harmful[] = u"a\0b\x1b[2J\r\u202ec\u2067d\xd800 \u2029e";
         row("harmful", 0, 0, QStringView(harmful, std::size(harmful) - 1),
             u"a\ufffdb\ufffd[2J\ufffd\ufffdc\ufffdd\ufffd \ufffde", plain);

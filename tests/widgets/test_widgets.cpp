@@ -5,21 +5,28 @@
 
 #include "widgets/checkcells.h"
 #include "widgets/htextedit.h"
+#include "widgets/longtext.h"
 #include "widgets/messagebox.h"
+#include "widgets/plaintexts.h"
+#include "widgets/saverow.h"
 #include "widgets/scrollabledialogs.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
+#include <QToolTip>
 
+#include <algorithm>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -129,6 +136,42 @@ private Q_SLOTS:
         });
         dialog.exec();
         QVERIFY(m_answered);
+    }
+
+    // A tip and a label show markup as it is, and a word of any length takes no time; it can be saved.
+    void foreignTexts()
+    {
+        const PlainTexts plain(this);
+        const QString markup = u"<img src=/dev/zero><b>a</b>"_s;
+        QToolTip::showText(QPoint(0, 0), markup);
+        QLabel label(markup), rich(markup);
+        rich.setTextFormat(Qt::RichText);
+        label.ensurePolished();
+        rich.ensurePolished();
+        const auto shown = QApplication::topLevelWidgets();
+        const auto tip = std::find_if(shown.begin(), shown.end(), [](const QWidget *widget) {
+            return widget->inherits("QTipLabel");
+        });
+        QVERIFY(tip != shown.end());
+        QCOMPARE(qobject_cast<QLabel *>(*tip)->textFormat(), Qt::PlainText);
+        QCOMPARE(label.textFormat(), Qt::PlainText);
+        QCOMPARE(rich.textFormat(), Qt::RichText);
+
+        const QString word(500'000, u'x');
+        LongText text(nullptr);
+        text.resize(400, 300);
+        text.setText(u"short"_s);
+        QVERIFY(!text.findChild<SaveRow *>());
+        text.setText(word);
+        text.show();
+        QVERIFY(text.toPlainText().size() < 20'000);
+        QTemporaryDir place;
+        auto *row = text.findChild<SaveRow *>();
+        QVERIFY(row && row->isVisible());
+        row->save(place.filePath(u"saved"_s));
+        QFile saved(place.filePath(u"saved"_s));
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(saved.readAll(), word.toUtf8());
     }
 
     void scrollableText()
