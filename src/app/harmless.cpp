@@ -13,7 +13,7 @@ constexpr qsizetype longestPage = 1'000'000;
 constexpr qsizetype longestRow = 10'000; // of a page
 constexpr qsizetype longestLine = 1000;
 constexpr qsizetype tipColumns = 100;
-constexpr qsizetype tipRows = 30;
+constexpr qsizetype tipRows = 20;
 
 const QString ellipsis = QStringLiteral("\u2026");
 

@@ -21,7 +21,7 @@ QString harmlessPage(const QString &text);
 // 1,000 characters is cut.
 QString harmlessLine(const QString &text);
 
-// The same for a tip: long lines are wrapped, and what is more than 30 of them is cut. Qt would take a tip that holds a
+// The same for a tip: long lines are wrapped, and what is more than 20 of them is cut. Qt would take a tip that holds a
 // tag for rich text, and open the files that it names; PlainTexts keeps it from that.
 QString harmlessTip(const QString &text);
 

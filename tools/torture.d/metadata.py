@@ -14,7 +14,7 @@ _RECORD = """<data type="{kind}"><checksum type="sha256">{sum}</checksum><open-c
 _PACKAGE = """<package type="rpm"><name>{name}</name><arch>{arch}</arch><version epoch="{epoch}" ver="{ver}" rel="{rel}"/>
 <checksum type="sha256" pkgid="YES">{id}</checksum><summary>S</summary><description>D</description><url>http://x/</url>
 <time file="1" build="1"/><size package="1" installed="2" archive="3"/><location href="{location}"/>
-<format><rpm:license>L</rpm:license></format></package>"""
+<format><rpm:license>L</rpm:license>{files}</format></package>"""
 # What differs in a package from a sound one, and whether dnf ends at it.
 _PACKAGES = (({"epoch": "-5"}, True), ({"epoch": "x"}, True), ({"epoch": "1x"}, True), ({"ver": "1:2"}, True),
              ({"epoch": "99999999999999999999"}, False), ({"ver": ""}, False), ({"rel": ""}, False), ({"arch": ""}, False),
@@ -26,7 +26,7 @@ _FILES = (("group", "<comps><group><name>Nameless</name><packagelist/></group></
 
 
 def _package(**facts):
-    facts = {"name": "evil", "arch": "noarch", "epoch": "0", "ver": "1", "rel": "1", "location": "x.rpm", **facts}
+    facts = {"name": "evil", "arch": "noarch", "epoch": "0", "ver": "1", "rel": "1", "location": "x.rpm", "files": "", **facts}
     return _PACKAGE.format(id=hashlib.sha256(repr(facts).encode()).hexdigest(), **facts)
 
 
@@ -80,6 +80,19 @@ def packages(stage):
     window.close()
     for name in names:
         _remove(stage.root, name)
+
+
+@case("a path of so many folders that libsolv's stack overflows")
+def deep(stage):
+    _publish(stage.root, "bad", [_package(files=f"<file>{'/x' * 200000}</file>")])
+    status, output = stage.tool("dnf", "-q", "--repo=bad", "repoquery")
+    struck(status < 0 or status > 128, f"dnf bears it: {status} {output}")
+    found, told = _collect(stage.root)
+    lost_if("metadata cannot be processed" not in told, told)
+    lost_if("0:chess-1.2-1.x86_64" not in found["available"], "the other repositories are missing")
+    left = list((stage.root / "var/cache").rglob("*.solv*.??????"))
+    lost_if(left, f"left behind: {left}")
+    _remove(stage.root, "bad")
 
 
 @case("group and module files at which libcomps and libdnf end")

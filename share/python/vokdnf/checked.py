@@ -7,6 +7,7 @@ child process, which also writes DNF's cache files. What came out is kept beside
 
 import ctypes
 import gc
+import glob
 import hashlib
 import json
 import logging
@@ -146,6 +147,9 @@ def _run(base, repo):
     found = {"unusable": "", "groups": "", "packages": []}
     for line in answer.decode("utf-8", "replace").splitlines():
         found.update(json.loads(line))
+    if status < 0:  # what it was about to write
+        for path in glob.glob(glob.escape(os.path.join(repo.basecachedir, repo.id)) + "*.solv*.??????"):
+            os.unlink(path)
     stage = found.pop("stage", "packages")
     if stage == "groups":
         found["groups"] = "unreadable"
