@@ -2442,6 +2442,17 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
     </message>
 </context>
 <context>
+    <name>Share</name>
+    <message>
+        <source>%1 belongs to %2. As root, VOK loads its scripts only from where nobody but root, or the owner of the program, can change them. Change the owner, or unset VOKSHARE.</source>
+        <translation>%1 gehört %2. Als root lädt VOK seine Skripte nur von dort, wo sie niemand außer root oder dem Eigentümer des Programms ändern kann. Ändern Sie den Eigentümer oder löschen Sie die Variable VOKSHARE.</translation>
+    </message>
+    <message>
+        <source>%1, which belongs to %2, can be changed by other users. As root, VOK loads its scripts only from where nobody but root, or the owner of the program, can change them. Take the right to write from the others (chmod go-w), or unset VOKSHARE.</source>
+        <translation>%1, das %2 gehört, kann von anderen Benutzern geändert werden. Als root lädt VOK seine Skripte nur von dort, wo sie niemand außer root oder dem Eigentümer des Programms ändern kann. Nehmen Sie den anderen das Schreibrecht (chmod go-w) oder löschen Sie die Variable VOKSHARE.</translation>
+    </message>
+</context>
+<context>
     <name>WebBrowser</name>
     <message>
         <source>Browse</source>

@@ -129,6 +129,9 @@ bool YumIO::runScript()
         return failInitialize(tr("Internal error: cannot find python rpm dict"));
     setEnablePythonSIGINTHandler(false);
 
+    const QString refusal = Share::refusal();
+    if (!refusal.isEmpty())
+        return failInitialize(refusal);
     QFile file(Share::absolute(QStringLiteral("python/YumIO.py")));
     if (!file.open(QIODevice::ReadOnly)) {
         return failMissing(tr("Internal error: unable to open YumIO.py"),

@@ -34,6 +34,44 @@ private Q_SLOTS:
         qputenv("VOKSHARE", outer);
     }
 
+    // What root may load: each row changes one thing of a sound share directory, or its owner.
+    void shareRefused_data()
+    {
+        columns<QString, int, int, QString>("path", "mode", "owner", "refused");
+        row("sound", "", 0755, 0, "");
+        row("the program's owner", "share/python", 0755, 1000, "");
+        row("another owner", "share/python/YumIO.py", 0644, 1001, "YumIO.py belongs to 1001");
+        row("a directory above", "share", 0777, 0, "share, which belongs to root, can be changed");
+        row("a module for all", "share/python/YumIO.py", 0666, 0, "YumIO.py, which");
+        row("sticky", "share", 01777, 0, "");
+        row("own group", "share/python", 0775, 0, "");
+        row("a program's link", "link", 0777, 1001, "link belongs to 1001");
+    }
+
+    void shareRefused()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root can give files away");
+        QFETCH(QString, path);
+        QFETCH(int, mode);
+        QFETCH(int, owner);
+        QFETCH(QString, refused);
+        QTemporaryDir place;
+        const QString top = place.path() + u'/';
+        QVERIFY(QDir(top).mkpath(QStringLiteral("share/python")));
+        QFile script(top + QStringLiteral("share/python/YumIO.py"));
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.close();
+        QVERIFY(QFile::link(QStringLiteral("share"), top + QStringLiteral("link")));
+        const QByteArray changed = QFile::encodeName(top + path);
+        const bool isLink = path == QStringLiteral("link");
+        QCOMPARE(lchown(changed.constData(), uid_t(owner), gid_t(owner)), 0);
+        QVERIFY(isLink || chmod(changed.constData(), mode_t(mode)) == 0);
+        const QString said = Share::refusal(
+            QFile::encodeName(top + (isLink ? path : QStringLiteral("share"))), 1000);
+        QVERIFY2(refused.isEmpty() ? said.isEmpty() : said.contains(refused), qPrintable(said));
+    }
+
     void harmlessTexts_data()
     {
         columns<QString, QString>("text", "result");

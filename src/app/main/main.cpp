@@ -12,6 +12,7 @@
 #include "app/programname.h"
 #include "app/share.h"
 #include "mainwindow/mainwindow.h"
+#include "widgets/messagebox.h"
 
 #include <QIcon>
 
@@ -37,6 +38,13 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     DefaultStyle style(argc, const_cast<const char **>(argv));
     Application app(argc, argv);
+    const QString refusal = Share::refusal();
+    if (!refusal.isEmpty()) {
+        fprintf(stderr, "%s\n", qPrintable(refusal));
+        if (!displayMissing)
+            showMessageBox(QMessageBox::Critical, nullptr, QStringLiteral("VOK"), refusal);
+        return 1;
+    }
     installTranslations(app);
     style.set(app, QStringLiteral("plastique"));
     app.mendPalette();
