@@ -25,6 +25,8 @@ import dnf.sack
 import dnf.yum.misc
 import hawkey
 
+from yum import Errors
+
 from . import errors, groups, report
 from .translation import tr
 
@@ -45,7 +47,7 @@ class Unusable(dnf.exceptions.RepoError):
 
 def check(base, repo):
     """Checks the metadata of a loaded repository if they are new, and reports, once, what is left out. Unusable, the
-    repository being disabled; CancelledError."""
+    repository being disabled; CancelledRepoError."""
     digest = _digest(repo)
     path = _path(repo)
     found = _kept(path, digest) or _run(base, repo)
@@ -135,7 +137,7 @@ def _run(base, repo):
             if select.select([reading], [], [], _PAUSE)[0]:
                 data = os.read(reading, 1 << 16)
                 answer, ended = answer + data, not data
-            errors.check_cancelled()
+            errors.check_cancelled(Errors.CancelledRepoError)
     except BaseException:
         os.kill(child, signal.SIGKILL)
         raise
