@@ -177,24 +177,6 @@ private Q_SLOTS:
             QVERIFY2(!child<QWidget>(name)->accessibleName().isEmpty(), name);
     }
 
-    // A widget that claims a key of the menus takes it from them.
-    void givenKeysWork()
-    {
-        QStringList claimed;
-        for (QWidget *widget : m_window->findChildren<QWidget *>()) {
-            for (const auto keys :
-                 {Qt::CTRL | Qt::Key_E, Qt::CTRL | Qt::Key_L, Qt::CTRL | Qt::Key_Q,
-                  Qt::CTRL | Qt::Key_F, QKeyCombination(Qt::Key_F1)}) {
-                QKeyEvent event(QEvent::ShortcutOverride, keys.key(), keys.keyboardModifiers());
-                event.ignore();
-                if (widget->window() == m_window.get() && QApplication::sendEvent(widget, &event) &&
-                    event.isAccepted())
-                    claimed.append(widget->objectName() + QKeySequence(keys).toString());
-            }
-        }
-        QCOMPARE(claimed.join(u' '), QString());
-    }
-
     void filters_data()
     {
         columns<QString, int, bool, bool, QString>("expression", "state", "dups", "groups",
