@@ -64,7 +64,7 @@ def cookie(conf):
     try:
         _reach()
         return dnf.rpm.transaction.initReadOnlyTransaction(root=conf.installroot).dbCookie()
-    except (rpm.error, OSError) as error:
+    except (rpm.error, OSError, SystemExit) as error:
         report.errorlog(2, tr("The rpm database cannot be read: %s") % report.clean(error))
         return ""
 
