@@ -50,11 +50,10 @@ class YumIO:
 
     def __del__(self):
         if "_session" in self.__dict__:
-            self._session.close()
+            self._session.free()
 
     def lock(self):
-        """Takes the lock; LockError names who holds it. A transaction that was interrupted is reported
-        here, once."""
+        """Takes the lock; LockError names who holds it. Looks for a transaction that was interrupted."""
         locks.acquire(self._session.conf)
         self._interrupted = interrupted.check(self._session)
 

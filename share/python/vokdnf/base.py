@@ -14,8 +14,8 @@ import libdnf.conf
 
 from yum import Errors
 
-from . import certificates, checked, config, credentials, database, errors, keys, locks, meters, plugins, report, root
-from . import solvcache
+from . import certificates, checked, config, credentials, database, errors, keys, library, locks, meters, plugins
+from . import report, root, solvcache
 from .translation import tr
 
 _SOURCES = ["src", "nosrc"]
@@ -115,6 +115,18 @@ class Base(dnf.Base):
             raise Errors.YumBaseError(tr("Another program has changed the installed packages."))
         return super()._run_rpm_check()
 
+    def free(self):
+        """Closes the base and frees its packages and repositories; none of them can be read afterwards. Without it
+        they stay in memory for good: hawkey's sack refers to the base, and libdnf's repository to its callbacks,
+        where Python's garbage collector does not see it."""
+        repos = list(self.repos.values())
+        self.close()
+        for repo in repos:
+            library.untie(repo)
+        self.excluded = None
+        self.reset(sack=True, repos=True)
+        self._goal = None
+
 
 def load(dnf_base):
     """Loads the metadata of the enabled repositories of a base, one by one. All are tried; RepoError then names
@@ -202,14 +214,19 @@ class Session:
                 self.base.configure_plugins()
 
     def close(self):
-        """Ends the session and frees what it holds. Package objects stay readable."""
+        """Ends the session and closes what it has open. Package objects stay readable."""
         try:
             for apart in self.base.apart.values():
-                apart.close()
+                apart.free()
             self.base.apart = {}
             self.base.close()
         except Exception as error:  # nobody waits for the result
             report.errorlog(3, tr("Closing the package session: %s") % report.clean(error))
+
+    def free(self):
+        """Closes the session and frees its memory. Package objects cannot be read any more."""
+        self.close()
+        self.base.free()
 
     def load_repositories(self):
         """Loads the metadata of the enabled repositories; see load."""

@@ -25,6 +25,13 @@ def _key_installed(reader, key_id, timestamp):
     return -1
 
 
+def untie(repo):
+    """Breaks the cycle between a repository and its callbacks, which libdnf owns. No metadata can be loaded by it
+    afterwards."""
+    repo._callbacks._repo = None
+    repo._key_import = None
+
+
 def reads_file_lists(conf):
     """Whether DNF reads the file lists along with the packages. Newer versions do when an option asks."""
     return _FILE_LISTS in getattr(conf, "optional_metadata_types", (_FILE_LISTS,))

@@ -47,8 +47,8 @@ class Apart:
         found = self._base.sack.query().filterm(nevra_strict=str(pkg), reponame=name)
         return found[0] if found else pkg
 
-    def close(self):
-        self._base.close()
+    def free(self):
+        self._base.free()
 
 
 def _load_apart(session, kind):
@@ -77,7 +77,7 @@ def _load_apart(session, kind):
                 raise Errors.NoMoreMirrorsRepoError(error.value) from error
             locks.guarded("metadata", True, lambda: other.fill_sack(load_system_repo=False))
     except BaseException:
-        other.close()
+        other.free()
         raise
     finally:
         report.job_state("done", False)

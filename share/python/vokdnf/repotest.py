@@ -15,7 +15,7 @@ import dnf.conf.read
 import libdnf.error
 import libdnf.repo
 
-from . import certificates, config, language, report
+from . import certificates, config, language, library, report
 from .translation import tr
 
 _REPOMD = "repodata/repomd.xml"
@@ -145,6 +145,8 @@ def _read(conf, text):
         os.close(descriptor)
     if not repos:
         return None, complaints.errors + complaints.warnings or [tr("DNF finds no repository in it.")]
+    for repo in repos:
+        library.untie(repo)  # no metadata is loaded
     config.place_inside(repos[0])
     return repos[0], complaints.errors
 
