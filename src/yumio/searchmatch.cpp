@@ -142,7 +142,11 @@ QSet<const SearchTexts *> matchSubjects(const QString &pattern, std::vector<Sear
     {
         std::vector<std::jthread> helpers;
         for (int i = 1; i < QThread::idealThreadCount() && size_t(i) + 1 < starts.size(); ++i)
-            helpers.emplace_back([&work] { work(nullptr); });
+            try {
+                helpers.emplace_back([&work] { work(nullptr); });
+            } catch (const std::system_error &) { // no more threads: the others do it all
+                break;
+            }
         work(report);
     }
     return damaged;

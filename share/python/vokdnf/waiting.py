@@ -28,13 +28,18 @@ class Watcher:
         self._thread = threading.Thread(target=self._watch, daemon=True)
 
     def __enter__(self):
-        self._thread.start()
+        try:
+            self._thread.start()
+        except RuntimeError as error:  # only lines of the log are lost
+            report.errorlog(3, report.clean(error))
+            return self
         self._ready.wait()
         return self
 
     def __exit__(self, *_):
         self._ended.set()
-        self._thread.join()
+        if self._thread.ident is not None:
+            self._thread.join()
 
     def _watch(self):
         root.separate()
