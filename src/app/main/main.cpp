@@ -16,7 +16,10 @@
 
 #include <QIcon>
 
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -28,10 +31,22 @@ QIcon programIcon()
     return icon;
 }
 
+// A descriptor of these that the caller closed would be taken by the next file or pipe that is opened, and a
+// transaction redirects them.
+void openMissingDescriptors()
+{
+    for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(fd, F_GETFD) == -1 && errno == EBADF)
+            (void) !open("/dev/null",
+                         fd == STDIN_FILENO ? O_RDONLY : O_WRONLY); // gets the lowest number
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    openMissingDescriptors();
     CoreDumps::forbid();
     const bool displayMissing = isDisplayMissing(argc, argv);
     if (displayMissing)
