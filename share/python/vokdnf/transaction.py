@@ -6,6 +6,7 @@
 import encodings.idna  # noqa: F401  (nothing can be imported while rpm is in another root)
 import linecache  # noqa: F401
 import os
+import resource
 import traceback  # noqa: F401
 
 import dnf.drpm
@@ -18,6 +19,8 @@ from . import credentials, display, elements, errors, groups, interrupted, keys,
 from . import outcome, packages, report, resolve, rights, root, tsflags, unlisted, waiting
 from .base import full_cache
 from .translation import tr
+
+_DESCRIPTORS = 100  # that rpm, its scriptlets and DNF's history get at least
 
 
 class Transaction:
@@ -38,7 +41,7 @@ class Transaction:
         the callback transactionReport tells what failed."""
         if self._session.spent:
             raise Errors.YumBaseError(tr("A transaction has run already; the packages must be read again."))
-        reason = rights.to_change_packages()
+        reason = rights.to_change_packages() or _too_few_descriptors()
         if reason:
             raise Errors.YumBaseError(reason)
         try:
@@ -166,6 +169,8 @@ class Transaction:
         base.args = ["vok"]  # what DNF's history shows as the command line
         if base.conf.installroot != "/":
             root.separate()
+        if _too_few_descriptors():
+            raise Errors.YumBaseError(_too_few_descriptors())
         interrupted.write(self._elements)
         base.history.log_scriptlet_output = HistoryOutput(base.history)
         failure = ""
@@ -206,6 +211,17 @@ class Transaction:
         for name, result, reason in rows:
             if reason:
                 report.errorlog(0, "%s %s: %s" % (name, result, reason))
+
+
+def _too_few_descriptors():
+    """Why rpm cannot begin: it and its scriptlets open files all the time, and rpm or DNF may crash where that
+    fails. "" if enough are left."""
+    limit, _ = resource.getrlimit(resource.RLIMIT_NOFILE)
+    used = len(os.listdir("/proc/self/fd"))
+    if limit == resource.RLIM_INFINITY or limit - used >= _DESCRIPTORS:
+        return ""
+    return tr("VOK has %d files open and may open %d at most, which leaves too few for rpm. Quit VOK and start it "
+              "again, with a higher limit if necessary.") % (used, limit)
 
 
 class HistoryOutput:
