@@ -5,12 +5,12 @@
 #include "commandline.h"
 #include "defaultstyle.h"
 #include "display.h"
-#include "terminator.h"
 #include "translations.h"
 
 #include "app/coredumps.h"
 #include "app/programname.h"
 #include "app/share.h"
+#include "app/terminator.h"
 #include "mainwindow/mainwindow.h"
 #include "widgets/messagebox.h"
 

@@ -15,6 +15,18 @@ public:
     Terminator();
     ~Terminator() override;
 
+    // While one lives, the other signals that would end the process are treated in the same way. Faults and
+    // SIGABRT are left out, and so are SIGTSTP, SIGTTIN and SIGTTOU: a terminal's job is stopped and continued as
+    // a whole, scriptlets included, which loses nothing. One at a time, on any thread.
+    class Hold
+    {
+    public:
+        Hold();
+        Hold(const Hold &) = delete;
+        Hold &operator=(const Hold &) = delete;
+        ~Hold();
+    };
+
 Q_SIGNALS:
     void terminated();
 
