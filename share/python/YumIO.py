@@ -64,6 +64,11 @@ class YumIO:
         """Lines about a transaction that was interrupted before this start; empty when none was."""
         return self._interrupted
 
+    def forgetInterrupted(self):
+        """The user has read what interrupted() says."""
+        self._interrupted = []
+        interrupted.clear()
+
     def setupRepos(self):
         """Loads the metadata of the enabled repositories. RepoError."""
         self._session.load_repositories()

@@ -3713,6 +3713,10 @@ sudo VOKROOT=/mnt/image vok</source>
 Um an einem anderen System zu arbeiten, etwa einem eingehängten Abbild oder einem Chroot, starten Sie VOK mit dem Verzeichnis dieses Systems in der Variablen VOKROOT:
 sudo VOKROOT=/mnt/image vok</translation>
     </message>
+    <message>
+        <source>Unable to start a thread: no memory is left, or too many processes are running.</source>
+        <translation>Es kann kein Thread gestartet werden: Der Speicher ist erschöpft, oder es laufen zu viele Prozesse.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO script</name>
@@ -4173,6 +4177,10 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>Repository %s: the groups are left out because they cannot be read.</source>
         <translation>Paketquelle %s: Die Gruppen werden ausgelassen, weil sie nicht gelesen werden können.</translation>
+    </message>
+    <message>
+        <source>VOK has %d files open and may open %d at most, which leaves too few for rpm. Quit VOK and start it again, with a higher limit if necessary.</source>
+        <translation>VOK hat %d Dateien geöffnet und darf höchstens %d öffnen; für rpm bleiben zu wenige. Beenden Sie VOK und starten Sie es neu, wenn nötig mit einer höheren Grenze.</translation>
     </message>
 </context>
 </TS>

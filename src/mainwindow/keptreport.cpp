@@ -17,6 +17,17 @@ namespace {
 const QString directory = QStringLiteral("/var/lib/vok");
 const QString file = directory + QStringLiteral("/report.txt");
 
+void write(const QString &text)
+{
+    mkdir(RootPath::locate(directory).constData(), 0755);
+    QSaveFile kept(QFile::decodeName(RootPath::locate(file)));
+    if (!kept.open(QIODevice::WriteOnly) ||
+        !kept.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner))
+        return;
+    kept.write(text.toUtf8());
+    kept.commit();
+}
+
 } // namespace
 
 QString KeptReport::text()
@@ -28,13 +39,17 @@ QString KeptReport::text()
 void KeptReport::add(const QString &text)
 {
     const QString before = KeptReport::text();
-    mkdir(RootPath::locate(directory).constData(), 0755);
-    QSaveFile kept(QFile::decodeName(RootPath::locate(file)));
-    if (!kept.open(QIODevice::WriteOnly) ||
-        !kept.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner))
-        return;
-    kept.write((before.isEmpty() ? text : before + u'\n' + text).toUtf8());
-    kept.commit();
+    if (!before.contains(text))
+        write(before.isEmpty() ? text : before + u'\n' + text);
+}
+
+void KeptReport::remove(const QString &text)
+{
+    const QString rest = KeptReport::text().remove(text).trimmed();
+    if (rest.isEmpty())
+        remove();
+    else
+        write(rest);
 }
 
 void KeptReport::remove()

@@ -8,6 +8,7 @@
 #include "log/logwindow.h"
 #include "mainwindow/countline.h"
 #include "mainwindow/job.h"
+#include "mainwindow/keptreport.h"
 #include "mainwindow/machinewatch.h"
 #include "mainwindow/nextstep.h"
 #include "packagetable/model.h"
@@ -44,6 +45,8 @@ MainWindow::MainWindow() : m_yumIO(new YumIO)
     createMenuBar();
     createCentralWidget();
     m_yumIO->setup(this, m_totalBar, m_itemBar);
+    m_yumIO->setReportKeeper(
+        {KeptReport::add, [](const QString &text) { KeptReport::remove(text); }});
     m_watch = new MachineWatch([this] { return m_yumIO->installedChanged(); }, this);
     connect(m_watch, &MachineWatch::raised, this, &MainWindow::lookAround);
     m_geometryKept = recallGeometry();

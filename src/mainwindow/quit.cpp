@@ -143,6 +143,8 @@ void MainWindow::leave()
 void MainWindow::terminate()
 {
     m_unattended = true;
+    if (!m_finished)
+        m_yumIO->leaveReportsUnread();
     leave();
 }
 

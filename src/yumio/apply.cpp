@@ -11,6 +11,7 @@
 #include "yumio.h"
 
 #include <QFile>
+#include <QScopeGuard>
 
 namespace {
 
@@ -33,6 +34,7 @@ Package::Entry *firstInstalled(Package::Entry *entry)
 bool YumIO::applyReal()
 {
     m_blocker.block();
+    const auto over = qScopeGuard([this] { m_uninterrupted.reset(); });
     Progress::User progressUser(m_progress, m_surface.totalBar, m_surface.itemBar);
     YumIODialogsUser dialogsUser(m_dialogs, m_surface.parent);
     log(Log::Kind::Action, 0, tr("Applying"));
@@ -87,6 +89,11 @@ void YumIO::callApply(PyObject *installs, PyObject *updates, PyObject *removes)
         (!result && failedOutdated()) || commExceptRaised(result.get(), tr("apply changes"));
     pyExceptClear();
     showHeldReports();
+    if (!m_apply.isComplete) {
+        restBars();
+        showKept(tr("VOK Transaction Report"), m_apply.outcome);
+    }
+    keepOutcome();
     if (raised || !result) {
         m_apply.applied = false;
         PyObject *cleaned = pyMethodCall(m_session.yumIO, "applyFailCleanup", "()");

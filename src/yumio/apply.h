@@ -23,7 +23,9 @@ struct Element
 // then of the transaction's elements. Bytes of large transactions exceed 32 bits.
 struct Apply
 {
-    bool applied = false; // the user confirmed
+    bool applied = false;   // the user confirmed
+    QString outcome;        // what became of the elements
+    bool isComplete = true; // nothing in the outcome needs to be shown
     quint64 actPosition = 0;
     // Resolution.
     quint32 opCount = 0;

@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <mutex>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -23,6 +24,9 @@ constexpr qsizetype defaultPipeSize = 1024 * 1024;
 
 std::mutex messageMutex; // guards the next
 int messageFd = -1;
+
+std::mutex minionsMutex;
+QList<YumIOCapturersMinion *> minions; // guarded by it
 
 // During a capture descriptor 2 is a pipe that the GUI thread reads, so a message of the GUI thread
 // itself could wait for ever in a full one.
@@ -60,10 +64,16 @@ YumIOCapturersMinion::YumIOCapturersMinion(YumIO *engine, int stdoutFd, int stde
     : m_engine(engine), m_stdout{stdoutFd, &YumIO::writeStdout}, m_stderr{stderrFd,
                                                                           &YumIO::writeStderr}
 {
+    const std::lock_guard lock(minionsMutex);
+    minions.append(this);
 }
 
 YumIOCapturersMinion::~YumIOCapturersMinion()
 {
+    {
+        const std::lock_guard lock(minionsMutex);
+        minions.removeOne(this);
+    }
     for (Stream *stream : {&m_stdout, &m_stderr}) {
         delete stream->notifier;
         stream->notifier = nullptr;
@@ -90,6 +100,24 @@ void YumIOCapturersMinion::deactivate()
     }
     m_semaphore.acquire();
     m_semaphore.release();
+}
+
+void YumIOCapturersMinion::serveAll()
+{
+    QList<YumIOCapturersMinion *> all;
+    {
+        const std::lock_guard lock(minionsMutex);
+        all = minions;
+    }
+    for (YumIOCapturersMinion *minion : std::as_const(all)) {
+        if (minion->thread() != QThread::currentThread())
+            continue; // not activated yet
+        QCoreApplication::sendPostedEvents(minion, QEvent::MetaCall);
+        if (minion->m_initialized) {
+            minion->readStdout();
+            minion->readStderr();
+        }
+    }
 }
 
 void YumIOCapturersMinion::initialize()

@@ -26,6 +26,8 @@ public:
     // before the call in the log when it returns.
     void activate();
     void deactivate();
+    // What the event loop of the GUI thread does for the minions, once, without it. GUI thread.
+    static void serveAll();
 
 public Q_SLOTS:
     void initialize();

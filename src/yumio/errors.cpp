@@ -75,10 +75,8 @@ void YumIO::showHeldReports()
     if (held.texts.isEmpty())
         return;
     restBars();
-    if (m_dialogs) {
-        m_dialogs->scrollable(held.haveError ? tr("VOK Yum Error") : tr("VOK Yum Warning"),
-                              held.texts.join(QLatin1String("\n\n")));
-    }
+    showKept(held.haveError ? tr("VOK Yum Error") : tr("VOK Yum Warning"),
+             held.texts.join(QLatin1String("\n\n")));
 }
 
 bool YumIO::isHeld(const QString &text, bool isError)

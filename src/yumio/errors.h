@@ -5,7 +5,16 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace Engine {
+
+// Keeps the reports of transactions in the system until they are read, also if the program is killed. Both functions
+// are called on any thread. Adding a text twice keeps it once.
+struct ReportKeeper
+{
+    std::function<void(const QString &text)> add, remove;
+};
 
 // What the user is to be told of failures.
 struct Reports

@@ -11,6 +11,9 @@
 #include <QApplication>
 #include <QThread>
 
+#include <mutex>
+#include <utility>
+
 namespace {
 
 // What comes from packages and servers must not reorder, hide or cut the text around it.
@@ -18,6 +21,10 @@ QString showable(const QString &text)
 {
     return harmless(maskPasswords(text));
 }
+
+std::mutex channelsMutex; // guards the next two
+QList<YumIODialogs *> asking;
+bool allDeclined = false;
 
 } // namespace
 
@@ -52,7 +59,7 @@ void YumIODialogsMinion::scrollable(const QString &title, const QString &text)
     ScrollableErrorDialog dialog(showable(text), m_parent);
     dialog.setWindowTitle(title);
     dialog.exec();
-    Q_EMIT setResult(0);
+    Q_EMIT setResult(1);
 }
 
 YumIODialogs::YumIODialogs(QWidget *parent)
@@ -85,10 +92,7 @@ int YumIODialogs::confirm(const QString &title, const QString &text, const QStri
 {
     if (isForeign())
         return YumIODialogs(m_parent).confirm(title, text, yesText, noText);
-    m_ready = false;
-    Q_EMIT confirmSig(title, text, yesText, noText);
-    waitForResult();
-    return m_result;
+    return waitForResult(0, [&] { Q_EMIT confirmSig(title, text, yesText, noText); });
 }
 
 int YumIODialogs::warning(const QString &title, const QString &text, const QString &button0,
@@ -99,10 +103,9 @@ int YumIODialogs::warning(const QString &title, const QString &text, const QStri
         return YumIODialogs(m_parent).warning(title, text, button0, button1, button2, defaultButton,
                                               escapeButton);
     }
-    m_ready = false;
-    Q_EMIT warningSig(title, text, button0, button1, button2, defaultButton, escapeButton);
-    waitForResult();
-    return m_result;
+    return waitForResult(escapeButton, [&] {
+        Q_EMIT warningSig(title, text, button0, button1, button2, defaultButton, escapeButton);
+    });
 }
 
 int YumIODialogs::critical(const QString &title, const QString &text, const QString &button0,
@@ -113,27 +116,49 @@ int YumIODialogs::critical(const QString &title, const QString &text, const QStr
         return YumIODialogs(m_parent).critical(title, text, button0, button1, button2,
                                                defaultButton, escapeButton);
     }
-    m_ready = false;
-    Q_EMIT criticalSig(title, text, button0, button1, button2, defaultButton, escapeButton);
-    waitForResult();
+    return waitForResult(escapeButton, [&] {
+        Q_EMIT criticalSig(title, text, button0, button1, button2, defaultButton, escapeButton);
+    });
+}
+
+bool YumIODialogs::scrollable(const QString &title, const QString &text)
+{
+    if (isForeign())
+        return YumIODialogs(m_parent).scrollable(title, text);
+    return waitForResult(0, [&] { Q_EMIT scrollableSig(title, text); }) != 0;
+}
+
+int YumIODialogs::waitForResult(int declined, const std::function<void()> &ask)
+{
+    {
+        const std::lock_guard lock(channelsMutex);
+        if (allDeclined)
+            return declined;
+        m_declined = declined;
+        m_ready = false;
+        asking.append(this);
+    }
+    ask();
+    if (!m_ready)
+        m_loop.exec(QEventLoop::ExcludeUserInputEvents);
+    const std::lock_guard lock(channelsMutex);
+    asking.removeOne(this);
     return m_result;
 }
 
-void YumIODialogs::scrollable(const QString &title, const QString &text)
+void YumIODialogs::declineAll()
 {
-    if (isForeign()) {
-        YumIODialogs(m_parent).scrollable(title, text);
-        return;
-    }
-    m_ready = false;
-    Q_EMIT scrollableSig(title, text);
-    waitForResult();
+    const std::lock_guard lock(channelsMutex);
+    allDeclined = true;
+    for (YumIODialogs *channel : std::as_const(asking))
+        QMetaObject::invokeMethod(channel, &YumIODialogs::decline, Qt::QueuedConnection);
+    asking.clear();
 }
 
-void YumIODialogs::waitForResult()
+void YumIODialogs::decline()
 {
     if (!m_ready)
-        m_loop.exec(QEventLoop::ExcludeUserInputEvents);
+        setResult(m_declined);
 }
 
 void YumIODialogs::setResult(int result)

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 // Shows the dialogs that a YumIODialogs asks for. Lives on the GUI thread.
@@ -56,7 +58,12 @@ public:
     int critical(const QString &title, const QString &text, const QString &button0,
                  const QString &button1, const QString &button2, int defaultButton,
                  int escapeButton);
-    void scrollable(const QString &title, const QString &text);
+    // False if it was declined.
+    bool scrollable(const QString &title, const QString &text);
+
+    // Nobody can answer any more: each dialog that is asked for, now or later, is answered as by Escape without being
+    // shown. Any thread.
+    static void declineAll();
 
 public Q_SLOTS:
     void setResult(int result);
@@ -74,13 +81,15 @@ Q_SIGNALS:
 
 private:
     bool isForeign() const;
-    void waitForResult();
+    int waitForResult(int declined, const std::function<void()> &ask);
+    void decline();
 
     QWidget *m_parent;
     YumIODialogsMinion *m_minion;
     QEventLoop m_loop;
     bool m_ready = false;
     int m_result = 0;
+    int m_declined = 0; // the result when nobody answers
 };
 
 // Installs a channel of the calling thread in `slot` for as long as it lives; nests.

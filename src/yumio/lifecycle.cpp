@@ -7,6 +7,7 @@
 
 #include "app/programname.h"
 #include "app/share.h"
+#include "capturers.h"
 #include "guiquestions.h"
 #include "threads.h"
 #include "yumio.h"
@@ -195,13 +196,23 @@ bool YumIO::lookUpExceptionTypes()
     return true;
 }
 
-void YumIO::execWorkThread(QEventLoop &loop, QThread &thread, Failures failures)
+// False when no thread could be started.
+bool YumIO::execWorkThread(QEventLoop &loop, QThread &thread, Failures failures)
 {
     m_keepsFailures = failures == Failures::Kept;
     m_cancelled = false;
     m_blocker.prepare();
+    const Uninterrupted::Server server([this] { abandon(); },
+                                       [&] { return serveWithoutDisplay(thread); });
     const PyThreadStateWrapper unlocked;
     thread.start(QThread::HighPriority);
+    if (!thread.isRunning()) { // it waits for the blocker otherwise
+        m_blocker.release();
+        m_keepsFailures = false;
+        error(tr("Unable to start a thread: no memory is left, or too many processes are "
+                 "running."));
+        return false;
+    }
 
     sigset_t blocked, previous;
     sigemptyset(&blocked);
@@ -222,6 +233,23 @@ void YumIO::execWorkThread(QEventLoop &loop, QThread &thread, Failures failures)
     pthread_sigmask(SIG_SETMASK, &previous, nullptr);
     m_keepsFailures = false;
     Q_EMIT jobState(QStringLiteral("done"), false);
+    return true;
+}
+
+// The display is gone. Any thread.
+void YumIO::abandon()
+{
+    m_unattended = true;
+    YumIODialogs::declineAll();
+}
+
+// One step of what the worker needs of the GUI thread once there is no display any more. True when the worker has
+// ended.
+bool YumIO::serveWithoutDisplay(QThread &thread)
+{
+    m_log.blockSignals(true); // the log window would paint
+    YumIOCapturersMinion::serveAll();
+    return thread.wait(20);
 }
 
 void YumIO::blockerRelease()
@@ -259,6 +287,7 @@ bool YumIO::apply()
     QEventLoop loop;
     ApplyThread thread(this, loop);
     execWorkThread(loop, thread, Failures::Kept);
+    keepOutcome();
     m_session.spent = m_session.spent || thread.result();
     return thread.result();
 }
@@ -268,15 +297,23 @@ void YumIO::clearEntries()
     m_clearing = true;
     QEventLoop loop;
     ClearEntriesThread thread(this, loop);
-    execWorkThread(loop, thread);
+    if (!execWorkThread(loop, thread))
+        dropSession();
     m_clearing = false;
 }
 
 void YumIO::clearEntriesReal()
 {
     m_blocker.block();
+    dropSession();
+}
+
+void YumIO::dropSession()
+{
     const PyGILStateWrapper lock(true);
     releaseEntries(true);
+    Py_CLEAR(m_former.yumIO); // which frees the packages
+    Py_CLEAR(m_session.yumIO);
 }
 
 void YumIO::releaseEntries(bool withInterpreter)
@@ -306,8 +343,6 @@ void YumIO::clear()
     flush();
     clearEntries();
     const PyGILStateWrapper lock(true);
-    Py_CLEAR(m_former.yumIO);
-    Py_CLEAR(m_session.yumIO);
     m_former = m_session = {};
     if (m_script.yumIOClass)
         createYumIO();

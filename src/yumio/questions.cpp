@@ -20,6 +20,8 @@ PyObject *YumIO::jobState(PyObject *, PyObject *args)
     long canCancel;
     if (!PyArg_ParseTuple(args, "sl", &state, &canCancel))
         return nullptr;
+    if (qstrcmp(state, "transaction") == 0 && !m_uninterrupted)
+        m_uninterrupted = std::make_unique<Uninterrupted>(); // until the apply is over
     Q_EMIT jobState(QString::fromUtf8(state), canCancel != 0);
     Py_RETURN_NONE;
 }

@@ -36,7 +36,6 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
     }
     if (PyErr_Occurred())
         return nullptr;
-    showHeldReports();
     if (!tested.isEmpty()) {
         reportTest(tested);
         Py_RETURN_NONE;
@@ -49,37 +48,59 @@ PyObject *YumIO::transactionReport(PyObject *, PyObject *args)
     // One that is there although its last scriptlet failed is done, but not as it should be.
     const bool complete = failed.isEmpty() && skipped.isEmpty() && troubled.isEmpty();
     log(complete ? Log::Kind::Ok : Log::Kind::Error, 0, summary);
-    if (complete)
-        Py_RETURN_NONE;
 
     QString text = summary + QLatin1Char('\n');
     const auto section = [&](const QString &title, const QStringList &lines, Log::Kind kind) {
         if (lines.isEmpty())
             return;
         const QString part = title + QLatin1Char('\n') + lines.join(QLatin1Char('\n'));
-        log(kind, 0, part);
+        if (!complete)
+            log(kind, 0, part);
         text += QLatin1Char('\n') + part + QLatin1Char('\n');
     };
     section(tr("Failed:"), failed, Log::Kind::Error);
     section(tr("Skipped:"), skipped, Log::Kind::Warning);
     section(tr("Done, with errors:"), troubled, Log::Kind::Warning);
     section(tr("Done:"), done, Log::Kind::Ok);
-    restBars();
-    if (m_dialogs)
-        m_dialogs->scrollable(tr("VOK Transaction Report"), text);
+    m_apply.outcome = text;
+    m_apply.isComplete = complete;
+    // Now, because the script removes the marker of the transaction next.
+    if (!m_reports.texts.isEmpty())
+        keepReport(m_reports.texts.join(QLatin1String("\n\n")));
+    if (!complete)
+        keepReport(text);
     Py_RETURN_NONE;
 }
 
 void YumIO::reportTest(const QStringList &lines)
 {
-    const QString text = tr("The transaction was only tested, because the configuration has "
-                            "tsflags=test. The test succeeded. No package was changed.") +
-                         QLatin1String("\n\n") + tr("Tested:") + QLatin1Char('\n') +
-                         lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
-    log(Log::Kind::Ok, 0, text);
-    restBars();
-    if (m_dialogs)
-        m_dialogs->scrollable(tr("VOK Transaction Report"), text);
+    m_apply.outcome = tr("The transaction was only tested, because the configuration has "
+                         "tsflags=test. The test succeeded. No package was changed.") +
+                      QLatin1String("\n\n") + tr("Tested:") + QLatin1Char('\n') +
+                      lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+    m_apply.isComplete = false;
+    log(Log::Kind::Ok, 0, m_apply.outcome);
+}
+
+void YumIO::keepReport(const QString &text)
+{
+    if (m_keeper.add)
+        m_keeper.add(text);
+}
+
+// Shows a report that is kept until it has been read.
+void YumIO::showKept(const QString &title, const QString &text)
+{
+    keepReport(text);
+    if (m_dialogs && m_dialogs->scrollable(title, text) && !m_unattended && m_keeper.remove)
+        m_keeper.remove(text);
+}
+
+// For whoever has left: what rpm has done, even if it did everything.
+void YumIO::keepOutcome()
+{
+    if (m_unattended && !m_apply.outcome.isEmpty())
+        keepReport(m_apply.outcome);
 }
 
 void YumIO::reportInterrupted()
@@ -101,6 +122,7 @@ void YumIO::reportInterrupted()
         return;
     const QString text = lines.join(QLatin1Char('\n'));
     log(Log::Kind::Warning, 0, text);
-    if (m_dialogs)
-        m_dialogs->scrollable(tr("VOK Interrupted Transaction"), text);
+    if (m_dialogs && m_dialogs->scrollable(tr("VOK Interrupted Transaction"), text) &&
+        !m_unattended && PyObject_HasAttrString(m_session.yumIO, "forgetInterrupted"))
+        const PyRef forgotten(pyMethodCall(m_session.yumIO, "forgetInterrupted", "()"));
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "app/uninterrupted.h"
 #include "apply.h"
 #include "downloads.h"
 #include "errors.h"
@@ -23,6 +24,7 @@
 #include <atomic>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -100,6 +102,11 @@ public:
     // `parent` is the parent of every dialog; the bars show the progress of jobs. Call once, before
     // initialize.
     void setup(QWidget *parent, HProgressBar *totalBar, HProgressBar *itemBar);
+    // Where reports of transactions are kept until somebody has read them. Without it they are only shown.
+    void setReportKeeper(const Engine::ReportKeeper &keeper) { m_keeper = keeper; }
+    // Nobody reads what is shown from now on: reports stay with the keeper, and so does the outcome of a
+    // transaction that succeeds.
+    void leaveReportsUnread() { m_unattended = true; }
     // Lends another surface to the jobs that follow; returns the former, to be given back.
     Surface exchangeSurface(const Surface &surface);
     // Starts the interpreter and the script. May be called again after a failure.
@@ -292,10 +299,14 @@ private:
     using EntryPredicate = bool (YumIO::*)(Package::Entry *);
 
     // lifecycle.cpp
-    void execWorkThread(QEventLoop &loop, QThread &thread, Failures failures = Failures::Shown);
+    void abandon();
+    bool serveWithoutDisplay(QThread &thread);
+    void keepOutcome();
+    bool execWorkThread(QEventLoop &loop, QThread &thread, Failures failures = Failures::Shown);
     bool makeSession();
     void flush();
     void clearEntriesReal();
+    void dropSession();
     void dropFormer();
     void takeFormerBack();
     void releaseEntries(bool withInterpreter);
@@ -516,6 +527,8 @@ private:
 
     // report.cpp
     void reportTest(const QStringList &lines);
+    void keepReport(const QString &text);
+    void showKept(const QString &title, const QString &text);
     // Shows once what the script knows of a transaction that was cut off before this run.
     void reportInterrupted();
 
@@ -576,6 +589,10 @@ private:
     Progress::Object *m_progress = nullptr; // set while a job's Progress::User lives
     Blocker m_blocker;
     std::atomic<bool> m_cancelled = false;
+    std::atomic<bool> m_unattended = false;
+    std::unique_ptr<Uninterrupted>
+        m_uninterrupted; // from the beginning of rpm to the end of the apply
+    Engine::ReportKeeper m_keeper;
 
     Log::EntryList m_log;
     Engine::Capture m_capture;

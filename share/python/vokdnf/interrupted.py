@@ -50,8 +50,8 @@ def _remove(path):
 
 
 def check(session):
-    """Lines about an interrupted transaction, [] when there was none, for the program to tell; once. Only the
-    holder of the lock looks: the marker of another may be one of a running transaction."""
+    """Lines about an interrupted transaction, [] when there was none, for the program to tell until it calls
+    clear(). Only the holder of the lock looks: the marker of another may be one of a running transaction."""
     if not locks.held():
         return []
     try:
@@ -60,11 +60,8 @@ def check(session):
     except FileNotFoundError:
         return []
     except (OSError, ValueError, KeyError, TypeError, RecursionError) as error:
-        lines = [tr("A transaction was interrupted; what it was to do cannot be read: %s") % error]
-    else:
-        lines = _lines(planned, installed_packages(session.base))
-    clear()
-    return lines
+        return [tr("A transaction was interrupted; what it was to do cannot be read: %s") % error]
+    return _lines(planned, installed_packages(session.base))
 
 
 def installed_packages(base):

@@ -185,12 +185,12 @@ class Transaction:
             report.errorlog(0, failure)
         session.spent = True
         shown.finish()
-        interrupted.clear()
         report.job_state("done", False)
         try:
             self._tell_outcome(shown, failure)
         except Exception as error:  # what was done stays done, whatever its report meets
             report.errorlog(0, tr("The report of the transaction failed: %s") % report.clean(error))
+        interrupted.clear()  # the program has the report now
 
     def _run(self, shown):
         try:
