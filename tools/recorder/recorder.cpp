@@ -18,9 +18,11 @@
 #include <QHelpEvent>
 #include <QJsonDocument>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QSocketNotifier>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTableView>
 
 #include <unistd.h>
@@ -89,6 +91,10 @@ void Recorder::obey(const QJsonObject &command)
         done = toggle(command.value(u"rows"_s).toArray());
     else if (what == u"choose")
         done = choose(command);
+    else if (what == u"filter")
+        filter(command.value(u"expression"_s).toString());
+    else if (what == u"describe")
+        done = describe(command.value(u"name"_s).toString());
     else if (what == u"answer")
         m_dialogs.setRules(command.value(u"rules"_s).toArray());
     else if (what == u"cancelAt")
@@ -250,10 +256,37 @@ bool Recorder::toggle(const QJsonArray &rows)
     return true;
 }
 
+void Recorder::filter(const QString &expression)
+{
+    auto *edit = m_window->findChild<QLineEdit *>(u"regexpEdit"_s);
+    edit->setText(expression);
+    Q_EMIT edit->returnPressed();
+}
+
+bool Recorder::describe(const QString &name)
+{
+    auto *view = m_window->findChild<QTableView *>(u"view"_s);
+    auto *proxy = m_window->findChild<PackageTable::SortFilterProxyModel *>();
+    for (int row = 0; row < m_engine->count(); ++row) {
+        const QModelIndex index = proxy->mapFromSource(proxy->sourceModel()->index(row, 0));
+        if ((*m_engine)[row]->name != name || !index.isValid())
+            continue;
+        view->selectRow(index.row());
+        return press(u"describeButton"_s);
+    }
+    return false;
+}
+
 bool Recorder::choose(const QJsonObject &command) const
 {
-    auto *box = m_window->findChild<QComboBox *>(command.value(u"box"_s).toString());
+    const QString name = command.value(u"box"_s).toString();
     const int index = command.value(u"index"_s).toInt();
+    const QWidget *dialog = QApplication::activeModalWidget();
+    if (auto *tabs = dialog ? dialog->findChild<QTabWidget *>(name) : nullptr) {
+        tabs->setCurrentIndex(index);
+        return true;
+    }
+    auto *box = m_window->findChild<QComboBox *>(name);
     if (!box || !box->isEnabled() || index >= box->count())
         return false;
     box->setCurrentIndex(index);

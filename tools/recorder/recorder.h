@@ -26,7 +26,9 @@ class YumIO;
 //   press button               a button or action, by object name; or the open dialog's, by its text
 //   mark names action          rows of those names, or name.architecture; action as Package::Action
 //   toggle rows                clicks the action cells of listed rows: [[index, how often]...]
-//   choose box index           an entry of a combo box, by object name
+//   choose box index           an entry of a combo box or a page of the open dialog, by object name
+//   filter expression          enters an expression and presses Return
+//   describe name              opens the description of the listed row of that name
 //   answer rules               see DialogWatcher
 //   cancelAt state             presses Cancel when the job is in that state and it can be pressed
 //   rows                       {name: [state, version, repository, action]} of all rows, as numbers
@@ -60,6 +62,8 @@ private:
     bool mark(const QJsonObject &command);
     bool toggle(const QJsonArray &rows);
     bool choose(const QJsonObject &command) const;
+    void filter(const QString &expression);
+    bool describe(const QString &name);
     QJsonObject rows() const;
     QJsonArray table() const;
     QJsonArray log(int from) const;
