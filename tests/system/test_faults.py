@@ -18,8 +18,8 @@ from recorder import INSTALL, NONE, SANDBOX, Recorder, start_program
 from guidriver import Screen, key, wait_for
 from scriptdriver import mounted
 
-# Takes a lock file as the program and DNF do, and holds it until its standard input ends.
-HOLD = "import fcntl, os, sys; f = open(sys.argv[1], 'r+'); fcntl.flock(f, fcntl.LOCK_EX); " \
+# Takes a lock file by lockf, as the program does, or by flock, as DNF does, and holds it until its standard input ends.
+HOLD = "import fcntl, os, sys; f = open(sys.argv[1], 'r+'); getattr(fcntl, sys.argv[2])(f, fcntl.LOCK_EX); " \
        "f.write(str(os.getpid())); f.flush(); print(flush=True); sys.stdin.read()"
 WAIT = {"title": "VOK Package Lock", "button": "Wait"}
 CLOSE = {"title": "VOK Yum Error", "button": "Close"}
@@ -77,10 +77,11 @@ class Case(scriptdriver.Case):
 
     def holding(self, path):
         """A process that holds the lock file of that path in the root."""
+        how = "lockf" if path.endswith("/vok.lock") else "flock"
         lock = self.root / path
         lock.parent.mkdir(parents=True, exist_ok=True)
         lock.touch()
-        holder = subprocess.Popen(["/usr/bin/python3", "-c", HOLD, lock], stdin=subprocess.PIPE,
+        holder = subprocess.Popen(["/usr/bin/python3", "-c", HOLD, lock, how], stdin=subprocess.PIPE,
                                   stdout=subprocess.PIPE)
         self.addCleanup(holder.stdout.close)
         holder.stdout.readline()

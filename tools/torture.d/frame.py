@@ -234,7 +234,6 @@ class Stage:
             return
         with path.open("r+b") as lock:
             try:
-                fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
                 fcntl.lockf(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
             except OSError:
                 raise Lost("the lock is still held") from None

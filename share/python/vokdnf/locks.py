@@ -6,6 +6,7 @@
 import errno
 import fcntl
 import os
+import struct
 import time
 
 import dnf.exceptions
@@ -79,16 +80,47 @@ def _take():
             raise Errors.LockError(tr("%s is not a plain file and is not opened. Remove it.") % LOCK_FILE, 0) from error
         return None
     try:
-        fcntl.flock(descriptor, fcntl.LOCK_EX | fcntl.LOCK_NB)
-    except OSError:
-        text = os.read(descriptor, 32).decode("ascii", "replace").strip()
+        _lock(descriptor)
+    except OSError as error:
+        pid = _holder(descriptor)
         os.close(descriptor)
-        pid = int(text) if text.isdigit() else 0
+        if error.errno not in (errno.EAGAIN, errno.EACCES):
+            raise Errors.LockError(tr("The lock file %s cannot be locked: %s. Its file system may not support "
+                                      "locks: mount one that does (such as tmpfs) on its directory.")
+                                   % (LOCK_FILE, error.strerror)) from error
         return pid, command_of(pid) or "VOK"
     os.ftruncate(descriptor, 0)
     os.write(descriptor, b"%d\n" % os.getpid())
     _held[path] = descriptor
     return None
+
+
+def _lock(descriptor):
+    """OSError, EAGAIN or EACCES if another process has the lock. It is a POSIX record lock, which a child that a
+    scriptlet forks does not inherit. It is lost when this process closes any descriptor of the file."""
+    try:
+        fcntl.flock(descriptor, fcntl.LOCK_SH | fcntl.LOCK_NB)  # former versions lock this way
+        fcntl.flock(descriptor, fcntl.LOCK_UN)
+    except BlockingIOError:
+        raise
+    except OSError:
+        pass
+    fcntl.lockf(descriptor, fcntl.LOCK_EX | fcntl.LOCK_NB)
+
+
+def _holder(descriptor):
+    """The process id of who holds the lock, 0 if unknown: the kernel's answer, else what the file says, as for
+    former versions and other process namespaces."""
+    layout = "hhqqi"  # struct flock: type, whence, start, length, process id
+    try:
+        answer = fcntl.fcntl(descriptor, fcntl.F_GETLK, struct.pack(layout, fcntl.F_WRLCK, os.SEEK_SET, 0, 0, 0))
+        kind, _, _, _, pid = struct.unpack(layout, answer)
+        if kind != fcntl.F_UNLCK and pid > 0:
+            return pid
+        text = os.read(descriptor, 32).decode("ascii", "replace").strip()
+    except OSError:
+        return 0
+    return int(text) if text.isdigit() else 0
 
 
 def _release():
