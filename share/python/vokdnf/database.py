@@ -74,6 +74,20 @@ def directory():
     return _place["directory"]
 
 
+def identity():
+    """[inode] of the directory of the database and of its file, None for what is missing: differs once the database
+    was moved or replaced."""
+    return [next(filter(None, (_inode(name) for name in names)), None)
+            for names in (("",), ("rpmdb.sqlite", "Packages.db", "Packages"))]
+
+
+def _inode(name):
+    try:
+        return os.stat(os.path.join(root.resolve(directory()), name)).st_ino
+    except OSError:
+        return None
+
+
 def numbers(conf):
     """The numbers under which rpm keeps the installed packages, keys left out: the keys of contents, sooner.
     None when the database cannot be read."""

@@ -11,17 +11,21 @@ from .translation import tr
 
 class Outcomes:
     """What became of each element, by the rpm database as it is now: "done", "failed" or "skipped", and
-    why. An element that is done has a reason when a scriptlet of it failed."""
+    why. An element that is done has a reason when a scriptlet of it failed. `unknown` is a reason why nothing is
+    known of any."""
 
-    def __init__(self, elements, installed, reasons, failure):
+    def __init__(self, elements, installed, reasons, failure, unknown=""):
         self._elements = elements
         self._new = {element.envra for element in elements if not element.erases}
         self._installed = installed
         self._reasons = reasons
         self._failure = failure
+        self._unknown = unknown
 
     def of(self, element):
         """(outcome, reason) of an element."""
+        if self._unknown:
+            return "failed", self._unknown
         key, erases = element.envra, element.erases
         # That rpm skipped an element is no reason of its own: it follows from another's failure.
         reason = "; ".join(text for text in self._reasons.get(key, ()) if not text.endswith(" skipped"))

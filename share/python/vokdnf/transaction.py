@@ -15,7 +15,7 @@ import dnf.repo
 
 from yum import Errors
 
-from . import credentials, display, elements, errors, groups, interrupted, keys, language, locks, meters
+from . import credentials, database, display, elements, errors, groups, interrupted, keys, language, locks, meters
 from . import outcome, packages, report, resolve, rights, root, tsflags, unlisted, waiting
 from .base import full_cache
 from .translation import tr
@@ -166,11 +166,12 @@ class Transaction:
         report.job_state("transaction", False)
         report.yumIOC.tsInitCallback(1)
         shown = display.Display(self._elements, self._yumio.getBiArch)
-        base.args = ["vok"]  # what DNF's history shows as the command line
+        base.args = [interrupted.COMMAND_LINE]
         if base.conf.installroot != "/":
             root.separate()
         if _too_few_descriptors():
             raise Errors.YumBaseError(_too_few_descriptors())
+        self._database = database.identity()
         interrupted.write(self._elements)
         base.history.log_scriptlet_output = HistoryOutput(base.history)
         failure = ""
@@ -185,12 +186,17 @@ class Transaction:
             report.errorlog(0, failure)
         session.spent = True
         shown.finish()
+        moved = database.identity() != self._database
+        if moved:
+            report.errorlog(0, interrupted.moved_text())
+            interrupted.note_moved()
         report.job_state("done", False)
         try:
-            self._tell_outcome(shown, failure)
+            self._tell_outcome(shown, failure, moved)
         except Exception as error:  # what was done stays done, whatever its report meets
             report.errorlog(0, tr("The report of the transaction failed: %s") % report.clean(error))
-        interrupted.clear()  # the program has the report now
+        if not moved:
+            interrupted.clear()  # the program has the report now
 
     def _run(self, shown):
         try:
@@ -199,9 +205,14 @@ class Transaction:
         finally:
             shown.drain()
 
-    def _tell_outcome(self, shown, failure):
-        outcomes = outcome.Outcomes(self._elements, interrupted.installed_packages(self._base),
-                                    shown.reasons, failure)
+    def _tell_outcome(self, shown, failure, moved):
+        """`moved`: rpm's database is not the one that the transaction began with."""
+        if moved:
+            unknown = tr("not known, because rpm's database was moved or replaced")
+            outcomes = outcome.Outcomes(self._elements, set(), {}, failure, unknown)
+        else:
+            outcomes = outcome.Outcomes(self._elements, interrupted.installed_packages(self._base),
+                                        shown.reasons, failure)
         self._fill_tsinfo([element for element in self._elements if outcomes.of(element)[0] == "done"])
         report.yumIOC.postTransactionOutput(self._yumio)
         rows = outcomes.rows()
