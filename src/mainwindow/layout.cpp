@@ -5,6 +5,7 @@
 
 #include "mainwindow/countline.h"
 #include "mainwindow/noticerow.h"
+#include "mainwindow/stuckscriptlet.h"
 #include "mainwindow/wraplayout.h"
 #include "packagetable/emptytext.h"
 #include "packagetable/model.h"
@@ -367,6 +368,7 @@ void MainWindow::connectMainArea()
     connect(m_yumIO, &YumIO::collectedExtraData, this, &MainWindow::collectedExtraData);
     connect(m_yumIO, qOverload<const QString &, bool>(&YumIO::jobState), this,
             &MainWindow::jobState);
+    new StuckScriptlet(m_yumIO, this);
     connect(m_view, qOverload<int, int>(&PackageTable::View::currentChanged), this,
             &MainWindow::currentChanged);
     connect(m_model, &PackageTable::Model::describing, this, &MainWindow::dialogRuns);

@@ -88,13 +88,14 @@ int showMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title
 QMessageBox *openMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
                             const QString &text, const QString &button0, const QString &button1,
                             int defaultButton, int escapeButton,
-                            const std::function<void(int)> &answered)
+                            const std::function<void(int)> &answered, Qt::WindowModality modality)
 {
     auto *box = new QMessageBox(icon, title, QString(), QMessageBox::NoButton, parent);
     fill(*box, text, {button0, button1, QString()}, defaultButton, escapeButton);
     box->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(box, &QDialog::finished, parent,
                      [=] { answered(pressed(*box, escapeButton)); });
-    box->open();
+    box->setWindowModality(modality);
+    box->show();
     return box;
 }

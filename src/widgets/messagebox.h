@@ -18,8 +18,10 @@ int showMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title
                    int defaultButton = 0, int escapeButton = -1);
 
 // The same beside the work of the program, which goes on: returns at once, and calls `answered` with
-// the number when the box has closed, unless the parent has gone. The box deletes itself.
+// the number when the box has closed, unless the parent has gone. The box deletes itself. With
+// Qt::NonModal the parent can be used meanwhile.
 QMessageBox *openMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
                             const QString &text, const QString &button0, const QString &button1,
                             int defaultButton, int escapeButton,
-                            const std::function<void(int)> &answered);
+                            const std::function<void(int)> &answered,
+                            Qt::WindowModality modality = Qt::WindowModal);

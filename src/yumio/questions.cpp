@@ -66,6 +66,18 @@ PyObject *YumIO::repositoryFailed(PyObject *, PyObject *args)
     Py_RETURN_NONE;
 }
 
+// Called by a thread of the script, beside the worker: nothing is waited for.
+PyObject *YumIO::scriptletStuck(PyObject *, PyObject *args)
+{
+    const char *package, *command;
+    long long pid;
+    unsigned long long start;
+    if (!PyArg_ParseTuple(args, "sLKs", &package, &pid, &start, &command))
+        return nullptr;
+    Q_EMIT stuckScriptlet(QString::fromUtf8(package), pid, start, QString::fromUtf8(command));
+    Py_RETURN_NONE;
+}
+
 PyObject *YumIO::keyQuestion(PyObject *, PyObject *args)
 {
     const char *id, *user, *fingerprint, *source;

@@ -278,6 +278,9 @@ Q_SIGNALS:
     // The running job's state ("lock", "metadata", "resolve", "download", "transaction",
     // "search", "test", "done") and whether it can be cancelled now.
     void jobState(const QString &state, bool canCancel);
+    // A scriptlet of a package keeps rpm waiting: its process, when that started (in clock ticks since boot) and its
+    // command. Without a package: it has ended.
+    void stuckScriptlet(const QString &package, qint64 pid, quint64 start, const QString &command);
 
 private:
     friend class YumIOC;
@@ -580,6 +583,7 @@ private:
     PyObject *keyQuestion(PyObject *self, PyObject *args);
     PyObject *confirmRemovals(PyObject *self, PyObject *args);
     PyObject *repositoryFailed(PyObject *self, PyObject *args);
+    PyObject *scriptletStuck(PyObject *self, PyObject *args);
     PyObject *transactionReport(PyObject *self, PyObject *args);
 
     Surface m_surface;

@@ -77,6 +77,7 @@ PyMethodDef YumIOC::s_methods[] = {
     VOK_CALLBACK(keyQuestion, METH_VARARGS),
     VOK_CALLBACK(confirmRemovals, METH_VARARGS),
     VOK_CALLBACK(repositoryFailed, METH_VARARGS),
+    VOK_CALLBACK(scriptletStuck, METH_VARARGS),
     VOK_CALLBACK(transactionReport, METH_VARARGS),
     {"tr", translate, METH_VARARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},

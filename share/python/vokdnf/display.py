@@ -84,7 +84,8 @@ def _spellings(envra):
 class Display(dnf.callback.TransactionProgress):
     """`begun` is set once rpm runs. `reasons` is {epoch:name-version-release.arch: [texts]} of what went
     wrong with an element, `trouble` a list of faults in reporting, `last_word` the time.monotonic() of
-    rpm's last report, `unread` a function for the output that is left."""
+    rpm's last report, `running` the package whose scriptlet runs, as a text, `unread` a function for the output that is
+    left."""
 
     def __init__(self, elements, family):
         """`family` gives the family of an architecture."""
@@ -94,6 +95,7 @@ class Display(dnf.callback.TransactionProgress):
         self.trouble = []
         self.last_word = time.monotonic()
         self.unread = None
+        self.running = ""
         self._current = None      # (package, action) of the element that rpm works on
         self._scriptlet = None    # the package whose scriptlet runs
         self._number = 0          # of the present element
@@ -109,6 +111,7 @@ class Display(dnf.callback.TransactionProgress):
     @_contained
     def progress(self, package, action, ti_done, ti_total, ts_done, ts_total):
         self.begun = True
+        self.running = report.clean(package) if action == dnf.transaction.PKG_SCRIPTLET else ""
         self._scriptlet = package if action == dnf.transaction.PKG_SCRIPTLET \
             and hasattr(package, "pkgtup") else None
         if self._tell(package, action, int(ti_done or 0), int(ti_total or 0), int(ts_done or 0),
@@ -146,6 +149,7 @@ class Display(dnf.callback.TransactionProgress):
         self._finish_element()
         self._current = (package, action)
         self._scriptlet = None
+        self.running = ""
         self._number += 1
         self._told = False
         if self._makes_room(package, action):

@@ -200,7 +200,7 @@ class Transaction:
 
     def _run(self, shown):
         try:
-            with waiting.Watcher(lambda: shown.last_word):
+            with waiting.Watcher(shown):
                 self._base.do_transaction(shown)
         finally:
             shown.drain()
