@@ -5,6 +5,7 @@
 
 #include "python/pyref.h"
 
+#include "app/memoryreserve.h"
 #include "app/programname.h"
 #include "app/share.h"
 #include "capturers.h"
@@ -13,6 +14,7 @@
 #include "yumio.h"
 #include "yumioc.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +24,21 @@
 #include <csignal>
 #include <pthread.h>
 #include <utility>
+
+namespace {
+
+constexpr int jobBytes = 64 << 20;
+MemoryReserve reserve;
+
+QString tooLittleMemory()
+{
+    return YumIO::
+        tr("Less than %1 MiB of memory are left, which is too little for VOK and rpm. Quit other "
+           "programs, or raise the limit, and try again.")
+            .arg(jobBytes >> 20);
+}
+
+} // namespace
 
 void YumIO::Blocker::block()
 {
@@ -264,7 +281,10 @@ bool YumIO::collect(const QHash<QString, bool> &reposUsed, QStringList leftOut,
     m_session.otherData = false;
     m_search = {};
     bool collected = false;
-    for (bool again = true; again;) {
+    bool again = reserve.leavesRoomFor(jobBytes);
+    if (!again)
+        error(tooLittleMemory());
+    while (again) {
         m_failed = {};
         QEventLoop loop;
         CollectThread thread(this, loop, reposUsed, leftOut);
@@ -284,6 +304,8 @@ bool YumIO::collect(const QHash<QString, bool> &reposUsed, QStringList leftOut,
 
 bool YumIO::apply()
 {
+    if (!reserve.leavesRoomFor(jobBytes))
+        return fail(tooLittleMemory());
     QEventLoop loop;
     ApplyThread thread(this, loop);
     execWorkThread(loop, thread, Failures::Kept);

@@ -5,6 +5,7 @@
 
 import encodings.idna  # noqa: F401  (nothing can be imported while rpm is in another root)
 import linecache  # noqa: F401
+import mmap
 import os
 import resource
 import traceback  # noqa: F401
@@ -21,6 +22,7 @@ from .base import full_cache
 from .translation import tr
 
 _DESCRIPTORS = 100  # that rpm, its scriptlets and DNF's history get at least
+_MEMORY = 32 << 20  # bytes that rpm gets at least
 
 
 class Transaction:
@@ -171,6 +173,7 @@ class Transaction:
             root.separate()
         if _too_few_descriptors():
             raise Errors.YumBaseError(_too_few_descriptors())
+        _check_memory()
         self._database = database.identity()
         interrupted.write(self._elements)
         base.history.log_scriptlet_output = HistoryOutput(base.history)
@@ -233,6 +236,15 @@ def _too_few_descriptors():
         return ""
     return tr("VOK has %d files open and may open %d at most, which leaves too few for rpm. Quit VOK and start it "
               "again, with a higher limit if necessary.") % (used, limit)
+
+
+def _check_memory():
+    """Raises YumBaseError if little is left: rpm, libsolv and GLib end the process when an allocation fails."""
+    try:
+        mmap.mmap(-1, _MEMORY).close()
+    except OSError as error:
+        raise Errors.YumBaseError(tr("Less than %d MiB of memory are left, which is too little for VOK and rpm. Quit "
+                                     "other programs, or raise the limit, and try again.") % (_MEMORY >> 20)) from error
 
 
 class HistoryOutput:
