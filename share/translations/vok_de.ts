@@ -2453,6 +2453,45 @@ Für eine einzelne Sitzung kann das anders festgelegt werden.</translation>
     </message>
 </context>
 <context>
+    <name>StuckScriptlet</name>
+    <message>
+        <source>A scriptlet of the package %1 has been running for a long time, and rpm waits for it.
+
+Process %2: %3
+
+VOK can send SIGTERM to this process, and to no other. rpm then reports that the scriptlet failed, and what the scriptlet was to do may be done in part; if it runs before the installation or removal, the package is not installed or removed. Other processes that the scriptlet started are not ended.
+
+If it may still be working, keep waiting.</source>
+        <translation>Ein Paketskript des Pakets %1 läuft seit längerer Zeit, und rpm wartet darauf.
+
+Prozess %2: %3
+
+VOK kann diesem Prozess, und keinem anderen, SIGTERM senden. rpm meldet dann, dass das Paketskript fehlgeschlagen ist, und dessen Arbeit ist möglicherweise nur zum Teil getan; läuft es vor dem Installieren oder Entfernen, so wird das Paket nicht installiert oder entfernt. Andere Prozesse, die das Paketskript gestartet hat, werden nicht beendet.
+
+Warten Sie weiter, wenn es noch arbeiten könnte.</translation>
+    </message>
+    <message>
+        <source>VOK Scriptlet</source>
+        <translation>VOK – Paketskript</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Waiting</source>
+        <translation>&amp;Weiter warten</translation>
+    </message>
+    <message>
+        <source>&amp;End the Scriptlet</source>
+        <translation>Paketskript &amp;beenden</translation>
+    </message>
+    <message>
+        <source>Sent SIGTERM to process %1</source>
+        <translation>SIGTERM an Prozess %1 gesendet</translation>
+    </message>
+    <message>
+        <source>Process %1 cannot be ended: errno = %2 (%3)</source>
+        <translation>Prozess %1 kann nicht beendet werden: errno = %2 (%3)</translation>
+    </message>
+</context>
+<context>
     <name>WebBrowser</name>
     <message>
         <source>Browse</source>
@@ -3717,6 +3756,10 @@ sudo VOKROOT=/mnt/image vok</translation>
         <source>Unable to start a thread: no memory is left, or too many processes are running.</source>
         <translation>Es kann kein Thread gestartet werden: Der Speicher ist erschöpft, oder es laufen zu viele Prozesse.</translation>
     </message>
+    <message>
+        <source>Less than %1 MiB of memory are left, which is too little for VOK and rpm. Quit other programs, or raise the limit, and try again.</source>
+        <translation>Weniger als %1 MiB Speicher sind frei, zu wenig für VOK und rpm. Beenden Sie andere Programme oder erhöhen Sie die Grenze, und versuchen Sie es erneut.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO script</name>
@@ -4181,6 +4224,42 @@ Es wurde nichts geändert.</translation>
     <message>
         <source>VOK has %d files open and may open %d at most, which leaves too few for rpm. Quit VOK and start it again, with a higher limit if necessary.</source>
         <translation>VOK hat %d Dateien geöffnet und darf höchstens %d öffnen; für rpm bleiben zu wenige. Beenden Sie VOK und starten Sie es neu, wenn nötig mit einer höheren Grenze.</translation>
+    </message>
+    <message>
+        <source>%s can be neither removed nor rewritten: %s. Each start of VOK reads it and reports a transaction: remove the file.</source>
+        <translation>%s kann weder gelöscht noch überschrieben werden: %s. VOK liest die Datei bei jedem Start und meldet eine Transaktion: Löschen Sie sie.</translation>
+    </message>
+    <message>
+        <source>The rpm database in %s was moved or replaced during the last transaction, probably by a scriptlet. What is installed cannot be told from what is there now. Move the former directory back, or restore it from a backup, before you install or remove anything.</source>
+        <translation>Die rpm-Datenbank in %s wurde während der letzten Transaktion verschoben oder ersetzt, wahrscheinlich von einem Paketskript. Was installiert ist, lässt sich aus der jetzigen nicht erkennen. Verschieben Sie das frühere Verzeichnis zurück oder stellen Sie es aus einer Sicherung wieder her, bevor Sie etwas installieren oder entfernen.</translation>
+    </message>
+    <message>
+        <source>rpm completed the last transaction, but VOK could not record it.</source>
+        <translation>rpm hat die letzte Transaktion abgeschlossen, aber VOK konnte das nicht vermerken.</translation>
+    </message>
+    <message>
+        <source>rpm&apos;s database in %s was moved away during the last transaction, and is back.</source>
+        <translation>Die rpm-Datenbank in %s wurde während der letzten Transaktion verschoben und ist wieder da.</translation>
+    </message>
+    <message>
+        <source>The lock file %s cannot be locked: %s. Its file system may not support locks: mount one that does (such as tmpfs) on its directory.</source>
+        <translation>Die Sperrdatei %s kann nicht gesperrt werden: %s. Vielleicht unterstützt ihr Dateisystem keine Sperren: Hängen Sie an ihrem Verzeichnis eines ein, das sie unterstützt (etwa tmpfs).</translation>
+    </message>
+    <message>
+        <source>not known, because rpm&apos;s database was moved or replaced</source>
+        <translation>nicht bekannt, weil die rpm-Datenbank verschoben oder ersetzt wurde</translation>
+    </message>
+    <message>
+        <source>Less than %d MiB of memory are left, which is too little for VOK and rpm. Quit other programs, or raise the limit, and try again.</source>
+        <translation>Weniger als %d MiB Speicher sind frei, zu wenig für VOK und rpm. Beenden Sie andere Programme oder erhöhen Sie die Grenze, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>A scriptlet of %s has been running for %d seconds inside rpm.</source>
+        <translation>Ein Paketskript von %s läuft seit %d Sekunden innerhalb von rpm.</translation>
+    </message>
+    <message>
+        <source>A scriptlet of %s has been running for %d seconds: process %d (%s).</source>
+        <translation>Ein Paketskript von %s läuft seit %d Sekunden: Prozess %d (%s).</translation>
     </message>
 </context>
 </TS>
