@@ -181,26 +181,37 @@ def no_rename(stage):
     program.end()
 
 
-@case("memory runs out at Apply")
+@case("memory runs out at Apply, in the download, in rpm and in a refresh")
 def no_memory(stage):
     needs("prlimit")
     ends = []
-    for spare in (1, 12, 40, 120):
-        window = stage.window()
-        pid = window.process.pid
-        with open(f"/proc/{pid}/statm", encoding="ascii") as stream:
-            used = int(stream.read().split()[0]) * 4096
-        window.do("mark", names=["chess"], action=INSTALL)
-        window.do("answer", rules=[{"title": "Apply", "button": "OK"}])
-        subprocess.run(["prlimit", "--pid", str(pid), f"--as={used + (spare << 20)}:"], check=True)
-        try:
-            window.do("press", button="applyButton")
-            told = _report(window.do("wait", timeout=120))
-            ends.append(f"{spare} MiB: {told.splitlines()[-1] if told else 'done'}")
-        except (AssertionError, OSError) as error:
-            raise Lost(f"with {spare} MiB left the program ended: {error}") from None
-        subprocess.run(["prlimit", "--pid", str(pid), "--as=unlimited:"], check=True)
-        lost_if(window.close(), "it did not end with status 0")
-        stage.tool("rpm", "-e", "chess")
+    for moment, spares in (("apply", (0, 0.05, 0.3, 2, 6, 12, 20, 30, 40, 120)), ("download", (0, 0.3, 2, 8, 20)),
+                           ("transaction", (8,)), ("refresh", (0.05, 0.3, 2, 8, 20))):
+        for spare in spares:
+            ends.append(f"{moment}, {spare} MiB: {_without_memory(stage, moment, spare)}")
+            stage.tool("rpm", "-e", "chess")
     struck(any("done" not in one for one in ends), f"nothing failed: {ends}")
     return "; ".join(ends)
+
+
+def _without_memory(stage, moment, spare):
+    """How a job ends when so many MiB are left from a moment on."""
+    window = stage.window()
+    pid = str(window.process.pid)
+    with open(f"/proc/{pid}/statm", encoding="ascii") as stream:
+        limit = int(stream.read().split()[0]) * 4096 + int(spare * (1 << 20))
+    window.do("mark", names=["chess"], action=INSTALL)
+    window.do("answer", rules=[{"title": "Apply", "button": "OK"}])
+    try:
+        if moment in ("download", "transaction"):
+            window.do("press", button="applyButton")
+            window.do("until", state=moment)
+        subprocess.run(["prlimit", "--pid", pid, f"--as={limit}:"], check=True)
+        if moment in ("apply", "refresh"):
+            window.do("press", button=f"{moment}Button")
+        told = _report(window.do("wait", timeout=120))
+    except (AssertionError, OSError) as error:
+        raise Lost(f"{moment}, {spare} MiB: the program ended: {error}") from None
+    subprocess.run(["prlimit", "--pid", pid, "--as=unlimited:"], check=True)
+    lost_if(window.close(), f"{moment}, {spare} MiB: it did not end with status 0")
+    return told.splitlines()[-1] if told else "done"
