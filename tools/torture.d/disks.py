@@ -100,7 +100,7 @@ def no_marker(stage):
     needs_root()
     window = stage.window()
     marker = stage.root / "var/lib/vok/transaction.json.new"
-    with Failing(stage, window.process.pid, "openat:error=EIO", [marker]) as failing:
+    with Failing(stage, window.process.pid, "rename,renameat,renameat2:error=EIO", [marker]) as failing:
         told = _report(stage.apply(window, {INSTALL: ["chess"]}))
     struck(failing.struck, "no call failed")
     lost_if("chess-1.0-1.noarch" not in stage.installed() and not told, "not installed, and nothing was told")
