@@ -6,10 +6,11 @@
 import os
 import shutil
 import signal
+import subprocess
 
 import ownrepo
 from disks import Failing
-from frame import LOCK, MARKER, Lost, case, lost_if, needs_root, struck
+from frame import LOCK, MARKER, Lacks, case, lost_if, needs, needs_root, struck
 from guidriver import key, wait_for
 from recorder import INSTALL
 
@@ -50,6 +51,29 @@ def marker_stays(stage):
     struck(failing.struck and stage.marker() is not None, "the marker was removed")
     lost_if("1 done" not in window.logged() or "interrupted" in told, f"told wrongly: {told}")
     lost_if(MARKER not in window.logged(), "the reason is not in the log")
+
+
+@case("the marker of a finished transaction can be neither removed nor rewritten")
+def marker_immutable(stage):
+    needs_root()
+    needs("chattr")
+    window = stage.window()
+    window.do("mark", names=["slow-1"], action=INSTALL)
+    window.do("answer", rules=[{"title": "Apply", "button": "OK"}])
+    window.do("press", button="applyButton")
+    stage.wait_for_scriptlet("slow-1")
+    if subprocess.run(["chattr", "+i", stage.root / MARKER], stderr=subprocess.DEVNULL).returncode:
+        raise Lacks("no file can be made immutable here")
+    try:
+        window.do("wait", timeout=180)
+        window.close()
+        again = stage.window()
+        told = _told(again.opened)
+        again.close()
+    finally:
+        subprocess.run(["chattr", "-i", stage.root / MARKER], check=True)
+    lost_if("interrupted" in told or "remove the file" not in told, f"the next start told: {told}")
+    stage.next_start = ["VOK Interrupted Transaction"]
 
 
 @case("the lock file cannot be locked")
