@@ -97,6 +97,14 @@ void MainWindow::reposChanged()
     if (!job)
         return;
     checkCredentials();
+    // The editor may have removed some that are left out. Of files that cannot be read, none is known.
+    if (m_yumConfIO->unreadable().isEmpty()) {
+        const auto &repos = std::as_const(m_yumConfIO->repos);
+        m_leftOut.removeIf([&](const QString &id) {
+            return std::none_of(repos.begin(), repos.end(),
+                                [&](const Repo::Entry &entry) { return entry.id == id; });
+        });
+    }
     recollect();
 }
 
