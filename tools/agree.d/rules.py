@@ -100,6 +100,15 @@ def _shared(line, step):
     return named or bool(shared) and any(f"group {identifier} " in line for (identifier, _), _ in groups)
 
 
+def _without_packages(line, step):
+    groups = [group(row) for row, action in step.marks if row.kind == GROUP and action == INSTALL]
+    names = {name for _, members in groups for _, name, *_ in members}
+    if not {"best", "allow_vendor_change"} <= set(step.lines) or names.isdisjoint(("easel", "palette")):
+        return False
+    return "only VOK" in line and any(f" {name}-" in line for name in names) \
+        or any(f"group {identifier} " in line for identifier, _ in groups)
+
+
 RULES = [
     Rule("vendor list", "dnf lists upgrades that a change of vendor forbids, and does not take them.",
          lambda line, step: "allow_vendor_change" in step.lines and line in _RIVALS),
@@ -123,6 +132,8 @@ RULES = [
          lambda line, step: line.startswith("dnf upgrade leaves out libtwin")),
     Rule("installed as marked", "A package that another one on offer replaces is installed as marked; dnf "
          "installs what replaces it.", _replaced),
+    Rule("group without packages", "With best=1, if a change of vendor forbids the newest version of an installed member, "
+         "dnf installs the group's record and none of its packages; VOK installs the other members.", _without_packages),
     Rule("either member", "With obsoletes=0 one of two members that exclude each other is left out; which "
          "one goes by the order of the marks.",
          lambda line, step: "obsoletes" in step.lines and bool(re.search("quill|fountain-pen", line))),
