@@ -6,15 +6,19 @@
 #include "app/execute.h"
 #include "app/harmless.h"
 #include "app/share.h"
+#include "app/uninterrupted.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
+#include <csignal>
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 class TestBase : public QObject
@@ -163,6 +167,35 @@ private Q_SLOTS:
         QVERIFY(!m_lines.value(2).split(u' ').contains(QStringLiteral("0")));
         QCOMPARE(m_lines.value(3), QString::fromLocal8Bit(user->pw_dir));
         QCOMPARE(m_lines.value(4), QStringLiteral("mine"));
+    }
+
+    // Neither a signal nor the end of the display ends what must not be interrupted.
+    void finishesBeforeLeaving()
+    {
+        const pid_t child = fork();
+        if (child == 0) {
+            signal(SIGINT, SIG_DFL); // not Qt Test's
+            std::atomic<bool> abandoned = false, begun = false, finished = false;
+            int served = 0;
+            const Uninterrupted::Server server([&] { abandoned = true; },
+                                               [&] { return ++served > 3 && finished; });
+            std::thread worker([&] {
+                const Uninterrupted uninterrupted;
+                for (const int signal : {SIGINT, SIGUSR1, SIGALRM, SIGRTMIN})
+                    kill(getpid(), signal);
+                begun = true;
+                while (!abandoned)
+                    usleep(1000);
+                finished = true;
+            });
+            while (!begun)
+                usleep(1000);
+            const bool atOnce = Uninterrupted::leave() == Uninterrupted::Leave::AtOnce;
+            _exit(atOnce && abandoned && finished && served > 3 ? 0 : 1);
+        }
+        int status = -1;
+        QTRY_VERIFY(waitpid(child, &status, WNOHANG) != 0);
+        QCOMPARE(status, 0);
     }
 
 private:

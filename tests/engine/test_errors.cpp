@@ -200,24 +200,42 @@ yumIOC.log(9, 'key %r' % key)
 
     void reportsTheTransaction_data()
     {
-        columns<QString, QString, QString>("elements", "dialogs", "summary");
-        row("all done", s("[('0:a-1-1.x', 'done', '')]"), QString(),
-            s("1/0 Transaction: 1 done, 0 failed, 0 skipped"));
+        columns<QString, QString, QString, bool, QStringList>("elements", "dialogs", "summary",
+                                                              "unread", "kept");
+        const QString done = s("[('0:a-1-1.x', 'done', '')]");
+        row("all done", done, QString(), s("1/0 Transaction: 1 done, 0 failed, 0 skipped"), false,
+            QStringList());
         row("some not",
             s("[('0:a-1-1.x', 'done', ''), ('0:b-1-1.x', 'failed', 'scriptlet'),"
               " ('0:c-1-1.x', 'skipped', ''), ('0:d-1-1.x', 'done', '%post')]"),
             s("Transaction: 2 done, 1 failed, 1 skipped\n\nFailed:\n\t0:b-1-1.x: scriptlet\n\n"
               "Skipped:\n\t0:c-1-1.x\n\nDone, with errors:\n\t0:d-1-1.x: %post\n\n"
               "Done:\n\t0:a-1-1.x\n"),
-            s("3/0 Transaction: 2 done, 1 failed, 1 skipped"));
+            s("3/0 Transaction: 2 done, 1 failed, 1 skipped"), false, QStringList());
+        // What the engine is told once stays so: the last row.
+        row("nobody there", done, QString(), s("1/0 Transaction: 1 done, 0 failed, 0 skipped"),
+            true,
+            QStringList(s("Transaction: 1 done, 0 failed, 0 skipped\n\nDone:\n\t0:a-1-1.x\n")));
     }
 
     void reportsTheTransaction()
     {
         QFETCH(QString, elements);
         QFETCH(QString, summary);
+        QFETCH(bool, unread);
         Answers answers;
+        QStringList kept;
+        int removals = 0;
+        m_case.engine.setReportKeeper(
+            {[&](const QString &text) { kept += text; },
+             [&](const QString &text) { removals += kept.removeAll(text); }});
+        if (unread)
+            m_case.engine.leaveReportsUnread();
         m_case.apply({}, s("yumIOC.transactionReport(%1)").arg(elements), answers);
+        m_case.engine.setReportKeeper({});
+        kept.removeDuplicates();
+        QTEST(kept, "kept");
+        QCOMPARE(removals > 0, !answers.texts().isEmpty()); // what was shown was kept until then
         QTEST(answers.texts().join(u'|'), "dialogs");
         QVERIFY(m_case.logged().contains(summary));
     }

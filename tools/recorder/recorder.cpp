@@ -107,6 +107,8 @@ void Recorder::obey(const QJsonObject &command)
         result.insert(u"log"_s, log(command.value(u"from"_s).toInt()));
     else if (what == u"recording")
         result.insert(u"recording"_s, m_recording.lines());
+    else if (what == u"forget")
+        m_recording.forget();
     else if (what == u"gaps")
         result.insert(u"gaps"_s, m_heartbeat.gaps());
     else if (what == u"stacks")

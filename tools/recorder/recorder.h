@@ -36,6 +36,7 @@ class YumIO;
 //                              repository, action, [[version, architecture] of those behind it]]
 //   log [from]                 [kind, level, text] of all log entries from that index on
 //   recording, gaps            see Recording and Heartbeat
+//   forget                     empties the recording, which grows with every job
 //   stacks                     from now on gaps have stacks
 //   tip, showLog level         shows the item bar's tip, the log window
 //   picture path [of]          a picture of the window, or of the open "dialog", "tip" or "log"

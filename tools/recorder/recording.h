@@ -22,6 +22,7 @@ public:
     // [milliseconds, what, ...]: "total" or "item" with value, maximum, text and whether enabled;
     // "cancel" with whether enabled; "state" with the job's state and whether it can be cancelled.
     const QJsonArray &lines() const { return m_lines; }
+    void forget() { m_lines = {}; }
 
 private:
     struct Shown

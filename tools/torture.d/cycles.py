@@ -38,11 +38,14 @@ def _cycle(window, number):
     window.do("press", button="clearActionsButton")
     window.do("mark", names=["chess"], action=INSTALL if number % 2 else REMOVE)
     window.do("press", button="applyButton")
-    return window.do("wait", timeout=300)["dialogs"]
+    dialogs = window.do("wait", timeout=300)["dialogs"]
+    window.do("forget")
+    return dialogs
 
 
 @case("refresh, filter, describe, mark, clear and apply again and again")
 def cycles(stage):
+    """The log of the session grows by some 30 lines a cycle, which is not lost."""
     count = int(os.environ.get("TORTURE_CYCLES", "100"))
     window = stage.window()
     pid = window.process.pid
@@ -64,5 +67,5 @@ def cycles(stage):
     memory = [one[3] for one in seen]
     growth = max(memory[_FROM:]) / memory[_FROM - 1]
     lost_if(growth > _GROWTH, f"memory grew by {growth - 1:.1%}: {memory}")
-    return "%d cycles: %d descriptors, %d threads, %d children, memory %+.1f %% after the tenth" % (
+    return "%d cycles: %d descriptors, %d threads, %d children, memory %+.1f %% after the tenth, the log included" % (
         count, *seen[-1][:3], (growth - 1) * 100)
