@@ -17,6 +17,7 @@ import resource
 import select
 import signal
 import tempfile
+import time
 
 import dnf
 import dnf.comps
@@ -34,6 +35,7 @@ _CHECK = 1         # of the check: another one asks for a new check
 _DEATH_SIGNAL = 1  # the option of prctl
 _NAMED = 10        # packages in a message
 _PAUSE = 0.2       # seconds between two looks at a cancel
+_IDLE = 10.0       # seconds without processor time after which a child is replaced
 _told = set()      # what was reported: (repository, digest)
 _NAME = re.compile(r"[^\s\x00-\x1f\x7f]{1,500}")
 # [epoch:]version-release as libsolv has it. An epoch is 31 bits in DNF's history.
@@ -124,25 +126,38 @@ def _malformed(sack, repo_id):
 
 
 def _run(base, repo):
-    """What the check of a repository in a child process finds, {"unusable", "groups", "packages"}."""
+    """What the check of a repository in a child process finds, {"unusable", "groups", "packages"}. A fork of a process
+    with several threads may inherit a lock that another thread held, which nobody releases: such a child is replaced."""
+    return _attempt(base, repo, True) or _attempt(base, repo, True) or _attempt(base, repo, False)
+
+
+def _attempt(base, repo, replaceable):
+    """As _run; None if a replaceable child did nothing for a while."""
     reading, writing = os.pipe()
     said = os.memfd_create("vok-check", os.MFD_CLOEXEC)
     child = os.fork()
     if child == 0:
         _child(base, repo, writing, said)
     os.close(writing)
-    answer, ended = b"", False
+    answer, ended, stuck = b"", False, False
+    used, since = "", time.monotonic()
     try:
-        while not ended:
+        while not ended and not stuck:
             if select.select([reading], [], [], _PAUSE)[0]:
                 data = os.read(reading, 1 << 16)
                 answer, ended = answer + data, not data
             errors.check_cancelled(Errors.CancelledRepoError)
+            before, used = used, _processor_time(child)
+            if used != before:
+                since = time.monotonic()
+            stuck = replaceable and time.monotonic() - since > _IDLE
     except BaseException:
         os.kill(child, signal.SIGKILL)
         raise
     finally:
         os.close(reading)
+        if stuck:
+            os.kill(child, signal.SIGKILL)
         status = os.waitstatus_to_exitcode(os.waitpid(child, 0)[1])
         last = report.clean(os.pread(said, 4096, 0)).strip().split("\n")[-1].replace("what():", "").strip()
         os.close(said)
@@ -152,12 +167,23 @@ def _run(base, repo):
     if status < 0:  # what it was about to write
         for path in glob.glob(glob.escape(os.path.join(repo.basecachedir, repo.id)) + "*.solv*.??????"):
             os.unlink(path)
+    if stuck:
+        return None
     stage = found.pop("stage", "packages")
     if stage == "groups":
         found["groups"] = "unreadable"
     elif stage != "done":
         found["unusable"] = last or (signal.strsignal(-status) if status < 0 else stage)
     return found
+
+
+def _processor_time(pid):
+    """The processor time that a process has used, as /proc has it, "" if that cannot be read."""
+    try:
+        with open("/proc/%d/stat" % pid, "rb") as stream:
+            return " ".join(stream.read().decode("ascii", "replace").rpartition(")")[2].split()[11:13])
+    except OSError:
+        return ""
 
 
 def _child(base, repo, writing, said):
