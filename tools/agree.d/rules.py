@@ -109,6 +109,16 @@ def _without_packages(line, step):
         or any(f"group {identifier} " in line for identifier, _ in groups)
 
 
+def _unkept(line, step):
+    names = {row.name for row, action in step.marks if row.kind != GROUP and action == REMOVE}
+    if "multilib_policy" not in step.lines or all(action == REMOVE for _, action in step.marks):
+        return False
+    names.update({"twin-guest"} if "libtwin" in names else ())
+    # DNF notes the reason of the first installed package again when another package of a removed name stays.
+    return any(f" {name}-" in line for name in names) and bool(re.search("only VOK|only DNF remove", line)) \
+        or bool(names) and "only VOK reason change" in line
+
+
 RULES = [
     Rule("vendor list", "dnf lists upgrades that a change of vendor forbids, and does not take them.",
          lambda line, step: "allow_vendor_change" in step.lines and line in _RIVALS),
@@ -132,6 +142,8 @@ RULES = [
          lambda line, step: line.startswith("dnf upgrade leaves out libtwin")),
     Rule("installed as marked", "A package that another one on offer replaces is installed as marked; dnf "
          "installs what replaces it.", _replaced),
+    Rule("architecture not kept", "With multilib_policy=all dnf does nothing for the installation of an installed package, "
+         "so that it cannot be told to keep an architecture beside a removed one.", _unkept),
     Rule("group without packages", "With best=1, if a change of vendor forbids the newest version of an installed member, "
          "dnf installs the group's record and none of its packages; VOK installs the other members.", _without_packages),
     Rule("either member", "With obsoletes=0 one of two members that exclude each other is left out; which "
