@@ -119,6 +119,14 @@ def _unkept(line, step):
         or bool(names) and "only VOK reason change" in line
 
 
+def _removed_beside(line, step):
+    members = {name for row, action in step.marks if row.kind == GROUP and action != REMOVE
+               for _, name, *_ in group(row)[1]}
+    removed = {row.name for row, action in step.marks if row.kind != GROUP and action == REMOVE} & members
+    return any(re.search(rf"\b{name}-\d", line) for name in removed) \
+        or bool(removed) and bool(re.match("records: only (VOK|DNF) install group ", line))
+
+
 RULES = [
     Rule("vendor list", "dnf lists upgrades that a change of vendor forbids, and does not take them.",
          lambda line, step: "allow_vendor_change" in step.lines and line in _RIVALS),
@@ -142,6 +150,8 @@ RULES = [
          lambda line, step: line.startswith("dnf upgrade leaves out libtwin")),
     Rule("installed as marked", "A package that another one on offer replaces is installed as marked; dnf "
          "installs what replaces it.", _replaced),
+    Rule("member removed beside its group", "A member that is marked for removal by itself beside the installation of its "
+         "group goes in VOK; dnf installs it again.", _removed_beside),
     Rule("architecture not kept", "With multilib_policy=all dnf does nothing for the installation of an installed package, "
          "so that it cannot be told to keep an architecture beside a removed one.", _unkept),
     Rule("group without packages", "With best=1, if a change of vendor forbids the newest version of an installed member, "
