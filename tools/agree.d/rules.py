@@ -123,6 +123,8 @@ def _removed_beside(line, step):
     members = {name for row, action in step.marks if row.kind == GROUP and action != REMOVE
                for _, name, *_ in group(row)[1]}
     removed = {row.name for row, action in step.marks if row.kind != GROUP and action == REMOVE} & members
+    if removed and "best" in step.lines:  # dnf meets "conflicting requests" and installs the group's record alone
+        return True
     return any(re.search(rf"\b{name}-\d", line) for name in removed) \
         or bool(removed) and bool(re.match("records: only (VOK|DNF) install group ", line))
 
