@@ -19,7 +19,7 @@ BUILD = pathlib.Path(os.environ.get("VOK_BUILD", CHECKOUT / "build" / "release")
 UPDATE, INSTALL, REMOVE, NONE = range(4)
 
 sys.path.insert(0, str(CHECKOUT / "tools"))
-from guidriver import Program  # noqa: E402
+from guidriver import Program, wait_for  # noqa: E402
 
 
 class Recorder:
@@ -100,3 +100,17 @@ def start_program(case, root, *arguments):
     program = Program([SANDBOX, "run", root, "--", BUILD / "bin" / "vok", *arguments], root / "vok.output")
     case.addCleanup(program.kill)
     return program
+
+
+def wait_for_scriptlet(root, words, timeout=60):
+    """Waits until rpm runs the scriptlet of a root that holds these words."""
+    def runs():
+        for path in pathlib.Path(root, "var/tmp").glob("rpm-tmp.*"):
+            try:
+                if words in path.read_text(encoding="utf-8"):
+                    return True
+            except OSError:
+                pass
+        return False
+
+    wait_for(runs, "the scriptlet of %s" % words, timeout)

@@ -13,7 +13,7 @@ import signal
 import subprocess
 import unittest
 
-from recorder import start_program
+from recorder import start_program, wait_for_scriptlet
 from scriptdriver import SANDBOX, Case, calls, run, tool
 from guidriver import Screen, key, wait_for
 
@@ -64,20 +64,6 @@ def check(root):
     """What dnf finds wrong with a root; empty when nothing is."""
     return subprocess.run([SANDBOX, "dnf", root, "-q", "check"], text=True, stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT).stdout
-
-
-def wait_for_scriptlet(root, words):
-    """Waits until rpm runs the scriptlet of a root that holds these words."""
-    def runs():
-        for path in pathlib.Path(root, "var/tmp").glob("rpm-tmp.*"):
-            try:
-                if words in path.read_text(encoding="utf-8"):
-                    return True
-            except OSError:
-                pass
-        return False
-
-    wait_for(runs, "the scriptlet of %s" % words)
 
 
 def kill_in_scriptlet(root, words, process):

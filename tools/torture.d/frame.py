@@ -27,8 +27,8 @@ import tempfile
 import time
 import traceback
 
-from guidriver import Failure, Program, Screen, wait_for
-from recorder import BUILD, SANDBOX, Recorder
+from guidriver import Failure, Program, Screen
+from recorder import BUILD, SANDBOX, Recorder, wait_for_scriptlet
 
 # In the URL of a repository of each root: it must not appear in any output.
 SECRET = "t0rtured-s3cret"
@@ -167,16 +167,7 @@ class Stage:
 
     def wait_for_scriptlet(self, words, timeout=120):
         """Waits until rpm runs a shell scriptlet that holds these words."""
-        def runs():
-            for path in (self.root / "var/tmp").glob("rpm-tmp.*"):
-                try:
-                    if words in path.read_text(encoding="utf-8"):
-                        return True
-                except OSError:
-                    pass
-            return False
-
-        wait_for(runs, f"the scriptlet of {words}", timeout)
+        wait_for_scriptlet(self.root, words, timeout)
 
     def processes(self):
         """[(pid, command line)] of the processes that this case started and that still run."""
